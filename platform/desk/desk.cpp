@@ -1,0 +1,99 @@
+// The record itself: faults, look-up of handles, and what tests do to it.
+#include "ground.h"
+
+#include <algorithm>
+#include <cstring>
+
+DeskState Desk;
+
+int Fails(const char* call) {
+    ++Desk.calls;
+    if (Desk.bTrace)
+        Desk.trace.push_back(call);
+    DeskFault& fault = Desk.fault;
+    if (fault.callsLeft == 0 || (!fault.call.empty() && fault.call != call))
+        return 0;
+    if (fault.callsLeft > 1) {
+        --fault.callsLeft;
+        return 0;
+    }
+    fault.callsLeft = fault.bForGood ? 1 : 0;
+    ++fault.hits;
+    Desk.lastError = fault.error;
+    return 1;
+}
+
+int CallsOf(const char* call) {
+    return static_cast<int>(std::count_if(Desk.trace.begin(), Desk.trace.end(),
+                                          [call](const char* made) { return !std::strcmp(made, call); }));
+}
+
+// Handles start high and are spaced, so that a small number is never taken for one.
+static HWND HandleAt(std::size_t place) {
+    return reinterpret_cast<HWND>((place + 0x4000) * 4);
+}
+
+static std::size_t PlaceOf(HWND window) {
+    return reinterpret_cast<std::size_t>(window) / 4 - 0x4000;
+}
+
+DeskWindow& RowOf(HWND window) {
+    return Desk.windows.at(PlaceOf(window));
+}
+
+DeskWindow* Living(HWND window) {
+    const std::size_t place = PlaceOf(window);
+    if (place >= Desk.windows.size() || !Desk.windows[place].handle)
+        return nullptr;
+    return &Desk.windows[place];
+}
+
+DeskWindow* Named(HWND window) {
+    DeskWindow* row = Living(window);
+    if (row && row->diesAtCall && --row->diesAtCall == 0) {
+        KillWindow(window);
+        row = nullptr;
+    }
+    if (!row)
+        Desk.lastError = ERROR_INVALID_WINDOW_HANDLE;
+    return row;
+}
+
+HWND OpenWindow(const char* title, const RECT& place, const char* className) {
+    DeskWindow window;
+    window.handle = HandleAt(Desk.windows.size());
+    window.className = className;
+    window.title = title;
+    window.place = place;
+    window.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
+    Desk.windows.push_back(window);
+    Desk.order.insert(Desk.order.begin(), window.handle);
+    return window.handle;
+}
+
+void KillWindow(HWND window) {
+    RowOf(window).handle = nullptr;
+    std::erase(Desk.order, window);
+    for (HWND* held : {&Desk.foreground, &Desk.focus, &Desk.capture})
+        if (*held == window)
+            *held = nullptr;
+    DropTimersOf(window);
+    DropHotkeysOf(window);
+}
+
+int CopyText(const std::string& from, char* to, int limit) {
+    if (limit <= 0)
+        return 0;
+    const std::size_t length = std::min(from.size(), static_cast<std::size_t>(limit - 1));
+    std::memcpy(to, from.data(), length);
+    to[length] = 0;
+    return static_cast<int>(length);
+}
+
+std::string LowerCase(const std::string& text) {
+    std::string lower = text;
+    for (char& letter : lower)
+        if (letter >= 'A' && letter <= 'Z')
+            letter = static_cast<char>(letter - 'A' + 'a');
+    return lower;
+}

@@ -1,0 +1,187 @@
+// The desktop held in memory: one record, which tests read and write directly. The calls that windows.h
+// declares act on it as Windows would. Start reading here; each .cpp beside it implements one group of calls.
+#pragma once
+
+#include "windows.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+// How a window of another program behaves when it is asked something.
+enum class DeskAnswer {
+    Answers,
+    TimesOut, // waits out its time, then fails with `error` (0 or ERROR_TIMEOUT)
+    Hung,     // known to be hung: fails at once with `error`
+    Fails,    // refuses with `error`
+};
+
+struct DeskMessage {
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+    RECT record; // what lParam pointed to, for WM_MOVING
+};
+
+struct DeskWindow {
+    HWND handle = nullptr; // null: the window is gone
+    std::string className;
+    std::string title;
+    RECT place{}; // screen pixels
+    DWORD style = 0;
+    DWORD exStyle = 0;
+    HWND owner = nullptr;
+    HINSTANCE instance = nullptr;
+    WNDPROC procedure = nullptr; // null: a window of another program
+    RECT restored{};             // place before it was minimized or maximized
+    int alpha = -1;              // as SetLayeredWindowAttributes set it; -1: never
+
+    // Windows of other programs only:
+    DeskAnswer answer = DeskAnswer::Answers;
+    DWORD error = 0;
+    int bRewrites = 0; // its WM_MOVING handler puts `rewritten` into the record
+    RECT rewritten{};  // left, top, width, height
+    SIZE least{0, 0};  // sizes that it refuses to go below or above
+    SIZE most{1 << 20, 1 << 20};
+    int diesAtCall = 0; // the n-th call that names this window finds it gone; 0: never
+    std::vector<DeskMessage> received;
+
+    int bInvalid = 0; // waits for WM_PAINT
+    int bErase = 0;   // its background waits too
+    RECT invalid{};   // client pixels
+};
+
+struct DeskTimer {
+    HWND window;
+    UINT_PTR id;
+    DWORD period; // milliseconds
+    DWORD due;
+    TIMERPROC callback;
+};
+
+struct DeskHotkey {
+    HWND window; // null: held by another program
+    int id;
+    UINT modifiers;
+    UINT key;
+};
+
+struct DeskBox {
+    HWND owner;
+    std::string text;
+    std::string caption;
+    UINT type;
+    int answer;
+};
+
+// One call fails: the n-th of that name, or the n-th of all. `hits` says how often it struck.
+struct DeskFault {
+    std::string call;  // empty: any call
+    int callsLeft = 0; // 0: nothing fails
+    int bForGood = 0;  // once struck, all later ones fail too
+    DWORD error = 0;
+    int hits = 0;
+};
+
+enum class DeskObjectKind { Brush, Font, Icon };
+
+struct DeskObject {
+    DeskObjectKind kind{};
+    int bStock = 0; // belongs to the system and is never deleted
+    int bLive = 1;
+    int index = 0;  // Brush: system colour; Icon: resource number
+    int height = 0; // Font
+    int weight = 0;
+    std::string face;
+};
+
+struct DeskContext {
+    HWND window;
+    HGDIOBJ font;
+    int bLive;
+};
+
+// One thing drawn.
+struct DeskStroke {
+    std::string what; // name of the call
+    HWND window;
+    RECT rect;
+    std::string text;
+    HGDIOBJ font;
+    UINT format;
+};
+
+struct DeskModule {
+    std::map<std::string, FARPROC> exports;
+    int bInstalled = 1; // LoadLibraryA finds it
+    int loads = 0;
+};
+
+struct DeskState {
+    std::deque<DeskWindow> windows; // every window ever made; a handle is a place in here
+    std::vector<HWND> order;        // living top-level windows, the topmost first
+    std::map<std::string, WNDCLASSA> classes;
+    HWND foreground = nullptr;
+    HWND focus = nullptr;
+    HWND capture = nullptr;
+
+    DWORD now = 0;   // milliseconds
+    DWORD until = 0; // GetMessageA lets time pass up to here, then gives 0 ...
+    int bRunDry = 0; // ... and sets this, so that it is not taken for the end
+    std::deque<std::function<void()>>
+        script; // what the user does, one act whenever nothing else is to be done
+    std::deque<MSG> queue;
+    int bQuit = 0;
+    int exitCode = 0;
+    std::vector<DeskTimer> timers;
+
+    POINT cursor{512, 384};
+    BYTE keysNow[256] = {};  // GetAsyncKeyState: the state of the moment, 1 is down
+    BYTE keysRead[256] = {}; // GetKeyState: as of the last input message that the thread has read
+    std::vector<DeskHotkey> hotkeys;
+
+    std::vector<RECT> monitors{
+        {0, 0, 1024, 768}
+    };                    // the first is the primary one
+    std::map<std::string, DeskModule> modules; // by lower-case name
+    std::map<std::string, std::string> files;  // profile files by lower-case name
+
+    std::deque<int> answers; // to the boxes that will come
+    std::vector<DeskBox> boxes;
+    int surprises = 0; // boxes without a prepared answer, and calls that would have blocked for ever
+    std::vector<UINT> beeps;
+    int locks = 0; // calls of LockWorkStation
+    std::vector<DeskMessage> broadcasts;
+
+    std::deque<DeskObject> objects;
+    std::deque<DeskContext> contexts;
+    std::vector<DeskStroke> strokes;
+
+    DWORD lastError = 0;
+    DeskFault fault;
+    int calls = 0;  // platform calls so far
+    int bTrace = 1; // keep their names; off in benchmarks
+    std::vector<const char*> trace;
+};
+
+extern DeskState Desk;
+
+// Opens a window of another program, on top of the others and without activating it. Screen pixels.
+HWND OpenWindow(const char* title, const RECT& place, const char* className = "Program");
+
+// The row of a window, dead or alive; `window` must have been a window once.
+DeskWindow& RowOf(HWND window);
+
+// The window is gone from one moment to the next, as when its program is killed.
+void KillWindow(HWND window);
+
+// The user presses a combination: posts WM_HOTKEY if this process holds it. Modifiers are MOD_ values.
+void PressCombination(UINT modifiers, UINT key);
+
+// The user holds or releases a key or button: the state of the moment, not yet read by any thread.
+void HoldKey(int key, int bDown);
+
+// How often a call of this name was made since `Desk.trace` was last cleared.
+int CallsOf(const char* call);

@@ -1,0 +1,31 @@
+// What the implementations of the calls share; tests do not need it.
+#pragma once
+
+#include "desk.h"
+
+// Counts a platform call. Non-zero: this is the call that shall fail, and the last error is set.
+int Fails(const char* call);
+
+// The living window behind a handle, or null with the last error set. Counts down `diesAtCall`.
+DeskWindow* Named(HWND window);
+
+// As `Named`, without touching anything.
+DeskWindow* Living(HWND window);
+
+// Marks part of the client area (null: all of it) as waiting for a paint.
+void Invalidate(DeskWindow& window, const RECT* rect, int bErase);
+
+// Calls the window's procedure; 0 when it is a window of another program.
+LRESULT CallProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// Makes the window the foreground window and puts it on top.
+void Activate(HWND window);
+
+// Takes the timers and the hotkeys of a window that is going away.
+void DropTimersOf(HWND window);
+void DropHotkeysOf(HWND window);
+
+// A copy of the text in at most `limit` characters, the zero included. Gives the characters copied.
+int CopyText(const std::string& from, char* to, int limit);
+
+std::string LowerCase(const std::string& text);

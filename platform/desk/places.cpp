@@ -1,0 +1,141 @@
+// Where windows stand and whether they show: rectangles, moving with its limits, showing, minimizing.
+#include "ground.h"
+
+#include <algorithm>
+
+BOOL GetWindowRect(HWND window, RECT* rect) {
+    const DeskWindow* row = Fails("GetWindowRect") ? nullptr : Named(window);
+    if (row)
+        *rect = row->place;
+    return row != nullptr;
+}
+
+// A sizing frame is 4 pixels wide, a thin border 1.
+static int FrameWidth(const DeskWindow& window) {
+    if (window.style & WS_THICKFRAME)
+        return 4;
+    return window.style & WS_BORDER ? 1 : 0;
+}
+
+BOOL GetClientRect(HWND window, RECT* rect) {
+    const DeskWindow* row = Fails("GetClientRect") ? nullptr : Named(window);
+    if (!row)
+        return FALSE;
+    const int frames = 2 * FrameWidth(*row);
+    *rect = {0, 0, std::max(0, row->place.right - row->place.left - frames),
+             std::max(0, row->place.bottom - row->place.top - frames)};
+    return TRUE;
+}
+
+// A window of this process says its limits itself, when it has a sizing frame.
+static void AskLimits(DeskWindow& window) {
+    if (!window.procedure || !(window.style & WS_THICKFRAME))
+        return;
+    MINMAXINFO limits{};
+    limits.ptMaxTrackSize = {1 << 20, 1 << 20};
+    CallProcedure(window.handle, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    window.least = {limits.ptMinTrackSize.x, limits.ptMinTrackSize.y};
+    window.most = {limits.ptMaxTrackSize.x, limits.ptMaxTrackSize.y};
+}
+
+static int Within(int size, int least, int most) {
+    return std::max({std::min(size, most), least, 0});
+}
+
+BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint) {
+    DeskWindow* row = Fails("MoveWindow") ? nullptr : Named(window);
+    if (!row)
+        return FALSE;
+    AskLimits(*row);
+    width = Within(width, row->least.cx, row->most.cx);
+    height = Within(height, row->least.cy, row->most.cy);
+    row->place = {x, y, x + width, y + height};
+    if (repaint)
+        Invalidate(*row, nullptr, 1);
+    CallProcedure(window, WM_MOVE, 0, MAKELPARAM(x, y));
+    CallProcedure(window, WM_SIZE, 0, MAKELPARAM(width, height));
+    return TRUE;
+}
+
+static void Restore(DeskWindow& window) {
+    if (!(window.style & (WS_MINIMIZE | WS_MAXIMIZE)))
+        return;
+    window.style &= ~(WS_MINIMIZE | WS_MAXIMIZE);
+    window.place = window.restored;
+}
+
+static void Minimize(DeskWindow& window) {
+    if (!(window.style & (WS_MINIMIZE | WS_MAXIMIZE)))
+        window.restored = window.place;
+    window.style = (window.style & ~WS_MAXIMIZE) | WS_MINIMIZE;
+    window.place = {-32000, -32000, -31840, -31972};
+}
+
+static void Maximize(DeskWindow& window) {
+    if (!(window.style & (WS_MINIMIZE | WS_MAXIMIZE)))
+        window.restored = window.place;
+    window.style = (window.style & ~WS_MINIMIZE) | WS_MAXIMIZE;
+    window.place = Desk.monitors.front();
+}
+
+// The next window in sight takes the foreground from one that goes out of sight.
+static void PassForeground(HWND from) {
+    if (Desk.foreground != from)
+        return;
+    const auto inSight = [from](HWND handle) {
+        return handle != from && (RowOf(handle).style & (WS_VISIBLE | WS_MINIMIZE)) == WS_VISIBLE;
+    };
+    const auto next = std::find_if(Desk.order.begin(), Desk.order.end(), inSight);
+    Desk.foreground = next == Desk.order.end() ? nullptr : *next;
+}
+
+static void ChangeState(DeskWindow& window, int command) {
+    switch (command) {
+    case SW_MINIMIZE: Minimize(window); break;
+    case SW_MAXIMIZE: Maximize(window); break;
+    case SW_RESTORE:
+    case SW_SHOWNOACTIVATE: Restore(window); break;
+    default: break;
+    }
+}
+
+// SW_SHOW on a window that shows already does nothing.
+static int Activates(int command, BOOL wasVisible) {
+    return command == SW_SHOW ? !wasVisible : command == SW_RESTORE || command == SW_MAXIMIZE;
+}
+
+BOOL ShowWindow(HWND window, int command) {
+    DeskWindow* row = Fails("ShowWindow") ? nullptr : Named(window);
+    if (!row)
+        return FALSE;
+    const BOOL wasVisible = (row->style & WS_VISIBLE) != 0;
+    if (command == SW_HIDE) {
+        row->style &= ~WS_VISIBLE;
+        PassForeground(window);
+        return wasVisible;
+    }
+    ChangeState(*row, command);
+    row->style |= WS_VISIBLE;
+    if (!wasVisible)
+        Invalidate(*row, nullptr, 1);
+    if (command == SW_MINIMIZE)
+        PassForeground(window);
+    if (Activates(command, wasVisible))
+        Activate(window);
+    return wasVisible;
+}
+
+BOOL IsWindowVisible(HWND window) {
+    const DeskWindow* row = Fails("IsWindowVisible") ? nullptr : Named(window);
+    return row && (row->style & WS_VISIBLE);
+}
+
+BOOL IsIconic(HWND window) {
+    const DeskWindow* row = Fails("IsIconic") ? nullptr : Named(window);
+    return row && (row->style & WS_MINIMIZE);
+}
+
+BOOL IsZoomed(HWND window) {
+    const DeskWindow* row = Fails("IsZoomed") ? nullptr : Named(window);
+    return row && (row->style & WS_MAXIMIZE);
+}

@@ -1,0 +1,4 @@
+// The common dialogs that Quorl uses.
+#pragma once
+
+#include "windows.h"

@@ -1,0 +1,4 @@
+// The shell's calls that Quorl makes.
+#pragma once
+
+#include "windows.h"

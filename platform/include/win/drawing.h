@@ -1,0 +1,42 @@
+// Painting: invalid areas, contexts, drawing objects, text.
+#pragma once
+
+#include "types.h"
+
+struct PAINTSTRUCT {
+    HDC hdc;
+    BOOL fErase;
+    RECT rcPaint;
+};
+
+struct DRAWTEXTPARAMS;
+
+constexpr int COLOR_BACKGROUND = 1;
+constexpr int COLOR_INFOBK = 24;
+
+constexpr int TRANSPARENT = 1;
+
+constexpr UINT DT_WORDBREAK = 0x10;
+constexpr UINT DT_NOPREFIX = 0x800;
+constexpr UINT DT_END_ELLIPSIS = 0x8000;
+constexpr UINT DT_MODIFYSTRING = 0x10000;
+
+constexpr int FW_LIGHT = 300;
+
+BOOL WINAPI InvalidateRect(HWND window, const RECT* rect, BOOL erase);
+BOOL WINAPI UpdateWindow(HWND window);
+HDC WINAPI BeginPaint(HWND window, PAINTSTRUCT* paint);
+BOOL WINAPI EndPaint(HWND window, const PAINTSTRUCT* paint);
+HDC WINAPI GetDC(HWND window);
+int WINAPI ReleaseDC(HWND window, HDC context);
+
+HBRUSH WINAPI GetSysColorBrush(int index);
+HFONT WINAPI CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic,
+                         DWORD underline, DWORD strikeOut, DWORD charSet, DWORD outPrecision,
+                         DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily, LPCSTR face);
+HGDIOBJ WINAPI SelectObject(HDC context, HGDIOBJ object);
+BOOL WINAPI DeleteObject(HGDIOBJ object);
+
+int WINAPI SetBkMode(HDC context, int mode);
+BOOL WINAPI GetTextExtentPoint32A(HDC context, LPCSTR text, int length, SIZE* extent);
+int WINAPI DrawTextExA(HDC context, LPSTR text, int length, RECT* rect, UINT format, DRAWTEXTPARAMS* params);

@@ -1,0 +1,94 @@
+// Windows: classes, creation, places, styles, order, foreground.
+#pragma once
+
+#include "types.h"
+
+using WNDPROC = LRESULT(CALLBACK*)(HWND, UINT, WPARAM, LPARAM);
+using WNDENUMPROC = BOOL(CALLBACK*)(HWND, LPARAM);
+
+struct WNDCLASSA {
+    UINT style;
+    WNDPROC lpfnWndProc;
+    int cbClsExtra;
+    int cbWndExtra;
+    HINSTANCE hInstance;
+    HICON hIcon;
+    HCURSOR hCursor;
+    HBRUSH hbrBackground;
+    LPCSTR lpszMenuName;
+    LPCSTR lpszClassName;
+};
+
+struct MINMAXINFO {
+    POINT ptReserved;
+    POINT ptMaxSize;
+    POINT ptMaxPosition;
+    POINT ptMinTrackSize;
+    POINT ptMaxTrackSize;
+};
+
+constexpr UINT CS_VREDRAW = 1;
+constexpr UINT CS_HREDRAW = 2;
+constexpr UINT CS_DBLCLKS = 8;
+
+constexpr DWORD WS_THICKFRAME = 0x00040000;
+constexpr DWORD WS_BORDER = 0x00800000;
+constexpr DWORD WS_CAPTION = 0x00C00000;
+constexpr DWORD WS_MAXIMIZE = 0x01000000;
+constexpr DWORD WS_DISABLED = 0x08000000;
+constexpr DWORD WS_VISIBLE = 0x10000000;
+constexpr DWORD WS_MINIMIZE = 0x20000000;
+constexpr DWORD WS_CHILD = 0x40000000;
+constexpr DWORD WS_POPUP = 0x80000000;
+constexpr DWORD WS_OVERLAPPEDWINDOW = 0x00CF0000;
+
+constexpr DWORD WS_EX_TOPMOST = 0x00000008;
+constexpr DWORD WS_EX_TOOLWINDOW = 0x00000080;
+constexpr DWORD WS_EX_LAYERED = 0x00080000;
+constexpr DWORD WS_EX_NOACTIVATE = 0x08000000;
+
+constexpr int SW_HIDE = 0;
+constexpr int SW_MAXIMIZE = 3;
+constexpr int SW_SHOWNOACTIVATE = 4;
+constexpr int SW_SHOW = 5;
+constexpr int SW_MINIMIZE = 6;
+constexpr int SW_SHOWNA = 8;
+constexpr int SW_RESTORE = 9;
+
+constexpr int GWLP_HINSTANCE = -6;
+constexpr int GWL_STYLE = -16;
+constexpr int GWL_EXSTYLE = -20;
+
+constexpr DWORD LWA_ALPHA = 2;
+
+inline const HWND HWND_BROADCAST = reinterpret_cast<HWND>(static_cast<UINT_PTR>(0xffff));
+
+ATOM WINAPI RegisterClassA(const WNDCLASSA* description);
+HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, int x, int y,
+                            int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
+                            LPVOID parameter);
+BOOL WINAPI DestroyWindow(HWND window);
+BOOL WINAPI IsWindow(HWND window);
+HWND WINAPI FindWindowA(LPCSTR className, LPCSTR title);
+BOOL WINAPI EnumWindows(WNDENUMPROC callback, LPARAM parameter);
+HWND WINAPI GetDesktopWindow();
+int WINAPI GetClassNameA(HWND window, LPSTR text, int limit);
+int WINAPI GetWindowTextA(HWND window, LPSTR text, int limit);
+LONG_PTR WINAPI GetWindowLongPtrA(HWND window, int index);
+
+BOOL WINAPI GetWindowRect(HWND window, RECT* rect);
+BOOL WINAPI GetClientRect(HWND window, RECT* rect);
+BOOL WINAPI MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
+BOOL WINAPI ShowWindow(HWND window, int command);
+BOOL WINAPI IsWindowVisible(HWND window);
+BOOL WINAPI IsWindowEnabled(HWND window);
+BOOL WINAPI EnableWindow(HWND window, BOOL enable);
+BOOL WINAPI IsIconic(HWND window);
+BOOL WINAPI IsZoomed(HWND window);
+BOOL WINAPI SetLayeredWindowAttributes(HWND window, COLORREF key, BYTE alpha, DWORD flags);
+
+HWND WINAPI GetForegroundWindow();
+BOOL WINAPI SetForegroundWindow(HWND window);
+HWND WINAPI SetFocus(HWND window);
+HWND WINAPI SetActiveWindow(HWND window);
+BOOL WINAPI BringWindowToTop(HWND window);

@@ -1,0 +1,10 @@
+// The Windows calls that Quorl makes, declared for a desktop held in memory (see desk/desk.h).
+#pragma once
+
+#include "win/types.h"
+
+#include "win/drawing.h"
+#include "win/input.h"
+#include "win/messages.h"
+#include "win/system.h"
+#include "win/windows.h"

@@ -1,0 +1,17 @@
+// Where screen, desktop and map meet: measuring the screen, and the way from the map to the desktop.
+#pragma once
+
+#include "core/platform.h"
+
+// Two int32, handed on by pointer: client coordinates of the map, or what the receiver makes of them.
+struct ActionPoint {
+    int x, y;
+};
+
+// Sets `rect` to the union of all monitors and the origin, in screen pixels. Always 1; no monitor leaves it
+// empty.
+int MonitorUnion(RECT* rect);
+
+// Overwrites a point of the map's client area with desktop coordinates and returns it. A map without area
+// gives 0.
+ActionPoint* MapToDesktop(ActionPoint* point);

@@ -1,0 +1,72 @@
+// The Toolwin's procedure: one row a message, each with its handler.
+#include "core/main_window.h"
+
+#include "actions/dispatch.h"
+#include "core/create.h"
+#include "core/quit.h"
+#include "core/state.h"
+
+static LRESULT OnCreateMessage(HWND window, UINT, WPARAM, LPARAM) {
+    return OnCreate(window) ? 0 : -1;
+}
+
+// The window stays: it goes with the process.
+static LRESULT OnEndMessage(HWND window, UINT, WPARAM, LPARAM) {
+    ConfirmQuit(window);
+    return 0;
+}
+
+static LRESULT OnColorsChanged(HWND window, UINT, WPARAM, LPARAM) {
+    BackBrush = GetSysColorBrush(COLOR_BACKGROUND);
+    Repaint(window);
+    return 0;
+}
+
+static LRESULT OnSizeLimits(HWND, UINT, WPARAM, LPARAM lParam) {
+    MINMAXINFO& limits = *reinterpret_cast<MINMAXINFO*>(lParam);
+    limits.ptMinTrackSize = {LEAST_TOOLWIN.cx, LEAST_TOOLWIN.cy};
+    limits.ptMaxTrackSize = {MOST_TOOLWIN.cx, MOST_TOOLWIN.cy};
+    return 0;
+}
+
+static LRESULT OnHotkey(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    DoAction(window, static_cast<int>(wParam), nullptr);
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+static LRESULT OnDesktopSizeQuery(HWND, UINT, WPARAM, LPARAM lParam) {
+    if (auto* limits = reinterpret_cast<MINMAXINFO*>(lParam))
+        limits->ptMaxTrackSize = {Quorl.right, Quorl.bottom};
+    return 0;
+}
+
+namespace {
+
+struct MessageRow {
+    UINT message;
+    WNDPROC does;
+};
+
+} // namespace
+
+static const UINT DESKTOP_SIZE_MESSAGE = 1134; // open to other programs; a MINMAXINFO receives Quorl's size
+
+static const MessageRow MainMessages[] = {
+    {WM_HOTKEY,            OnHotkey          },
+    {WM_GETMINMAXINFO,     OnSizeLimits      },
+    {WM_CREATE,            OnCreateMessage   },
+    {WM_DESTROY,           OnEndMessage      },
+    {WM_CLOSE,             OnEndMessage      },
+    {WM_QUIT,              OnEndMessage      },
+    {WM_SYSCOLORCHANGE,    OnColorsChanged   },
+    {WM_SETTINGCHANGE,     OnColorsChanged   },
+    {WM_DEVMODECHANGE,     OnColorsChanged   },
+    {DESKTOP_SIZE_MESSAGE, OnDesktopSizeQuery},
+};
+
+LRESULT CALLBACK MainWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    for (const MessageRow& row : MainMessages)
+        if (row.message == message)
+            return row.does(window, message, wParam, lParam);
+    return DefWindowProcA(window, message, wParam, lParam);
+}

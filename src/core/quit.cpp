@@ -1,0 +1,15 @@
+// The way out.
+#include "core/quit.h"
+
+#include "actions/hotkeys.h"
+#include "scroll/gather.h"
+
+// The process ends only when control is back in the message loop, so all steps finish first.
+int ConfirmQuit(HWND window) {
+    if (MessageBoxA(window, "QUIT?", "QUIT?", MB_YESNO) != IDYES)
+        return 0;
+    PostQuitMessage(0);
+    ClearAllActionKeys(window);
+    GatherWindows();
+    return 1;
+}

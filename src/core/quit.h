@@ -1,0 +1,8 @@
+// The way out.
+#pragma once
+
+#include "core/platform.h"
+
+// Asks "QUIT?". Yes: the quit message is posted, hotkeys are released, all windows fold back onto the screen,
+// and 1 is returned. Any other answer changes nothing and gives 0.
+int ConfirmQuit(HWND window);

@@ -1,0 +1,71 @@
+// Moving all windows together.
+#include "scroll/shift.h"
+
+#include "actions/action_table.h"
+#include "core/state.h"
+#include "scroll/locked_windows.h"
+#include "scroll/window_table.h"
+
+#include <cstring>
+
+WindowPlace ShiftedPlace(const RECT& window, int dx, int dy, const RECT& vdesk, const RECT& quorl,
+                         int border) {
+    const LONG width = window.right - window.left;
+    const LONG height = window.bottom - window.top;
+    WindowPlace place{window.left + dx, window.top + dy, width, height};
+    if (place.x > quorl.right)
+        place.x = quorl.right - border - width;
+    if (place.x + vdesk.left < 0)
+        place.x = -vdesk.left;
+    if (place.y > quorl.bottom)
+        place.y = quorl.bottom - border - height;
+    if (place.y + vdesk.top < 0)
+        place.y = -vdesk.top;
+    return place;
+}
+
+int AcceptsPlace(HWND window, WindowPlace* place, UINT patience) {
+    DWORD_PTR result = 0;
+    return SendMessageTimeoutA(window, WM_MOVING, 0, reinterpret_cast<LPARAM>(place), SMTO_ABORTIFHUNG,
+                               patience, &result) != 0;
+}
+
+// A list view that is a window of its own scrolls its contents as well. Bounded like the ping: a plain send
+// would wait for a hung program for ever.
+static void ScrollListView(HWND window, int dx, int dy) {
+    static const char listViewClass[] = "SysListView32";
+    char name[256] = "";
+    GetClassNameA(window, name, 255);
+    DWORD_PTR result = 0;
+    if (!std::strncmp(name, listViewClass, sizeof listViewClass - 1))
+        SendMessageTimeoutA(window, LVM_SCROLL, static_cast<WPARAM>(dx), dy, SMTO_ABORTIFHUNG,
+                            SCROLL_PATIENCE, &result);
+}
+
+static void RestoreIfZoomed(HWND window) {
+    if (!ActionTable[ROW_RESTORE_MAXIMIZED].value || !IsZoomed(window))
+        return;
+    ShowWindow(window, SW_HIDE);
+    ShowWindow(window, SW_RESTORE);
+}
+
+static void ShiftWindow(HWND window, int dx, int dy) {
+    RECT before{};
+    if (!GetWindowRect(window, &before))
+        return;
+    RestoreIfZoomed(window);
+    WindowPlace place = ShiftedPlace(before, dx, dy, VDesk, Quorl, Options.border);
+    if (!AcceptsPlace(window, &place, SCROLL_PATIENCE))
+        return;
+    MoveWindow(window, place.x, place.y, place.width, place.height, TRUE);
+    ShowWindow(window, SW_SHOW);
+}
+
+void ShiftWindows(int dx, int dy) {
+    for (int row = 0; row < num_windows; ++row) {
+        const HWND window = WindowTable[row].hwnd;
+        ScrollListView(window, dx, dy);
+        if (IsManagedWindow(window) && !IsLockedWindow(window))
+            ShiftWindow(window, dx, dy);
+    }
+}

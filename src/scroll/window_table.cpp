@@ -1,0 +1,61 @@
+// The snapshot of all top-level windows, and which of them Quorl may touch.
+#include "scroll/window_table.h"
+
+#include "actions/action_table.h"
+#include "core/state.h"
+#include "toolwin/tip.h"
+
+#include <cstring>
+
+WindowRow WindowTable[MAX_WINDOWS];
+int num_windows;
+
+// Windows that belong to the desktop itself, or to Quorl: they stay in sight.
+static const char* const FixedClasses[] = {"Progman", "Shell_TrayWnd", TIP_CLASS};
+
+// Tool bars that programs keep as windows of their own.
+static const char* const ToolbarClasses[] = {"BaseBar", "ToolbarWindow32", "ReBarWindow32"};
+
+BOOL CALLBACK AddWindowRow(HWND window, LPARAM) {
+    if (num_windows >= MAX_WINDOWS)
+        return FALSE;
+    RECT place{}; // a window that has gone meanwhile has a row without area until the next refresh
+    GetWindowRect(window, &place);
+    WindowTable[num_windows++] = {window, 0, place.left, place.top, place.right, place.bottom};
+    return TRUE;
+}
+
+void RebuildWindowTable() {
+    num_windows = 0;
+    EnumWindows(AddWindowRow, 0);
+}
+
+template <std::size_t Count>
+static int IsOneOf(const char* name, const char* const (&names)[Count]) {
+    for (const char* candidate : names)
+        if (!std::strcmp(name, candidate))
+            return 1;
+    return 0;
+}
+
+static int HasFixedClass(HWND window) {
+    char name[128] = "";
+    GetClassNameA(window, name, 127);
+    if (IsOneOf(name, FixedClasses))
+        return 1;
+    return ActionTable[ROW_IGNORE_TOOLWINS].value && IsOneOf(name, ToolbarClasses);
+}
+
+int IsManagedPlace(const RECT& place, const RECT& quorl) {
+    return place.left != place.right && place.top != place.bottom && place.left <= quorl.right &&
+           place.top <= quorl.bottom;
+}
+
+// The cheap tests come first; most windows of a system are invisible.
+int IsManagedWindow(HWND window) {
+    if (!window || !IsWindowEnabled(window) || !IsWindowVisible(window) || window == GetDesktopWindow() ||
+        IsIconic(window) || HasFixedClass(window) || window == MainWnd || window == TipWnd)
+        return 0;
+    RECT place{};
+    return GetWindowRect(window, &place) && IsManagedPlace(place, Quorl);
+}

@@ -1,0 +1,76 @@
+// The words of the user.
+#include "support/quorl_test.h"
+
+#include "core/main.h"
+#include "core/state.h"
+
+#include <ostream>
+
+HookRecord Hook;
+
+static void SaveSharedData(HWND window) {
+    Hook.window = window;
+}
+
+static void SetMouseHook(int bSet) {
+    Hook.set.push_back(bSet);
+}
+
+template <typename Function>
+static FARPROC Export(Function* function) {
+    return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(function));
+}
+
+void QuorlTest::SetUp() {
+    DeskModule& user = Desk.modules["user32.dll"];
+    user.loads = 1;
+    user.exports["SetLayeredWindowAttributes"] = Export(SetLayeredWindowAttributes);
+    user.exports["LockWorkStation"] = Export(LockWorkStation);
+    DeskModule& hook = Desk.modules["quorl.dll"];
+    hook.exports["SaveSharedData"] = Export(SaveSharedData);
+    hook.exports["SetMouseHook"] = Export(SetMouseHook);
+}
+
+void QuorlTest::TearDown() {
+    EXPECT_EQ(Desk.surprises, 0) << "an unexpected box, or a call that would have blocked"
+                                 << (Desk.boxes.empty() ? "" : ": " + Desk.boxes.back().text);
+}
+
+int StartQuorl() {
+    return StartUp(reinterpret_cast<HINSTANCE>(0x400000));
+}
+
+void Wait(DWORD milliseconds) {
+    Desk.until = Desk.now + milliseconds;
+    Desk.bRunDry = 0;
+    RunMessageLoop();
+}
+
+void Settle() {
+    Wait(0);
+}
+
+void Command(int row) {
+    PostMessageA(MainWnd, WM_HOTKEY, static_cast<WPARAM>(row), 0);
+    Settle();
+}
+
+void WillAnswer(std::initializer_list<int> answers) {
+    Desk.answers.assign(answers.begin(), answers.end());
+}
+
+RECT PlaceOf(HWND window) {
+    return RowOf(window).place;
+}
+
+RECT Rect(int left, int top, int right, int bottom) {
+    return {left, top, right, bottom};
+}
+
+bool operator==(const RECT& a, const RECT& b) {
+    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
+}
+
+void PrintTo(const RECT& rect, std::ostream* out) {
+    *out << '(' << rect.left << ", " << rect.top << ", " << rect.right << ", " << rect.bottom << ')';
+}

@@ -1,0 +1,45 @@
+// The words of the user: start Quorl on the in-memory desktop, act, let time pass, look.
+#pragma once
+
+#include "core/platform.h"
+#include "desk/desk.h"
+
+#include <gtest/gtest.h>
+
+// Each case runs in a process of its own, so nothing is ever set back.
+class QuorlTest : public testing::Test {
+  protected:
+    void SetUp() override;    // a screen of 1024 by 768, the optional functions, a hook library that records
+    void TearDown() override; // no unexpected box, nothing that would have blocked
+};
+
+// What the hook library of the in-memory desktop was told.
+struct HookRecord {
+    HWND window;          // SaveSharedData
+    std::vector<int> set; // SetMouseHook
+};
+
+extern HookRecord Hook;
+
+// Starts Quorl as WinMain does, up to the message loop. The result of StartUp.
+int StartQuorl();
+
+// Handles what is waiting, without letting time pass.
+void Settle();
+
+// Lets time pass, in milliseconds, and handles what comes.
+void Wait(DWORD milliseconds);
+
+// The user gives a command by its row, as a hotkey does.
+void Command(int row);
+
+// The user answers the next boxes, in this order.
+void WillAnswer(std::initializer_list<int> answers);
+
+RECT PlaceOf(HWND window);
+
+RECT Rect(int left, int top, int right, int bottom);
+
+// So that a mismatch prints both sides, and rectangles compare.
+bool operator==(const RECT& a, const RECT& b);
+void PrintTo(const RECT& rect, std::ostream* out);

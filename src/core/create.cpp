@@ -5,6 +5,8 @@
 #include "actions/hotkeys.h"
 #include "core/coordinates.h"
 #include "core/state.h"
+#include "menus/menu_list.h"
+#include "regions/region_table.h"
 #include "scroll/locked_windows.h"
 #include "scroll/refresh.h"
 #include "scroll/window_table.h"
@@ -57,7 +59,9 @@ int OnCreate(HWND window) {
     for (const StartValue& start : StartValues)
         ActionTable[start.row].value = start.value;
     TipWnd = nullptr;
+    num_regions = 0;
     SetTimer(window, REFRESH_TIMER, REFRESH_PERIOD, RefreshTimer);
+    SetDefaultMenu();
     RebuildWindowTable();
     SetDefaultBindings(window);
     ClearLockedWindows();

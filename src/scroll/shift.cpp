@@ -30,16 +30,19 @@ int AcceptsPlace(HWND window, WindowPlace* place, UINT patience) {
                                patience, &result) != 0;
 }
 
-// A list view that is a window of its own scrolls its contents as well. Bounded like the ping: a plain send
-// would wait for a hung program for ever.
-static void ScrollListView(HWND window, int dx, int dy) {
+static int IsListView(HWND window) {
     static const char listViewClass[] = "SysListView32";
     char name[256] = "";
     GetClassNameA(window, name, 255);
+    return !std::strncmp(name, listViewClass, sizeof listViewClass - 1);
+}
+
+// A list view that is a window of its own scrolls its contents as well. Bounded like the ping: a plain send
+// would wait for a hung program for ever. 0: it did not answer.
+static int ScrollListView(HWND window, int dx, int dy) {
     DWORD_PTR result = 0;
-    if (!std::strncmp(name, listViewClass, sizeof listViewClass - 1))
-        SendMessageTimeoutA(window, LVM_SCROLL, static_cast<WPARAM>(dx), dy, SMTO_ABORTIFHUNG,
-                            SCROLL_PATIENCE, &result);
+    return SendMessageTimeoutA(window, LVM_SCROLL, static_cast<WPARAM>(dx), dy, SMTO_ABORTIFHUNG,
+                               SCROLL_PATIENCE, &result) != 0;
 }
 
 static void RestoreIfZoomed(HWND window) {
@@ -64,7 +67,8 @@ static void ShiftWindow(HWND window, int dx, int dy) {
 void ShiftWindows(int dx, int dy) {
     for (int row = 0; row < num_windows; ++row) {
         const HWND window = WindowTable[row].hwnd;
-        ScrollListView(window, dx, dy);
+        if (IsListView(window) && !ScrollListView(window, dx, dy))
+            continue; // the ping would wait a second time for the same program
         if (IsManagedWindow(window) && !IsLockedWindow(window))
             ShiftWindow(window, dx, dy);
     }

@@ -19,5 +19,6 @@ int AcceptsPlace(HWND window, WindowPlace* place, UINT patience);
 WindowPlace ShiftedPlace(const RECT& window, int dx, int dy, const RECT& vdesk, const RECT& quorl,
                          int border);
 
-// Moves every managed, unlocked window by (dx, dy) pixels and shows it. A window that does not answer stays.
+// Moves every managed, unlocked window by (dx, dy) pixels and shows it. A window that does not answer stays,
+// and costs SCROLL_PATIENCE once.
 void ShiftWindows(int dx, int dy);

@@ -26,8 +26,10 @@ BOOL CALLBACK AddWindowRow(HWND window, LPARAM) {
 }
 
 void RebuildWindowTable() {
+    const int before = num_windows;
     num_windows = 0;
-    EnumWindows(AddWindowRow, 0);
+    if (!EnumWindows(AddWindowRow, 0) && num_windows == 0)
+        num_windows = before; // the old rows are whole, and better than none
 }
 
 template <std::size_t Count>
@@ -40,9 +42,8 @@ static int IsOneOf(const char* name, const char* const (&names)[Count]) {
 
 static int HasFixedClass(HWND window) {
     char name[128] = "";
-    GetClassNameA(window, name, 127);
-    if (IsOneOf(name, FixedClasses))
-        return 1;
+    if (!GetClassNameA(window, name, 127) || IsOneOf(name, FixedClasses))
+        return 1; // a window without a name has just gone
     return ActionTable[ROW_IGNORE_TOOLWINS].value && IsOneOf(name, ToolbarClasses);
 }
 

@@ -19,7 +19,7 @@ extern int num_windows;
 // The EnumWindows callback. Appends a row; 0 ends the enumeration when the table is full.
 BOOL CALLBACK AddWindowRow(HWND window, LPARAM parameter);
 
-// Empties the table and enumerates again.
+// Empties the table and enumerates again. An enumeration that fails at once leaves the old rows.
 void RebuildWindowTable();
 
 // 1 if Quorl may move and show this window. Asks the platform each time; a window that is gone, and the null

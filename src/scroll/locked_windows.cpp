@@ -16,7 +16,7 @@ int IsLockedWindow(HWND window) {
     for (int slot = 0; slot < UsedSlots; ++slot)
         if (LockedWindows[slot] == window)
             return 1;
-    return 0;
+    return !window && UsedSlots < MAX_LOCKED_WINDOWS; // a slot that was never used holds null
 }
 
 void LockWindow(HWND window) {

@@ -12,7 +12,8 @@ inline const HWND FREED_SLOT = reinterpret_cast<HWND>(static_cast<INT_PTR>(-1));
 
 void ClearLockedWindows();
 
-// 1 if the handle stands anywhere in the list, behind holes too.
+// 1 if the handle stands anywhere in the list, behind holes too; so the null handle stands in a list that is
+// not full.
 int IsLockedWindow(HWND window);
 
 // Puts the handle into the first slot that is free. Nothing happens when it is there already or all are

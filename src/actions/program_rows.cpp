@@ -28,8 +28,8 @@ int LockStation(const ActionCall&) {
 
 int StartScreenSaver(const ActionCall&) {
     DWORD_PTR result = 0;
-    return SendMessageTimeoutA(HWND_BROADCAST, WM_SYSCOMMAND, SC_SCREENSAVE, 0, SMTO_ABORTIFHUNG, 100,
-                               &result) != 0;
+    return static_cast<int>(
+        SendMessageTimeoutA(HWND_BROADCAST, WM_SYSCOMMAND, SC_SCREENSAVE, 0, SMTO_ABORTIFHUNG, 100, &result));
 }
 
 int Quit(const ActionCall& call) {

@@ -99,7 +99,9 @@ int StartUp(HINSTANCE instance) {
 
 int RunMessageLoop() {
     MSG message{};
-    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+    while (const BOOL got = GetMessageA(&message, nullptr, 0, 0)) {
+        if (got < 0)
+            continue; // no message came; only the user ends Quorl, or windows would stay out of reach
         TranslateMessage(&message);
         DispatchMessageA(&message);
     }

@@ -120,7 +120,7 @@ static void TipCleanup(HWND window) {
 static void TipPaint(HWND window) {
     RECT area{};
     GetClientRect(window, &area);
-    PAINTSTRUCT paint;
+    PAINTSTRUCT paint{};
     const HDC context = BeginPaint(window, &paint);
     SetBkMode(context, TRANSPARENT);
     const HGDIOBJ before = SelectObject(context, TipState.font);

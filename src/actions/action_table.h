@@ -42,6 +42,10 @@ extern ActionRow ActionTable[NUM_ACTIONS + 1];
 enum NamedRow : ActionId {
     ROW_REGION = 3,
     ROW_CENTER_ON_ACTIVE = 21,
+    ROW_SHRINK_WIDTH = 42,
+    ROW_EXPAND_WIDTH = 43,
+    ROW_SHRINK_HEIGHT = 44,
+    ROW_EXPAND_HEIGHT = 45,
     ROW_TOOLTIP = 70,
     ROW_LOAD_SETTINGS = 71,
     ROW_SAVE_SETTINGS = 72,

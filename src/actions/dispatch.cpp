@@ -2,6 +2,7 @@
 #include "actions/dispatch.h"
 
 #include "actions/program_rows.h"
+#include "actions/toolwin_rows.h"
 #include "actions/view_rows.h"
 #include "scroll/desktop_size.h"
 
@@ -30,6 +31,14 @@ static constexpr ActionHandlerRow ActionHandlers[] = {
     {10,  StepView,          STEP_UP | BY_MAX   },
     {11,  StepView,          STEP_DOWN | BY_MIN },
     {12,  StepView,          STEP_DOWN | BY_MAX },
+    {13,  StepToolwin,       STEP_RIGHT | BY_MIN},
+    {14,  StepToolwin,       STEP_RIGHT | BY_MAX},
+    {15,  StepToolwin,       STEP_LEFT | BY_MIN },
+    {16,  StepToolwin,       STEP_LEFT | BY_MAX },
+    {17,  StepToolwin,       STEP_UP | BY_MIN   },
+    {18,  StepToolwin,       STEP_UP | BY_MAX   },
+    {19,  StepToolwin,       STEP_DOWN | BY_MIN },
+    {20,  StepToolwin,       STEP_DOWN | BY_MAX },
     {21,  CenterOnActive,    0                  },
     {26,  GoToScreen,        NEXT_SCREEN        },
     {27,  GoToScreen,        PREVIOUS_SCREEN    },
@@ -43,6 +52,10 @@ static constexpr ActionHandlerRow ActionHandlers[] = {
     {35,  GoToScreen,        RIGHT_EDGE         },
     {38,  DoNothing,         1                  }, // dragging on the map does the work
     {39,  DoNothing,         1                  },
+    {42,  SizeToolwin,       0                  },
+    {43,  SizeToolwin,       0                  },
+    {44,  SizeToolwin,       0                  },
+    {45,  SizeToolwin,       0                  },
     {58,  ToggleValue,       0                  },
     {59,  Quit,              0                  },
     {60,  ChangeDesktopSize, ADD_RIGHT          },
@@ -61,6 +74,7 @@ static constexpr ActionHandlerRow ActionHandlers[] = {
     {73,  ToggleValue,       0                  },
     {75,  DoNothing,         0                  },
     {76,  DoNothing,         0                  },
+    {77,  ShowOrHideToolwin, 0                  },
     {79,  ToggleValue,       0                  },
     {82,  ToggleValue,       0                  },
     {83,  ToggleValue,       0                  },

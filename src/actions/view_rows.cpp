@@ -18,11 +18,19 @@ int GoToPoint(const ActionCall& call) {
                       call.row);
 }
 
+POINT AskedStep(int kind, int minscroll, int maxscroll) {
+    const int step = kind & BY_MIN ? minscroll : maxscroll;
+    return {kind & STEP_LEFT    ? -step
+            : kind & STEP_RIGHT ? step
+                                : 0,
+            kind & STEP_UP     ? -step
+            : kind & STEP_DOWN ? step
+                               : 0};
+}
+
 int StepView(const ActionCall& call) {
-    const int step = call.with & BY_MIN ? Options.minscroll : Options.maxscroll;
-    const int dx = call.with & STEP_LEFT ? -step : call.with & STEP_RIGHT ? step : 0;
-    const int dy = call.with & STEP_UP ? -step : call.with & STEP_DOWN ? step : 0;
-    return ScrollView(call.window, dx, dy, SV_RELATIVE, call.row);
+    const POINT step = AskedStep(call.with, Options.minscroll, Options.maxscroll);
+    return ScrollView(call.window, step.x, step.y, SV_RELATIVE, call.row);
 }
 
 // In reading order, from wherever the view stands.

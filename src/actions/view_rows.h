@@ -34,3 +34,6 @@ int CenterOnActive(const ActionCall& call);
 
 // Pure: the corner that a ScreenKind asks for, not yet held inside the desktop. Desktop pixels.
 POINT AskedScreen(ScreenKind kind, const RECT& vdesk, const RECT& quorl, int screenW, int screenH);
+
+// Pure: the distance that a sum of StepKind asks for, with the two amounts. Pixels.
+POINT AskedStep(int kind, int minscroll, int maxscroll);

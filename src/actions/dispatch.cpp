@@ -4,6 +4,7 @@
 #include "actions/program_rows.h"
 #include "actions/toolwin_rows.h"
 #include "actions/view_rows.h"
+#include "regions/region_rows.h"
 #include "scroll/desktop_size.h"
 
 #include <array>
@@ -22,6 +23,7 @@ struct ActionHandlerRow {
 static constexpr ActionHandlerRow ActionHandlers[] = {
     {1,   GoToPoint,         AT_CORNER          },
     {2,   GoToPoint,         AT_CENTER          },
+    {3,   GoToRegion,        0                  },
     {4,   GoToPoint,         AT_CELL            },
     {5,   StepView,          STEP_RIGHT | BY_MIN},
     {6,   StepView,          STEP_RIGHT | BY_MAX},
@@ -50,12 +52,16 @@ static constexpr ActionHandlerRow ActionHandlers[] = {
     {33,  GoToScreen,        BOTTOM_EDGE        },
     {34,  GoToScreen,        LEFT_EDGE          },
     {35,  GoToScreen,        RIGHT_EDGE         },
+    {36,  StepToRegion,      1                  },
+    {37,  StepToRegion,      -1                 },
     {38,  DoNothing,         1                  }, // dragging on the map does the work
     {39,  DoNothing,         1                  },
     {42,  SizeToolwin,       0                  },
     {43,  SizeToolwin,       0                  },
     {44,  SizeToolwin,       0                  },
     {45,  SizeToolwin,       0                  },
+    {50,  UnmarkRegion,      0                  },
+    {51,  UnmarkAllRegions,  0                  },
     {58,  ToggleValue,       0                  },
     {59,  Quit,              0                  },
     {60,  ChangeDesktopSize, ADD_RIGHT          },

@@ -61,6 +61,14 @@ struct DeskTimer {
     TIMERPROC callback;
 };
 
+// What the user did with the mouse and no thread has read yet.
+struct DeskInput {
+    UINT message;
+    POINT at; // screen pixels
+    DWORD time;
+    BYTE keys[256]; // what was held when it happened
+};
+
 struct DeskHotkey {
     HWND window; // null: held by another program
     int id;
@@ -133,6 +141,7 @@ struct DeskState {
     std::deque<std::function<void()>>
         script; // what the user does, one act whenever nothing else is to be done
     std::deque<MSG> queue;
+    std::deque<DeskInput> inputs;
     int bQuit = 0;
     int exitCode = 0;
     std::vector<DeskTimer> timers;
@@ -182,6 +191,14 @@ void PressCombination(UINT modifiers, UINT key);
 
 // The user holds or releases a key or button: the state of the moment, not yet read by any thread.
 void HoldKey(int key, int bDown);
+
+// The user moves the mouse, in screen pixels, or works a button, which is a VK_ value: the state of the
+// moment changes, and a message waits for whoever gets it then.
+void MoveMouse(int x, int y);
+void PressMouse(int button, int bDown);
+
+// A point of a window's client area, in screen pixels.
+POINT OnScreen(HWND window, int x, int y);
 
 // How often a call of this name was made since `Desk.trace` was last cleared.
 int CallsOf(const char* call);

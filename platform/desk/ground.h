@@ -21,6 +21,12 @@ LRESULT CallProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 // Makes the window the foreground window and puts it on top.
 void Activate(HWND window);
 
+// Pixels of frame on each side of the client area.
+int FrameWidth(const DeskWindow& window);
+
+// The next mouse input for a window of this process as a message. 0: none.
+int TakeInput(MSG* message);
+
 // Takes the timers and the hotkeys of a window that is going away.
 void DropTimersOf(HWND window);
 void DropHotkeysOf(HWND window);

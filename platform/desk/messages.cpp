@@ -140,7 +140,8 @@ BOOL GetMessageA(MSG* message, HWND, UINT, UINT) {
         return -1;
     *message = {};
     do {
-        if (TakePosted(message) || TakeQuit(message) || TakePaint(message) || TakeTimer(message))
+        if (TakePosted(message) || TakeQuit(message) || TakeInput(message) || TakePaint(message) ||
+            TakeTimer(message))
             return message->message != WM_QUIT;
     } while (GoOn());
     return FALSE;

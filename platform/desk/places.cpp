@@ -11,7 +11,7 @@ BOOL GetWindowRect(HWND window, RECT* rect) {
 }
 
 // A sizing frame is 4 pixels wide, a thin border 1.
-static int FrameWidth(const DeskWindow& window) {
+int FrameWidth(const DeskWindow& window) {
     if (window.style & WS_THICKFRAME)
         return 4;
     return window.style & WS_BORDER ? 1 : 0;

@@ -8,6 +8,13 @@ struct ActionPoint {
     int x, y;
 };
 
+// Where a mouse message says that the cursor is: two signed 16-bit numbers, outside the client area too while
+// a window has the capture.
+inline ActionPoint PointOf(LPARAM lParam) {
+    const auto both = static_cast<DWORD_PTR>(lParam);
+    return {static_cast<SHORT>(LOWORD(both)), static_cast<SHORT>(HIWORD(both))};
+}
+
 // Sets `rect` to the union of all monitors and the origin, in screen pixels. Always 1; no monitor leaves it
 // empty.
 int MonitorUnion(RECT* rect);

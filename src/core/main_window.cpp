@@ -5,6 +5,7 @@
 #include "core/create.h"
 #include "core/quit.h"
 #include "core/state.h"
+#include "mouse/map_buttons.h"
 
 static LRESULT OnCreateMessage(HWND window, UINT, WPARAM, LPARAM) {
     return OnCreate(window) ? 0 : -1;
@@ -44,7 +45,7 @@ namespace {
 
 struct MessageRow {
     UINT message;
-    WNDPROC does;
+    LRESULT (*does)(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 };
 
 } // namespace
@@ -53,6 +54,12 @@ static const UINT DESKTOP_SIZE_MESSAGE = 1134; // open to other programs; a MINM
 
 static const MessageRow MainMessages[] = {
     {WM_HOTKEY,            OnHotkey          },
+    {WM_LBUTTONDOWN,       OnMapLeftPress    },
+    {WM_LBUTTONUP,         OnMapRelease      },
+    {WM_RBUTTONDOWN,       OnMapRightPress   },
+    {WM_RBUTTONUP,         OnMapRelease      },
+    {WM_MBUTTONDOWN,       OnMapMiddlePress  },
+    {WM_MBUTTONUP,         OnMapMiddleRelease},
     {WM_GETMINMAXINFO,     OnSizeLimits      },
     {WM_CREATE,            OnCreateMessage   },
     {WM_DESTROY,           OnEndMessage      },

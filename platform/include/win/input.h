@@ -8,6 +8,13 @@ constexpr UINT MOD_CONTROL = 2;
 constexpr UINT MOD_SHIFT = 4;
 constexpr UINT MOD_WIN = 8;
 
+// What a mouse message says is held.
+constexpr WPARAM MK_LBUTTON = 1;
+constexpr WPARAM MK_RBUTTON = 2;
+constexpr WPARAM MK_SHIFT = 4;
+constexpr WPARAM MK_CONTROL = 8;
+constexpr WPARAM MK_MBUTTON = 16;
+
 constexpr int VK_LBUTTON = 1;
 constexpr int VK_RBUTTON = 2;
 constexpr int VK_MBUTTON = 4;

@@ -1,0 +1,190 @@
+#include "mouse/map_buttons.h"
+
+#include "actions/hotkeys.h"
+#include "core/state.h"
+#include "support/map_mouse.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+// A map of 400 by 150: a tenth of the desktop of 4096 by 1536, nearly.
+class MapButtons : public QuorlTest {
+  protected:
+    void SetUp() override {
+        QuorlTest::SetUp();
+        ASSERT_EQ(StartQuorl(), 1);
+        ResizeMap(400, 150);
+        Settle();
+    }
+};
+
+void Bind(int row, int mods, int button) {
+    ActionTable[row].mouse_mods = mods;
+    ActionTable[row].mouse_btn = button;
+}
+
+// Where in the trace a call stands; the trace's length if it was not made.
+std::ptrdiff_t Turn(const char* call) {
+    return std::find_if(Desk.trace.begin(), Desk.trace.end(),
+                        [call](const char* made) { return !std::strcmp(made, call); }) -
+           Desk.trace.begin();
+}
+
+TEST_F(MapButtons, TheMiddleButtonBeatsTheRightOneAndThatTheLeftOne) {
+    static const struct {
+        int flags, button, matched;
+    } cases[] = {
+        {0,                           0,       0      },
+        {0,                           1,       LBUTTON},
+        {0,                           2,       RBUTTON},
+        {0,                           4,       MBUTTON},
+        {0,                           MBUTTON, MBUTTON}, // the release of the middle button
+        {LBUTTON,                     RBUTTON, LBUTTON},
+        {LBUTTON | RBUTTON,           LBUTTON, RBUTTON},
+        {LBUTTON | RBUTTON | MBUTTON, 0,       MBUTTON},
+        {RBUTTON,                     1,       RBUTTON},
+        {KEY_SHIFT,                   1,       LBUTTON}, // Shift alone looks like button number 1
+        {KEY_SHIFT | KEY_CTRL,        5,       5      },
+        {KEY_WIN,                     -7,      -7     },
+    };
+    for (const auto& row : cases)
+        EXPECT_EQ(MatchedButton(row.flags, row.button), row.matched) << row.flags << ' ' << row.button;
+}
+
+TEST_F(MapButtons, EitherKeyOfAPairIsHeldAndTheMaskChoosesTheKind) {
+    static const struct {
+        int key;
+        DWORD kind;
+        int flag;
+    } cases[] = {
+        {VK_LSHIFT,  ACTION_KEY,   KEY_SHIFT},
+        {VK_RSHIFT,  ACTION_KEY,   KEY_SHIFT},
+        {VK_LMENU,   ACTION_KEY,   KEY_ALT  },
+        {VK_RMENU,   ACTION_KEY,   KEY_ALT  },
+        {VK_RBUTTON, ACTION_MOUSE, RBUTTON  },
+        {VK_MBUTTON, ACTION_MOUSE, MBUTTON  },
+    };
+    for (const auto& row : cases) {
+        Desk.keysRead[row.key] = 1;
+        EXPECT_EQ(GetHeldFlags(KEYS_AND_BUTTONS), row.flag) << row.key;
+        EXPECT_EQ(GetHeldFlags(row.kind), row.flag) << row.key;
+        EXPECT_EQ(GetHeldFlags(KEYS_AND_BUTTONS & ~row.kind), 0) << row.key;
+        Desk.keysRead[row.key] = 0;
+    }
+}
+
+TEST_F(MapButtons, AKeyLetGoSinceThePressStillCounts) {
+    HoldKey(VK_LSHIFT, 1);
+    const POINT at = OnScreen(MainWnd, 150, 100);
+    MoveMouse(at.x, at.y);
+    PressMouse(VK_LBUTTON, 1);
+    PressMouse(VK_LBUTTON, 0);
+    HoldKey(VK_LSHIFT, 0);
+    Settle();
+    EXPECT_EQ(VDesk, Rect(1024, 768, 2048, 1536));
+}
+
+TEST_F(MapButtons, ShiftAndLeftGoToTheScreenUnderTheCursor) {
+    ClickOnMap(350, 100, VK_LBUTTON, {VK_RSHIFT});
+    EXPECT_EQ(VDesk, Rect(3072, 768, 4096, 1536));
+    ClickOnMap(3, 3, VK_LBUTTON, {VK_LSHIFT});
+    EXPECT_EQ(VDesk, Rect(0, 0, 1024, 768));
+}
+
+TEST_F(MapButtons, TheMiddleButtonRunsItsBindingWherePressedAndWhereReleased) {
+    MoveOnMap(200, 75);
+    PressOnMap(VK_MBUTTON);
+    EXPECT_EQ(VDesk, Rect(2048 - 512, 768 - 384, 2048 + 512, 768 + 384));
+    Desk.cursor = OnScreen(MainWnd, 300, 75); // so fast that no move comes in between
+    ReleaseOnMap(VK_MBUTTON);
+    EXPECT_EQ(VDesk, Rect(3072 - 512, 768 - 384, 3072 + 512, 768 + 384));
+    EXPECT_EQ(Desk.capture, nullptr);
+}
+
+TEST_F(MapButtons, TheFirstRowWithTheCombinationRunsAndNoOther) {
+    Bind(6, KEY_CTRL, LBUTTON); // right by 100
+    Bind(5, KEY_CTRL, LBUTTON); // right by 5
+    ClickOnMap(10, 10, VK_LBUTTON, {VK_LCONTROL});
+    EXPECT_EQ(VDesk.left, 5);
+    ClickOnMap(10, 10, VK_LBUTTON, {VK_LCONTROL, VK_LMENU});
+    EXPECT_EQ(VDesk.left, 5) << "one key more is another combination";
+}
+
+TEST_F(MapButtons, ARowThatIsOfferedNowhereRunsIfItIsBound) {
+    ActionTable[5].flags = ACTION_OFF;
+    Bind(5, KEY_CTRL, RBUTTON);
+    ClickOnMap(10, 10, VK_RBUTTON, {VK_RCONTROL});
+    EXPECT_EQ(VDesk.left, 5);
+}
+
+TEST_F(MapButtons, BindingsThatNoPressCanMakeNeverRun) {
+    Bind(5, KEY_WIN, LBUTTON);
+    Bind(6, KEY_CTRL, 0);
+    Bind(8, UNBOUND, UNBOUND);
+    ClickOnMap(10, 10, VK_LBUTTON, {VK_LCONTROL});
+    ClickOnMap(10, 10, VK_LBUTTON, {VK_LMENU}); // rows 40 and 41 are bound to buttons "1" and "2"
+    ClickOnMap(10, 10, VK_RBUTTON, {VK_LMENU});
+    EXPECT_EQ(VDesk, Rect(0, 0, 1024, 768));
+}
+
+TEST_F(MapButtons, ARightButtonStillHeldIsWhatALeftPressMeans) {
+    Bind(5, KEY_CTRL, RBUTTON);
+    HoldKey(VK_LCONTROL, 1);
+    HoldKey(VK_RBUTTON, 1); // pressed elsewhere
+    MoveOnMap(10, 10);
+    const LONG before = VDesk.left;
+    PressOnMap(VK_LBUTTON);
+    EXPECT_EQ(VDesk.left, before + 5);
+}
+
+TEST_F(MapButtons, TheCaptureComesBeforeTheActionForAllButTheLeftButton) {
+    static const struct {
+        int button, flag, bCaptureFirst;
+    } cases[] = {
+        {VK_LBUTTON, LBUTTON, 0},
+        {VK_RBUTTON, RBUTTON, 1},
+        {VK_MBUTTON, MBUTTON, 1},
+    };
+    for (const auto& row : cases) {
+        Bind(5, KEY_CTRL, row.flag);
+        HoldKey(VK_LCONTROL, 1);
+        MoveOnMap(10, 10);
+        Desk.trace.clear();
+        PressOnMap(row.button);
+        EXPECT_EQ(Turn("SetCapture") < Turn("UpdateWindow"), row.bCaptureFirst != 0) << row.button;
+        EXPECT_EQ(Desk.capture, MainWnd) << row.button;
+        ReleaseOnMap(row.button);
+        EXPECT_EQ(Desk.capture, nullptr) << row.button;
+    }
+}
+
+TEST_F(MapButtons, TheSecondPressOfADoubleClickDoesNothing) {
+    for (const UINT message : {WM_LBUTTONDBLCLK, WM_RBUTTONDBLCLK, WM_MBUTTONDBLCLK}) {
+        Desk.keysRead[VK_MBUTTON] = 1;
+        PostMessageA(MainWnd, message, MK_MBUTTON, MAKELPARAM(200, 75));
+        Settle();
+    }
+    EXPECT_EQ(VDesk, Rect(0, 0, 1024, 768));
+    EXPECT_EQ(Desk.capture, nullptr);
+}
+
+TEST_F(MapButtons, ALookUpRunsNothingAndForgetsTheTip) {
+    Command(5);
+    ASSERT_NE(TipWnd, nullptr);
+    EXPECT_EQ(MatchMouseAction(MainWnd, ACTION_MOUSE, LBUTTON, LBUTTON, nullptr, 0), 38);
+    EXPECT_EQ(TipWnd, nullptr);
+    EXPECT_EQ(MatchMouseAction(MainWnd, ACTION_MOUSE, KEY_SHIFT, KEY_SHIFT, nullptr, 0), 4);
+    EXPECT_EQ(MatchMouseAction(MainWnd, ACTION_MOUSE, KEY_SHIFT, 0, nullptr, 1), 0) << "nothing is bound";
+    EXPECT_EQ(MatchMouseAction(MainWnd, ACTION_KEY, MBUTTON, MBUTTON, nullptr, 1), 0) << "not the mouse";
+    EXPECT_EQ(VDesk.left, 5);
+}
+
+TEST_F(MapButtons, APlaceOutsideTheMapHasItsSign) {
+    const ActionPoint point = PointOf(MAKELPARAM(-3, -20000));
+    EXPECT_EQ(point.x, -3);
+    EXPECT_EQ(point.y, -20000);
+}
+
+} // namespace

@@ -1,0 +1,19 @@
+// What a user does with the mouse on the map. The places are map coordinates of the moment: the map may move
+// away under the cursor. Buttons are VK_ values; keys are held with HoldKey.
+#pragma once
+
+#include "support/quorl_test.h"
+
+#include <initializer_list>
+
+void MoveOnMap(int x, int y);
+
+// At the place where the cursor is.
+void PressOnMap(int button);
+void ReleaseOnMap(int button);
+
+// Goes there, presses and releases, while the keys are held.
+void ClickOnMap(int x, int y, int button, std::initializer_list<int> keys = {});
+
+// The map's client area gets this size; the Toolwin's corner stays.
+void ResizeMap(int width, int height);

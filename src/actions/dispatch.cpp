@@ -6,6 +6,7 @@
 #include "actions/view_rows.h"
 #include "regions/region_rows.h"
 #include "scroll/desktop_size.h"
+#include "settings/settings.h"
 
 #include <array>
 
@@ -60,6 +61,8 @@ static constexpr ActionHandlerRow ActionHandlers[] = {
     {43,  SizeToolwin,       0                  },
     {44,  SizeToolwin,       0                  },
     {45,  SizeToolwin,       0                  },
+    {47,  OnSaveSettings,    0                  },
+    {48,  OnLoadSettings,    0                  },
     {50,  UnmarkRegion,      0                  },
     {51,  UnmarkAllRegions,  0                  },
     {58,  ToggleValue,       0                  },

@@ -2,6 +2,8 @@
 #include "actions/hotkeys.h"
 
 #include "core/state.h"
+#include "settings/actions_file.h"
+#include "settings/ini.h"
 
 #include <cstdio>
 
@@ -124,7 +126,14 @@ void ClearAllActionKeys(HWND window) {
         ClearActionKey(window, row, ACTION_KEY | ACTION_MOUSE);
 }
 
+// A default that the shell holds would be reported at every start, only to be replaced at once.
+static int IsReplacedAtOnce(const Binding& binding) {
+    return binding.kind == ACTION_KEY && HasActionLine(SETTINGS_FILE, binding.row);
+}
+
 void SetDefaultBindings(HWND window) {
+    const int bLoads = WillLoadSettings(SETTINGS_FILE);
     for (const Binding& binding : DefaultBindings)
-        SetActionKey(window, binding.row, binding.kind, binding.mods, binding.key);
+        if (!bLoads || !IsReplacedAtOnce(binding))
+            SetActionKey(window, binding.row, binding.kind, binding.mods, binding.key);
 }

@@ -10,6 +10,9 @@
 #include "scroll/locked_windows.h"
 #include "scroll/refresh.h"
 #include "scroll/window_table.h"
+#include "settings/actions_file.h"
+#include "settings/ini.h"
+#include "settings/settings.h"
 
 namespace {
 
@@ -64,6 +67,8 @@ int OnCreate(HWND window) {
     SetDefaultMenu();
     RebuildWindowTable();
     SetDefaultBindings(window);
+    if (LoadLoadSetting(window, SETTINGS_FILE))
+        LoadSettings(window);
     ClearLockedWindows();
     return 1;
 }

@@ -3,12 +3,15 @@
 
 #include "actions/hotkeys.h"
 #include "scroll/gather.h"
+#include "settings/settings.h"
 
 // The process ends only when control is back in the message loop, so all steps finish first.
 int ConfirmQuit(HWND window) {
     if (MessageBoxA(window, "QUIT?", "QUIT?", MB_YESNO) != IDYES)
         return 0;
     PostQuitMessage(0);
+    if (ActionTable[ROW_SAVE_SETTINGS].value)
+        SaveSettings(window);
     ClearAllActionKeys(window);
     GatherWindows();
     return 1;

@@ -3,6 +3,7 @@
 
 #include "core/platform.h"
 
-// Asks "QUIT?". Yes: the quit message is posted, hotkeys are released, all windows fold back onto the screen,
-// and 1 is returned. Any other answer changes nothing and gives 0.
+// Asks "QUIT?". Yes: the quit message is posted, the settings are saved if row 72 says so, hotkeys are
+// released, all windows fold back onto the screen, and 1 is returned. Any other answer changes nothing and
+// gives 0.
 int ConfirmQuit(HWND window);

@@ -1,11 +1,14 @@
 #include "scroll/scroll_view.h"
 
+#include "actions/action_table.h"
 #include "core/state.h"
 #include "support/quorl_test.h"
 
 namespace {
 
 class Scroll : public QuorlTest {};
+
+const RECT WHOLE{0, 0, 4096, 1536};
 
 TEST_F(Scroll, AHungProgramStaysAndTheOthersMove) {
     const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
@@ -19,6 +22,87 @@ TEST_F(Scroll, AHungProgramStaysAndTheOthersMove) {
     EXPECT_EQ(PlaceOf(editor), Rect(-924, 100, -524, 400));
     EXPECT_EQ(PlaceOf(hung), Rect(600, 100, 900, 400)) << "a window that does not answer is left alone";
     EXPECT_EQ(VDesk, Rect(1024, 0, 2048, 768));
+}
+
+TEST(ScrollDecision, EachModeAsksForItsDistance) {
+    const RECT vdesk{100, 50, 1124, 818};
+    struct {
+        int x, y, mode;
+        POINT distance;
+    } const cases[] = {
+        {300, 20,  SV_ABSOLUTE,             {200, -30}  },
+        {300, 20,  SV_RELATIVE,             {300, 20}   },
+        {612, 434, SV_CENTER,               {0, 0}      },
+        {0,   0,   SV_CENTER,               {-612, -434}},
+        {300, 20,  SV_ABSOLUTE | SV_CENTER, {200, -30}  },
+    };
+    for (const auto& [x, y, mode, distance] : cases)
+        EXPECT_EQ(AskedDistance(vdesk, x, y, mode), distance) << x << ", " << y << " in mode " << mode;
+    EXPECT_EQ(AskedDistance({0, 0, 1023, 767}, 1000, 1000, SV_CENTER), (POINT{489, 617}))
+        << "halves truncate";
+}
+
+TEST(ScrollDecision, TheViewIsHeldInsideTheDesktopAndTheWindowsGoTheSameWay) {
+    struct {
+        const char* what;
+        RECT vdesk;
+        POINT distance;
+        RECT view;
+        POINT way;
+    } const cases[] = {
+        {"free",                  {0, 0, 1024, 768},        {100, 50},    {100, 50, 1124, 818},    {100, 50}    },
+        {"past the near edges",   {50, 20, 1074, 788},      {-100, -100}, {0, 0, 1024, 768},       {-50, -20}   },
+        {"past the far edges",    {3000, 700, 4024, 1468},  {500, 500},   {3072, 768, 4096, 1536}, {72, 68}     },
+        {"onto the far edges",    {3000, 700, 4024, 1468},  {72, 68},     {3072, 768, 4096, 1536}, {72, 68}     },
+        {"outside after a loss",  {4096, 1536, 5120, 2304}, {0, 0},       {3072, 768, 4096, 1536}, {-1024, -768}},
+        {"left of the origin",    {-1024, -768, 1024, 768}, {0, 0},       {0, 0, 1024, 768},       {1024, 768}  },
+        {"smaller than a screen", {0, 0, 800, 600},         {-10, -10},   {0, 0, 1024, 768},       {0, 0}       },
+        {"larger than a screen",  {2500, 0, 4500, 768},     {0, 0},       {3072, 0, 4096, 768},    {-404, 0}    },
+    };
+    for (const auto& [what, vdesk, distance, view, way] : cases) {
+        const ViewStep step = ClampedStep(vdesk, distance, WHOLE, 1024, 768);
+        EXPECT_EQ(step.view, view) << what;
+        EXPECT_EQ((POINT{step.dx, step.dy}), way) << what;
+    }
+}
+
+TEST_F(Scroll, AtALimitNothingMovesAndEveryWindowIsAskedAllTheSame) {
+    const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
+    ASSERT_EQ(StartQuorl(), 1);
+
+    EXPECT_EQ(ScrollView(MainWnd, -10, -10, SV_RELATIVE, 7), 0);
+
+    EXPECT_EQ(VDesk, Rect(0, 0, 1024, 768));
+    EXPECT_EQ(PlaceOf(editor), Rect(100, 100, 500, 400));
+    ASSERT_EQ(RowOf(editor).received.size(), 1U);
+    EXPECT_EQ(RowOf(editor).received[0].message, WM_MOVING);
+}
+
+TEST_F(Scroll, TheResultTellsWhetherTheCornerChangedAndTheMapIsRepainted) {
+    ASSERT_EQ(StartQuorl(), 1);
+    Settle();
+    Desk.trace.clear();
+
+    EXPECT_EQ(ScrollView(MainWnd, 5000, 0, SV_ABSOLUTE, 0), 1);
+
+    EXPECT_EQ(VDesk, Rect(3072, 0, 4096, 768));
+    EXPECT_TRUE(CameInOrder({"EnumWindows"}) == 0 && CameInOrder({"InvalidateRect", "UpdateWindow"}));
+    EXPECT_EQ(ScrollView(MainWnd, 3072, 1, SV_ABSOLUTE, 0), 1) << "down alone";
+    EXPECT_EQ(ScrollView(MainWnd, 3072, 1, SV_ABSOLUTE, 0), 0);
+    EXPECT_FALSE(RowOf(MainWnd).bInvalid);
+}
+
+TEST_F(Scroll, TheForegroundComesToQuorlOnlyWhileTheActiveWindowIsKeptInView) {
+    const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
+    ASSERT_EQ(StartQuorl(), 1);
+    Desk.foreground = editor;
+
+    ScrollView(MainWnd, 10, 0, SV_RELATIVE, 5);
+    EXPECT_EQ(Desk.foreground, editor) << "a scroll takes the keyboard from nobody";
+
+    ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value = 1;
+    ScrollView(MainWnd, 10, 0, SV_RELATIVE, 5);
+    EXPECT_EQ(Desk.foreground, MainWnd);
 }
 
 } // namespace

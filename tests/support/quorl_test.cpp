@@ -4,6 +4,7 @@
 #include "core/main.h"
 #include "core/state.h"
 
+#include <cstring>
 #include <ostream>
 
 HookRecord Hook;
@@ -65,6 +66,22 @@ RECT PlaceOf(HWND window) {
 
 RECT Rect(int left, int top, int right, int bottom) {
     return {left, top, right, bottom};
+}
+
+int CameInOrder(std::initializer_list<const char*> calls) {
+    const auto* next = calls.begin();
+    for (const char* made : Desk.trace)
+        if (next != calls.end() && !std::strcmp(made, *next))
+            ++next;
+    return next == calls.end();
+}
+
+bool operator==(const POINT& a, const POINT& b) {
+    return a.x == b.x && a.y == b.y;
+}
+
+void PrintTo(const POINT& point, std::ostream* out) {
+    *out << '(' << point.x << ", " << point.y << ')';
 }
 
 bool operator==(const RECT& a, const RECT& b) {

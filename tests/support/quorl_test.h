@@ -40,6 +40,11 @@ RECT PlaceOf(HWND window);
 
 RECT Rect(int left, int top, int right, int bottom);
 
-// So that a mismatch prints both sides, and rectangles compare.
+// 1 if `Desk.trace` holds these calls in this order, others between them or not.
+int CameInOrder(std::initializer_list<const char*> calls);
+
+// So that a mismatch prints both sides, and rectangles and points compare.
 bool operator==(const RECT& a, const RECT& b);
+bool operator==(const POINT& a, const POINT& b);
 void PrintTo(const RECT& rect, std::ostream* out);
+void PrintTo(const POINT& point, std::ostream* out);

@@ -1,0 +1,42 @@
+#include "scroll/locked_windows.h"
+
+#include "support/quorl_test.h"
+
+namespace {
+
+HWND Handle(int number) {
+    return reinterpret_cast<HWND>(static_cast<UINT_PTR>(number) * 4);
+}
+
+TEST(LockedWindowList, AHandleIsFoundBehindHolesAndAFreedSlotIsUsedAgain) {
+    for (int number = 1; number <= 3; ++number)
+        LockWindow(Handle(number));
+    LockWindow(Handle(2));
+    EXPECT_EQ(LockedWindows[3], nullptr) << "locking twice leaves one entry";
+
+    UnlockWindow(Handle(1));
+    EXPECT_EQ(LockedWindows[0], FREED_SLOT);
+    EXPECT_FALSE(IsLockedWindow(Handle(1)));
+    EXPECT_TRUE(IsLockedWindow(Handle(3)));
+
+    LockWindow(Handle(4));
+    EXPECT_EQ(LockedWindows[0], Handle(4));
+    UnlockWindow(Handle(9));
+    EXPECT_TRUE(IsLockedWindow(Handle(2))) << "unlocking a window that is not locked changes nothing";
+
+    ClearLockedWindows();
+    EXPECT_FALSE(IsLockedWindow(Handle(2)));
+}
+
+TEST(LockedWindowList, AnswersAsAScanOfAllSlotsWould) {
+    for (int number = 1; number < MAX_LOCKED_WINDOWS; ++number)
+        LockedWindows[number - 1] = Handle(number);
+    EXPECT_TRUE(IsLockedWindow(nullptr)) << "the last slot was never used";
+    LockWindow(Handle(MAX_LOCKED_WINDOWS));
+    EXPECT_FALSE(IsLockedWindow(nullptr));
+    EXPECT_TRUE(IsLockedWindow(Handle(MAX_LOCKED_WINDOWS)));
+    LockWindow(Handle(MAX_LOCKED_WINDOWS + 1));
+    EXPECT_FALSE(IsLockedWindow(Handle(MAX_LOCKED_WINDOWS + 1))) << "a full list takes nothing more";
+}
+
+} // namespace

@@ -1,0 +1,138 @@
+#include "scroll/shift.h"
+
+#include "actions/action_table.h"
+#include "core/state.h"
+#include "scroll/locked_windows.h"
+#include "scroll/window_table.h"
+#include "support/quorl_test.h"
+
+#include <climits>
+
+namespace {
+
+TEST(ShiftDecision, AWindowIsHeldInsideTheDesktop) {
+    const RECT vdesk{1000, 500, 2024, 1268};
+    const RECT quorl{0, 0, 4096, 1536};
+    struct {
+        const char* what;
+        RECT window;
+        int dx, dy;
+        RECT place; // corner and size
+    } const cases[] = {
+        {"free",                      {100, 100, 500, 400},     -50,  20,   {50, 120, 400, 300}     },
+        {"onto the far edges",        {4000, 1500, 4400, 1700}, 96,   36,   {4096, 1536, 400, 200}  },
+        {"past the far edges",        {4000, 1500, 4400, 1700}, 97,   37,   {3691, 1331, 400, 200}  },
+        {"onto the near edges",       {-900, -450, -500, -150}, -100, -50,  {-1000, -500, 400, 300} },
+        {"past the near edges",       {-900, -450, -500, -150}, -200, -100, {-1000, -500, 400, 300} },
+        {"too large to be pulled in", {4000, 1500, 9000, 4000}, 200,  200,  {-909, -500, 5000, 2500}},
+    };
+    for (const auto& [what, window, dx, dy, expected] : cases) {
+        const WindowPlace place = ShiftedPlace(window, dx, dy, vdesk, quorl, 5);
+        EXPECT_EQ(Rect(place.x, place.y, place.width, place.height), expected) << what;
+    }
+    const WindowPlace wrapped =
+        ShiftedPlace({INT_MIN, INT_MIN, INT_MAX, INT_MAX}, INT_MIN, -1, vdesk, quorl, 5);
+    EXPECT_EQ(wrapped.width, -1) << "numbers past 32 bits wrap";
+}
+
+class Shift : public QuorlTest {
+  protected:
+    HWND editor = OpenWindow("editor", {100, 100, 500, 400});
+    HWND other = OpenWindow("other", {600, 100, 900, 400});
+
+    void Start() { ASSERT_EQ(StartQuorl(), 1); }
+};
+
+TEST_F(Shift, EveryWindowIsAskedMovedPaintedAndShown) {
+    Start();
+    Desk.trace.clear();
+
+    ShiftWindows(30, -20);
+
+    EXPECT_EQ(PlaceOf(editor), Rect(130, 80, 530, 380));
+    EXPECT_EQ(PlaceOf(other), Rect(630, 80, 930, 380));
+    ASSERT_EQ(RowOf(editor).received.size(), 1U);
+    EXPECT_EQ(RowOf(editor).received[0].record, Rect(130, 80, 400, 300)) << "corner and size";
+    EXPECT_TRUE(RowOf(editor).bInvalid);
+    EXPECT_TRUE(CameInOrder({"SendMessageTimeoutA", "MoveWindow", "ShowWindow"}));
+}
+
+TEST_F(Shift, AWindowThatRewritesTheRecordLandsWhereItSaid) {
+    RowOf(editor).bRewrites = 1;
+    RowOf(editor).rewritten = {-70, 5, 222, 111};
+    Start();
+
+    ShiftWindows(30, 0);
+
+    EXPECT_EQ(PlaceOf(editor), Rect(-70, 5, 152, 116));
+}
+
+TEST_F(Shift, AProgramThatDoesNotAnswerCostsItsPatienceOnceAndNothingElseSuffers) {
+    const HWND list = OpenWindow("list", {10, 10, 50, 50}, "SysListView32");
+    for (const HWND silent : {editor, list})
+        RowOf(silent).answer = DeskAnswer::TimesOut;
+    Start();
+    const DWORD before = Desk.now;
+
+    ShiftWindows(30, 0);
+
+    EXPECT_EQ(Desk.now - before, 200U) << "100 ms for each of the two";
+    EXPECT_EQ(PlaceOf(editor), Rect(100, 100, 500, 400));
+    EXPECT_EQ(PlaceOf(list), Rect(10, 10, 50, 50));
+    EXPECT_EQ(PlaceOf(other), Rect(630, 100, 930, 400));
+}
+
+TEST_F(Shift, ALockedWindowStaysAndAListViewScrollsEvenThen) {
+    const HWND list = OpenWindow("list", {10, 10, 50, 50}, "SysListView32");
+    const HWND kin = OpenWindow("kin", {10, 10, 50, 50}, "SysListView32 of a library");
+    Start();
+    LockWindow(editor);
+    LockWindow(list);
+    RowOf(kin).style |= WS_DISABLED;
+
+    ShiftWindows(30, -7);
+
+    EXPECT_EQ(PlaceOf(editor), Rect(100, 100, 500, 400));
+    EXPECT_TRUE(RowOf(editor).received.empty());
+    EXPECT_EQ(PlaceOf(other), Rect(630, 93, 930, 393));
+    for (const HWND scrolled : {list, kin}) {
+        EXPECT_EQ(PlaceOf(scrolled), Rect(10, 10, 50, 50));
+        ASSERT_EQ(RowOf(scrolled).received.size(), 1U);
+        const DeskMessage& got = RowOf(scrolled).received[0];
+        EXPECT_EQ(got.message, LVM_SCROLL);
+        EXPECT_EQ(static_cast<int>(got.wParam), 30);
+        EXPECT_EQ(got.lParam, -7);
+    }
+}
+
+TEST_F(Shift, AMaximizedWindowIsRestoredFirstOnlyWhenTheUserWantsIt) {
+    ShowWindow(editor, SW_MAXIMIZE);
+    Start();
+
+    ShiftWindows(-30, 0);
+    EXPECT_TRUE(RowOf(editor).style & WS_MAXIMIZE);
+    EXPECT_EQ(PlaceOf(editor), Rect(0, 0, 1024, 768)) << "held at the desktop's edge";
+
+    ActionTable[ROW_RESTORE_MAXIMIZED].value = 1;
+    ShiftWindows(30, 10);
+    EXPECT_FALSE(RowOf(editor).style & WS_MAXIMIZE);
+    EXPECT_TRUE(RowOf(editor).style & WS_VISIBLE);
+    EXPECT_EQ(PlaceOf(editor), Rect(30, 10, 1054, 778)) << "it keeps its maximized size";
+}
+
+TEST_F(Shift, AWindowMayDieBetweenAnyTwoCalls) {
+    Start();
+    int nth = 0;
+    HWND victim = nullptr;
+    do {
+        victim = OpenWindow("victim", {10, 10, 50, 50}, "SysListView32");
+        RebuildWindowTable();
+        RowOf(victim).diesAtCall = ++nth;
+        RowOf(other).place = {600, 100, 900, 400};
+        ShiftWindows(30, 0);
+        EXPECT_EQ(PlaceOf(other), Rect(630, 100, 930, 400)) << "gone at call " << nth;
+    } while (!RowOf(victim).handle);
+    EXPECT_GT(nth, 10);
+}
+
+} // namespace

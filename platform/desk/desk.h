@@ -121,6 +121,13 @@ struct DeskStroke {
     UINT format;
 };
 
+// What TileWindows was given.
+struct DeskTiling {
+    UINT how;
+    RECT rect;
+    std::vector<HWND> windows;
+};
+
 struct DeskModule {
     std::map<std::string, FARPROC> exports;
     int bInstalled = 1; // LoadLibraryA finds it
@@ -161,6 +168,8 @@ struct DeskState {
     std::vector<DeskBox> boxes;
     int surprises = 0; // boxes without a prepared answer, and calls that would have blocked for ever
     std::vector<UINT> beeps;
+    std::vector<DWORD> tones; // hertz, as Beep was given them
+    std::vector<DeskTiling> tilings;
     int locks = 0; // calls of LockWorkStation
     std::vector<DeskMessage> broadcasts;
 

@@ -48,3 +48,24 @@ BOOL BringWindowToTop(HWND window) {
     Raise(window);
     return TRUE;
 }
+
+// As far as the order goes: topmost windows stand above all others.
+static void PutAmongOthers(HWND window, int bTopmost) {
+    std::erase(Desk.order, window);
+    auto at = Desk.order.begin();
+    if (!bTopmost)
+        while (at != Desk.order.end() && (RowOf(*at).exStyle & WS_EX_TOPMOST))
+            ++at;
+    Desk.order.insert(at, window);
+}
+
+// Only what a change of place among the others needs.
+BOOL SetWindowPos(HWND window, HWND after, int, int, int, int, UINT) {
+    DeskWindow* row = Fails("SetWindowPos") ? nullptr : Named(window);
+    if (!row)
+        return FALSE;
+    const int bTopmost = after == HWND_TOPMOST;
+    row->exStyle = bTopmost ? row->exStyle | WS_EX_TOPMOST : row->exStyle & ~WS_EX_TOPMOST;
+    PutAmongOthers(window, bTopmost);
+    return TRUE;
+}

@@ -139,3 +139,41 @@ BOOL IsZoomed(HWND window) {
     const DeskWindow* row = Fails("IsZoomed") ? nullptr : Named(window);
     return row && (row->style & WS_MAXIMIZE);
 }
+
+static int Contains(const RECT& rect, POINT point) {
+    return point.x >= rect.left && point.x < rect.right && point.y >= rect.top && point.y < rect.bottom;
+}
+
+HWND WindowFromPoint(POINT point) {
+    if (Fails("WindowFromPoint"))
+        return nullptr;
+    for (const HWND handle : Desk.order)
+        if ((RowOf(handle).style & WS_VISIBLE) && Contains(RowOf(handle).place, point))
+            return handle;
+    return nullptr;
+}
+
+BOOL IntersectRect(RECT* shared, const RECT* a, const RECT* b) {
+    *shared = {};
+    if (Fails("IntersectRect"))
+        return FALSE;
+    const RECT both{std::max(a->left, b->left), std::max(a->top, b->top), std::min(a->right, b->right),
+                    std::min(a->bottom, b->bottom)};
+    if (both.left >= both.right || both.top >= both.bottom)
+        return FALSE;
+    *shared = both;
+    return TRUE;
+}
+
+WORD TileWindows(HWND, UINT how, const RECT* rect, UINT count, const HWND* windows) {
+    if (Fails("TileWindows"))
+        return 0;
+    Desk.tilings.push_back({
+        how, *rect, {windows, windows + count}
+    });
+    return static_cast<WORD>(count);
+}
+
+BOOL FlashWindow(HWND window, BOOL) {
+    return !Fails("FlashWindow") && Named(window);
+}

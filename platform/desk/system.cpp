@@ -101,6 +101,15 @@ BOOL MessageBeep(UINT type) {
     return TRUE;
 }
 
+// Blocks for its duration.
+BOOL Beep(DWORD hertz, DWORD milliseconds) {
+    if (Fails("Beep"))
+        return FALSE;
+    Desk.tones.push_back(hertz);
+    Desk.now += milliseconds;
+    return TRUE;
+}
+
 void InitCommonControls() {
     Fails("InitCommonControls");
 }

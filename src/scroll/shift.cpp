@@ -37,6 +37,13 @@ static int IsListView(HWND window) {
     return !std::strncmp(name, listViewClass, sizeof listViewClass - 1);
 }
 
+void PlaceWindow(HWND window, WindowPlace place) {
+    if (!AcceptsPlace(window, &place, SCROLL_PATIENCE))
+        return;
+    MoveWindow(window, place.x, place.y, place.width, place.height, TRUE);
+    ShowWindow(window, SW_SHOW);
+}
+
 // A list view that is a window of its own scrolls its contents as well. Bounded like the ping: a plain send
 // would wait for a hung program for ever. 0: it did not answer.
 static int ScrollListView(HWND window, int dx, int dy) {
@@ -57,11 +64,7 @@ static void ShiftWindow(HWND window, int dx, int dy) {
     if (!GetWindowRect(window, &before))
         return;
     RestoreIfZoomed(window);
-    WindowPlace place = ShiftedPlace(before, dx, dy, VDesk, Quorl, Options.border);
-    if (!AcceptsPlace(window, &place, SCROLL_PATIENCE))
-        return;
-    MoveWindow(window, place.x, place.y, place.width, place.height, TRUE);
-    ShowWindow(window, SW_SHOW);
+    PlaceWindow(window, ShiftedPlace(before, dx, dy, VDesk, Quorl, Options.border));
 }
 
 void ShiftWindows(int dx, int dy) {

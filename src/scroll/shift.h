@@ -14,6 +14,10 @@ struct WindowPlace {
 // answer within `patience` milliseconds, is hung or gone.
 int AcceptsPlace(HWND window, WindowPlace* place, UINT patience);
 
+// Moves a window that answers to the place, as it may have changed it, and shows it. One that does not answer
+// within SCROLL_PATIENCE stays.
+void PlaceWindow(HWND window, WindowPlace place);
+
 // Pure: the place of a window that is shifted by (dx, dy), held inside the desktop. The far edges are
 // compared in screen pixels, the near ones in desktop pixels.
 WindowPlace ShiftedPlace(const RECT& window, int dx, int dy, const RECT& vdesk, const RECT& quorl,

@@ -46,6 +46,7 @@ BOOL WINAPI GetMonitorInfoA(HMONITOR monitor, MONITORINFO* info);
 
 int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 BOOL WINAPI MessageBeep(UINT type);
+BOOL WINAPI Beep(DWORD hertz, DWORD milliseconds);
 
 UINT WINAPI GetPrivateProfileIntA(LPCSTR section, LPCSTR key, int absent, LPCSTR file);
 DWORD WINAPI GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR absent, LPSTR text, DWORD size,

@@ -61,6 +61,14 @@ constexpr int GWL_EXSTYLE = -20;
 
 constexpr DWORD LWA_ALPHA = 2;
 
+constexpr UINT SWP_NOSIZE = 1;
+constexpr UINT SWP_NOMOVE = 2;
+inline const HWND HWND_TOPMOST = reinterpret_cast<HWND>(static_cast<INT_PTR>(-1));
+inline const HWND HWND_NOTOPMOST = reinterpret_cast<HWND>(static_cast<INT_PTR>(-2));
+
+constexpr UINT MDITILE_VERTICAL = 0;
+constexpr UINT MDITILE_HORIZONTAL = 1;
+
 inline const HWND HWND_BROADCAST = reinterpret_cast<HWND>(static_cast<UINT_PTR>(0xffff));
 
 ATOM WINAPI RegisterClassA(const WNDCLASSA* description);
@@ -79,6 +87,7 @@ LONG_PTR WINAPI GetWindowLongPtrA(HWND window, int index);
 BOOL WINAPI GetWindowRect(HWND window, RECT* rect);
 BOOL WINAPI GetClientRect(HWND window, RECT* rect);
 BOOL WINAPI MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
+BOOL WINAPI SetWindowPos(HWND window, HWND after, int x, int y, int width, int height, UINT flags);
 BOOL WINAPI ShowWindow(HWND window, int command);
 BOOL WINAPI IsWindowVisible(HWND window);
 BOOL WINAPI IsWindowEnabled(HWND window);
@@ -86,6 +95,11 @@ BOOL WINAPI EnableWindow(HWND window, BOOL enable);
 BOOL WINAPI IsIconic(HWND window);
 BOOL WINAPI IsZoomed(HWND window);
 BOOL WINAPI SetLayeredWindowAttributes(HWND window, COLORREF key, BYTE alpha, DWORD flags);
+
+HWND WINAPI WindowFromPoint(POINT point);
+BOOL WINAPI IntersectRect(RECT* shared, const RECT* a, const RECT* b);
+WORD WINAPI TileWindows(HWND parent, UINT how, const RECT* rect, UINT count, const HWND* windows);
+BOOL WINAPI FlashWindow(HWND window, BOOL invert);
 
 HWND WINAPI GetForegroundWindow();
 BOOL WINAPI SetForegroundWindow(HWND window);

@@ -47,12 +47,17 @@ static int Holds(const RECT& rect, POINT point) {
     return point.x >= rect.left && point.x < rect.right && point.y >= rect.top && point.y < rect.bottom;
 }
 
+static int IsUnder(const DeskWindow& window, POINT point, DWORD topmost) {
+    return (window.style & (WS_VISIBLE | WS_MINIMIZE)) == WS_VISIBLE &&
+           (window.exStyle & WS_EX_TOPMOST) == topmost && Holds(window.place, point);
+}
+
+// A topmost window lies over all others, whatever was raised last.
 static HWND WindowUnder(POINT point) {
-    for (const HWND handle : Desk.order) {
-        const DeskWindow& window = RowOf(handle);
-        if ((window.style & (WS_VISIBLE | WS_MINIMIZE)) == WS_VISIBLE && Holds(window.place, point))
-            return handle;
-    }
+    for (const DWORD topmost : {WS_EX_TOPMOST, DWORD{0}})
+        for (const HWND handle : Desk.order)
+            if (IsUnder(RowOf(handle), point, topmost))
+                return handle;
     return nullptr;
 }
 

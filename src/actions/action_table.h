@@ -42,6 +42,8 @@ extern ActionRow ActionTable[NUM_ACTIONS + 1];
 enum NamedRow : ActionId {
     ROW_REGION = 3,
     ROW_CENTER_ON_ACTIVE = 21,
+    ROW_DRAG_TOOLWIN = 38,
+    ROW_DRAG_WINDOW = 39,
     ROW_SHRINK_WIDTH = 42,
     ROW_EXPAND_WIDTH = 43,
     ROW_SHRINK_HEIGHT = 44,

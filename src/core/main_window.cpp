@@ -6,6 +6,7 @@
 #include "core/quit.h"
 #include "core/state.h"
 #include "mouse/map_buttons.h"
+#include "mouse/map_hover.h"
 
 static LRESULT OnCreateMessage(HWND window, UINT, WPARAM, LPARAM) {
     return OnCreate(window) ? 0 : -1;
@@ -35,6 +36,12 @@ static LRESULT OnHotkey(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
+static LRESULT OnMouseMove(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
+    const ActionPoint point = PointOf(lParam);
+    OnToolwinMouseMove(window, point.x, point.y, wParam);
+    return 0;
+}
+
 static LRESULT OnDesktopSizeQuery(HWND, UINT, WPARAM, LPARAM lParam) {
     if (auto* limits = reinterpret_cast<MINMAXINFO*>(lParam))
         limits->ptMaxTrackSize = {Quorl.right, Quorl.bottom};
@@ -54,6 +61,7 @@ static const UINT DESKTOP_SIZE_MESSAGE = 1134; // open to other programs; a MINM
 
 static const MessageRow MainMessages[] = {
     {WM_HOTKEY,            OnHotkey          },
+    {WM_MOUSEMOVE,         OnMouseMove       },
     {WM_LBUTTONDOWN,       OnMapLeftPress    },
     {WM_LBUTTONUP,         OnMapRelease      },
     {WM_RBUTTONDOWN,       OnMapRightPress   },

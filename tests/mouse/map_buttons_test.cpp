@@ -121,7 +121,6 @@ TEST_F(MapButtons, ARowThatIsOfferedNowhereRunsIfItIsBound) {
 
 TEST_F(MapButtons, BindingsThatNoPressCanMakeNeverRun) {
     Bind(5, KEY_WIN, LBUTTON);
-    Bind(6, KEY_CTRL, 0);
     Bind(8, UNBOUND, UNBOUND);
     ClickOnMap(10, 10, VK_LBUTTON, {VK_LCONTROL});
     ClickOnMap(10, 10, VK_LBUTTON, {VK_LMENU}); // rows 40 and 41 are bound to buttons "1" and "2"

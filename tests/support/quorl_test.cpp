@@ -60,6 +60,13 @@ void WillAnswer(std::initializer_list<int> answers) {
     Desk.answers.assign(answers.begin(), answers.end());
 }
 
+std::string LastTip() {
+    for (auto stroke = Desk.strokes.rbegin(); stroke != Desk.strokes.rend(); ++stroke)
+        if (stroke->what == "DrawTextExA" && RowOf(stroke->window).className == "w_ToolTip")
+            return stroke->text;
+    return "";
+}
+
 RECT PlaceOf(HWND window) {
     return RowOf(window).place;
 }

@@ -36,6 +36,9 @@ void Command(int row);
 // The user answers the next boxes, in this order.
 void WillAnswer(std::initializer_list<int> answers);
 
+// What the strip over the map said last, on show or not; empty if it never did.
+std::string LastTip();
+
 RECT PlaceOf(HWND window);
 
 RECT Rect(int left, int top, int right, int bottom);

@@ -1,0 +1,157 @@
+#include "mouse/map_hover.h"
+
+#include "actions/action_table.h"
+#include "core/state.h"
+#include "regions/region_table.h"
+#include "support/map_mouse.h"
+
+#include <cstring>
+
+namespace {
+
+class MapHover : public QuorlTest {
+  protected:
+    // A map of 256 by 96 in a Toolwin at (100, 100): a pixel on it is 16 on the desktop.
+    void Start() {
+        ASSERT_EQ(StartQuorl(), 1);
+        ResizeMap(256, 96);
+        Settle();
+    }
+};
+
+void Bind(int row, int mods, int button) {
+    ActionTable[row].mouse_mods = mods;
+    ActionTable[row].mouse_btn = button;
+}
+
+void MarkRegion(const char* name, const RECT& place) {
+    RegionRow& row = RegionTable[num_regions++];
+    std::strcpy(row.name, name);
+    row.left = place.left;
+    row.top = place.top;
+    row.right = place.right;
+    row.bottom = place.bottom;
+}
+
+std::string TipAt(int x, int y) {
+    MoveOnMap(x, y);
+    return LastTip();
+}
+
+// The cursor moves over the screen, wherever the map is.
+void MoveBy(int dx, int dy) {
+    MoveMouse(Desk.cursor.x + dx, Desk.cursor.y + dy);
+    Settle();
+}
+
+TEST_F(MapHover, TheTipTellsTheWindowElseTheRegionElseThePlace) {
+    OpenWindow("editor", {0, 0, 320, 320});
+    OpenWindow("100%n %s%d full", {400, 0, 600, 320});
+    OpenWindow("0123456789012345678901234567890123456789", {700, 0, 1000, 320});
+    Start();
+    MarkRegion("50%s done, 32 characters of name", {0, 0, 1024, 768});
+
+    EXPECT_EQ(TipAt(10, 10), "editor: [160, 160]");
+    EXPECT_EQ(TipAt(30, 10), "100%n %s%d full: [480, 160]");
+    EXPECT_EQ(TipAt(50, 10), "0123456789012345678901234567890: [800, 160]") << "cut at 31";
+    EXPECT_EQ(TipAt(50, 30), "Region 0: 50%s done, 32 characters of name [800, 480]");
+    EXPECT_EQ(TipAt(200, 80), "Quorl: 3200, 1280");
+    EXPECT_NE(TipWnd, nullptr);
+}
+
+TEST_F(MapHover, WithTipsOffNothingIsToldAndTheLastTipIsForgotten) {
+    Start();
+    MoveOnMap(10, 10);
+    ASSERT_NE(TipWnd, nullptr);
+    ActionTable[ROW_TOOLTIP].value = 0;
+    EXPECT_EQ(TipAt(200, 80), "Quorl: 160, 160") << "still the text from before";
+    EXPECT_EQ(TipWnd, nullptr);
+}
+
+TEST_F(MapHover, TheLeftButtonDragsTheToolwinAndItKeepsItsOffsetToTheCursor) {
+    Start();
+    const RECT before = PlaceOf(MainWnd);
+    MoveOnMap(40, 30);
+    PressOnMap(VK_LBUTTON);
+    const POINT cursor = Desk.cursor;
+    for (int step = 0; step < 5; ++step)
+        MoveBy(37, 21);
+    EXPECT_EQ(PlaceOf(MainWnd),
+              Rect(before.left + 185, before.top + 105, before.right + 185, before.bottom + 105));
+
+    MoveMouse(cursor.x - 1000, cursor.y); // beyond the screen's edge and back
+    MoveMouse(cursor.x + 1, cursor.y);
+    Settle();
+    EXPECT_EQ(PlaceOf(MainWnd), Rect(before.left + 1, before.top, before.right + 1, before.bottom));
+
+    ReleaseOnMap(VK_LBUTTON);
+    MoveBy(5, 5);
+    EXPECT_EQ(PlaceOf(MainWnd).left, before.left + 1) << "the button is up";
+    EXPECT_EQ(LastTip(), "Quorl: 720, 560");
+}
+
+TEST_F(MapHover, AKeyPressedInADragEndsItAndItsOwnBindingRuns) {
+    Start();
+    MoveOnMap(200, 80);
+    PressOnMap(VK_LBUTTON);
+    MoveBy(10, 10);
+    const RECT dragged = PlaceOf(MainWnd);
+    HoldKey(VK_LSHIFT, 1);
+    MoveBy(10, 10);
+    EXPECT_EQ(PlaceOf(MainWnd), dragged);
+    EXPECT_EQ(VDesk, Rect(3072, 768, 4096, 1536)) << "Shift and left go to the screen under the cursor";
+}
+
+TEST_F(MapHover, ADragBoundToShiftGoesOnUnderShiftAlone) {
+    Start();
+    Bind(ROW_DRAG_TOOLWIN, KEY_SHIFT, LBUTTON);
+    const RECT before = PlaceOf(MainWnd);
+    HoldKey(VK_LSHIFT, 1);
+    MoveOnMap(40, 30);
+    Bind(4, UNBOUND, UNBOUND);
+    PressOnMap(VK_LBUTTON);
+    MoveBy(10, 0);
+    ReleaseOnMap(VK_LBUTTON);
+    MoveBy(10, 0);
+    EXPECT_EQ(PlaceOf(MainWnd).left, before.left + 20);
+    HoldKey(VK_LSHIFT, 0);
+    MoveBy(10, 0);
+    EXPECT_EQ(PlaceOf(MainWnd).left, before.left + 20);
+}
+
+TEST_F(MapHover, ABoundCombinationRunsOnEachMoveAndTellsNoPlace) {
+    Start();
+    MoveOnMap(100, 40);
+    PressOnMap(VK_MBUTTON);
+    for (const int x : {110, 120, 130}) {
+        MoveOnMap(x, 48);
+        EXPECT_EQ(VDesk.left, x * 16 - 512);
+    }
+    EXPECT_EQ(LastTip().substr(0, 6), "VDesk:");
+    ReleaseOnMap(VK_MBUTTON);
+
+    Bind(6, KEY_CTRL, 0); // right by 100, without any button
+    const LONG left = VDesk.left;
+    HoldKey(VK_LCONTROL, 1);
+    MoveOnMap(131, 48);
+    MoveOnMap(132, 48);
+    EXPECT_EQ(VDesk.left, left + 200);
+}
+
+TEST_F(MapHover, AMapWithoutAreaAndADesktopOfAnySizeAreHarmless) {
+    Start();
+    MoveOnMap(40, 30);
+    HoldKey(VK_MBUTTON, 1);
+    Desk.capture = MainWnd;
+    for (const RECT& quorl : {Rect(0, 0, 0, 0), Rect(0, 0, INT32_MIN, INT32_MAX), Rect(0, 0, 4096, 1536)}) {
+        Quorl = quorl;
+        MoveOnMap(-32768, 32767);
+    }
+    RowOf(MainWnd).place.right = RowOf(MainWnd).place.left;
+    RowOf(MainWnd).place.bottom = RowOf(MainWnd).place.top;
+    HoldKey(VK_MBUTTON, 0);
+    MoveOnMap(70, 60);
+    EXPECT_EQ(LastTip(), "Quorl: 0, 0");
+}
+
+} // namespace

@@ -2,6 +2,7 @@
 #include "ground.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace {
 
@@ -30,21 +31,36 @@ static std::size_t NextLine(const std::string& text, std::size_t start) {
     return end == std::string::npos ? text.size() : end + 1;
 }
 
-static std::string Trimmed(const std::string& text, std::size_t from, std::size_t to) {
-    const auto blank = [&text](std::size_t at) { return text[at] == ' ' || text[at] == '\t'; };
-    while (from < to && blank(from))
+static int IsBlank(char letter) {
+    return letter == ' ' || letter == '\t';
+}
+
+static std::string_view Trimmed(const std::string& text, std::size_t from, std::size_t to) {
+    while (from < to && IsBlank(text[from]))
         ++from;
-    while (to > from && blank(to - 1))
+    while (to > from && IsBlank(text[to - 1]))
         --to;
-    return text.substr(from, to - from);
+    return std::string_view(text).substr(from, to - from);
+}
+
+// Case does not count. Lines can be long: nothing is copied.
+static int IsSame(std::string_view text, std::string_view name) {
+    const auto lower = [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? letter + ('a' - 'A') : letter;
+    };
+    return std::ranges::equal(text, name, {}, lower, lower);
+}
+
+static bool IsHeading(const std::string& text, const Line& line) {
+    return Trimmed(text, line.start, line.end).starts_with('[');
 }
 
 // Where the lines of a section begin, or npos. The first section of that name counts.
 static std::size_t SectionStart(const std::string& text, const std::string& section) {
-    const std::string heading = "[" + LowerCase(section) + "]";
+    const std::string heading = "[" + section + "]";
     for (std::size_t at = 0; at < text.size(); at = NextLine(text, at)) {
         const Line line = LineAt(text, at);
-        if (LowerCase(Trimmed(text, line.start, line.end)) == heading)
+        if (IsSame(Trimmed(text, line.start, line.end), heading))
             return NextLine(text, at);
     }
     return std::string::npos;
@@ -55,17 +71,16 @@ static std::size_t SectionEnd(const std::string& text, std::size_t at) {
     std::size_t end = at;
     for (; at < text.size(); at = NextLine(text, at)) {
         const Line line = LineAt(text, at);
-        const std::string content = Trimmed(text, line.start, line.end);
-        if (!content.empty() && content.front() == '[')
+        if (IsHeading(text, line))
             break;
-        if (!content.empty())
+        if (!Trimmed(text, line.start, line.end).empty())
             end = NextLine(text, at);
     }
     return end;
 }
 
 // Quotes round the whole value are not part of it.
-static std::string Unquoted(const std::string& value) {
+static std::string_view Unquoted(std::string_view value) {
     const bool quoted =
         value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
     return quoted ? value.substr(1, value.size() - 2) : value;
@@ -73,18 +88,17 @@ static std::string Unquoted(const std::string& value) {
 
 static bool FindEntry(const std::string& text, const std::string& section, const std::string& key,
                       Entry* found) {
-    std::size_t at = SectionStart(text, section);
-    if (at == std::string::npos)
-        return false;
-    for (const std::size_t end = SectionEnd(text, at); at < end; at = NextLine(text, at)) {
+    for (std::size_t at = SectionStart(text, section); at < text.size(); at = NextLine(text, at)) {
         const Line line = LineAt(text, at);
+        if (IsHeading(text, line))
+            return false;
         const std::size_t equals = std::min(text.find('=', line.start), line.end);
-        if (equals == line.end || LowerCase(Trimmed(text, line.start, equals)) != LowerCase(key))
+        if (equals == line.end || !IsSame(Trimmed(text, line.start, equals), key))
             continue;
-        *found = {line, Unquoted(Trimmed(text, equals + 1, line.end))};
+        *found = {line, std::string(Unquoted(Trimmed(text, equals + 1, line.end)))};
         return true;
     }
-    return false;
+    return false; // there is no such section, too
 }
 
 static bool Stored(LPCSTR section, LPCSTR key, LPCSTR file, Entry* found) {

@@ -1,0 +1,88 @@
+#include "settings/actions_file.h"
+
+#include "actions/hotkeys.h"
+#include "core/create.h"
+#include "core/state.h"
+#include "regions/region_table.h"
+#include "settings/settings_test.h"
+
+#include <algorithm>
+
+namespace {
+
+class ActionsFile : public QuorlTest {};
+
+void HoldElsewhere(UINT modifiers, UINT key) {
+    Desk.hotkeys.push_back({nullptr, 0, modifiers, key});
+}
+
+int IsRegistered(int row, UINT modifiers, UINT key) {
+    return std::any_of(Desk.hotkeys.begin(), Desk.hotkeys.end(), [=](const DeskHotkey& hotkey) {
+        return hotkey.window == MainWnd && hotkey.id == row && hotkey.modifiers == modifiers &&
+               hotkey.key == key;
+    });
+}
+
+TEST_F(ActionsFile, ADefaultThatTheShellHoldsIsReportedAtTheFirstStartOnly) {
+    HoldElsewhere(MOD_WIN, VK_UP);
+    WillAnswer({IDOK});
+    StartQuorl();
+    ASSERT_EQ(Desk.boxes.size(), 1u);
+    EXPECT_NE(Desk.boxes[0].text.find("(41)"), std::string::npos);
+    Command(47);
+    EXPECT_EQ(Stored("Action41"), "2|2|-1|-1|0");
+
+    ClearAllActionKeys(MainWnd);
+    OnCreate(MainWnd); // as the next run does
+    EXPECT_EQ(Desk.boxes.size(), 1u);
+    EXPECT_TRUE(IsRegistered(28, MOD_CONTROL | MOD_ALT, VK_LEFT)) << "the others are back";
+}
+
+TEST_F(ActionsFile, AStoredCombinationTakesThePlaceOfTheDefault) {
+    HoldElsewhere(MOD_CONTROL | MOD_ALT, VK_LEFT); // the default of row 28
+    StoreFile("Action28=-1|-1|4|112|0\nAction54=1|8|0|66|1\n");
+    StartQuorl();
+    EXPECT_TRUE(IsRegistered(28, MOD_CONTROL, VK_F1));
+    EXPECT_TRUE(IsRegistered(54, 0, 'B'));
+    EXPECT_EQ(ActionTable[54].mouse_mods, 1);
+    EXPECT_EQ(ActionTable[54].mouse_btn, 8);
+    EXPECT_EQ(ActionTable[54].value, 1);
+    EXPECT_TRUE(IsRegistered(30, MOD_CONTROL | MOD_ALT, VK_RIGHT)) << "no line: the default stays";
+}
+
+TEST_F(ActionsFile, EachRefusedCombinationIsReportedOnceAndKept) {
+    HoldElsewhere(MOD_CONTROL, VK_F1);
+    HoldElsewhere(MOD_CONTROL, VK_F1 + 1);
+    StoreFile("Action28=-1|-1|4|112|0\nAction71=-1|-1|4|113|1\n");
+    WillAnswer({IDOK, IDOK});
+    StartQuorl();
+    EXPECT_EQ(Desk.boxes.size(), 2u);
+    EXPECT_EQ(ActionTable[28].key_mods, 4);
+    EXPECT_EQ(ActionTable[28].vk, 112);
+    Command(47);
+    EXPECT_EQ(Stored("Action28"), "-1|-1|4|112|0");
+}
+
+TEST_F(ActionsFile, ARowThatForbidsLoadingLeavesAllDefaultsAndKeepsItsOwnKey) {
+    StoreFile("border=9\nnum_regions=1\nAction28=-1|-1|4|112|0\nAction71=0|8|4|113|0\n");
+    StartQuorl();
+    EXPECT_EQ(Options.border, 5);
+    EXPECT_EQ(num_regions, 0);
+    EXPECT_TRUE(IsRegistered(28, MOD_CONTROL | MOD_ALT, VK_LEFT));
+    EXPECT_TRUE(IsRegistered(71, MOD_CONTROL, VK_F1 + 1));
+    EXPECT_EQ(ActionTable[71].mouse_btn, 8);
+}
+
+TEST_F(ActionsFile, ALineThatIsTooShortLeavesItsRowUnboundAndTheValueAsItWas) {
+    StoreFile("Action28=\nAction30=|\nAction72=1|8\nAction71=0\nAction70=a|b|c|d|e|f\n");
+    StartQuorl();
+    EXPECT_TRUE(IsRegistered(28, MOD_CONTROL | MOD_ALT, VK_LEFT)) << "an empty line is none";
+    EXPECT_EQ(ActionTable[30].key_mods, UNBOUND);
+    EXPECT_EQ(ActionTable[72].mouse_btn, 8);
+    EXPECT_EQ(ActionTable[72].vk, UNBOUND);
+    EXPECT_EQ(ActionTable[72].value, 1);
+    EXPECT_EQ(ActionTable[71].value, 1);
+    EXPECT_EQ(ActionTable[70].value, 0) << "what is no number is 0";
+}
+
+} // namespace

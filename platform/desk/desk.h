@@ -93,13 +93,21 @@ struct DeskFault {
     int hits = 0;
 };
 
-enum class DeskObjectKind { Brush, Font, Icon };
+enum class DeskObjectKind { Brush, Font, Icon, Pen };
+
+struct DeskPen {
+    int style;
+    int width;
+    COLORREF color;
+};
 
 struct DeskObject {
     DeskObjectKind kind{};
     int bStock = 0; // belongs to the system and is never deleted
     int bLive = 1;
-    int index = 0;  // Brush: system colour; Icon: resource number
+    int index = 0;      // Brush: system colour; Icon: resource number
+    COLORREF color = 0; // Brush
+    DeskPen pen{};
     int height = 0; // Font
     int weight = 0;
     std::string face;
@@ -107,7 +115,10 @@ struct DeskObject {
 
 struct DeskContext {
     HWND window;
-    HGDIOBJ font;
+    HGDIOBJ font, pen, brush; // selected
+    int rop;
+    POINT at;  // where a line starts
+    RECT clip; // client pixels: nothing is drawn outside
     int bLive;
 };
 
@@ -115,10 +126,15 @@ struct DeskContext {
 struct DeskStroke {
     std::string what; // name of the call
     HWND window;
-    RECT rect;
+    RECT rect; // LineTo: from left, top up to right, bottom
     std::string text;
     HGDIOBJ font;
     UINT format;
+    DeskPen pen{}; // what was selected at that moment
+    HGDIOBJ brush = nullptr;
+    COLORREF fill = 0; // of the brush
+    int rop = R2_COPYPEN;
+    RECT clip{};
 };
 
 // What TileWindows was given.
@@ -176,11 +192,13 @@ struct DeskState {
     std::deque<DeskObject> objects;
     std::deque<DeskContext> contexts;
     std::vector<DeskStroke> strokes;
+    int deletedInUse =
+        0; // objects deleted while selected: Windows waits with them, good programs do not do it
 
     DWORD lastError = 0;
     DeskFault fault;
     int calls = 0;  // platform calls so far
-    int bTrace = 1; // keep their names; off in benchmarks
+    int bTrace = 1; // keep their names, what was drawn and what others received; off in benchmarks
     std::vector<const char*> trace;
 };
 
@@ -211,3 +229,7 @@ POINT OnScreen(HWND window, int x, int y);
 
 // How often a call of this name was made since `Desk.trace` was last cleared.
 int CallsOf(const char* call);
+
+// Drawing objects and contexts that nobody has deleted or released; those of the system do not count.
+int LiveObjects();
+int LiveContexts();

@@ -5,9 +5,7 @@
 #include <utility>
 
 void Invalidate(DeskWindow& window, const RECT* rect, int bErase) {
-    RECT area{0, 0, window.place.right - window.place.left, window.place.bottom - window.place.top};
-    if (rect)
-        area = *rect;
+    RECT area = rect ? *rect : ClientArea(window);
     if (window.bInvalid)
         area = {std::min(area.left, window.invalid.left), std::min(area.top, window.invalid.top),
                 std::max(area.right, window.invalid.right), std::max(area.bottom, window.invalid.bottom)};
@@ -32,13 +30,54 @@ BOOL UpdateWindow(HWND window) {
     return TRUE;
 }
 
-static HDC ContextFor(HWND window) {
-    Desk.contexts.push_back({window, nullptr, 1});
-    return reinterpret_cast<HDC>(&Desk.contexts.back());
+// Places of what is gone are used again, so that a long run does not grow.
+static DeskObject* Keep(DeskObjectKind kind, int index, int bStock) {
+    const auto gone = std::find_if(Desk.objects.begin(), Desk.objects.end(),
+                                   [](const DeskObject& object) { return !object.bLive; });
+    DeskObject& object = gone == Desk.objects.end() ? Desk.objects.emplace_back() : *gone;
+    object = {};
+    object.kind = kind;
+    object.index = index;
+    object.bStock = bStock;
+    return &object;
 }
 
-static DeskContext& ContextOf(HDC context) {
-    return *reinterpret_cast<DeskContext*>(context);
+// What a fresh context has selected.
+static HGDIOBJ StockObject(DeskObjectKind kind) {
+    static DeskObject* stock[3];
+    DeskObject*& object = stock[kind == DeskObjectKind::Pen ? 0 : kind == DeskObjectKind::Brush ? 1 : 2];
+    if (!object)
+        object = Keep(kind, -1, 1);
+    object->color = 0xffffff;
+    object->pen = {PS_SOLID, 1, 0};
+    return object;
+}
+
+static HDC ContextFor(HWND window, const RECT& clip) {
+    const auto gone = std::find_if(Desk.contexts.begin(), Desk.contexts.end(),
+                                   [](const DeskContext& context) { return !context.bLive; });
+    DeskContext& context = gone == Desk.contexts.end() ? Desk.contexts.emplace_back() : *gone;
+    context = {};
+    context.window = window;
+    context.font = StockObject(DeskObjectKind::Font);
+    context.pen = StockObject(DeskObjectKind::Pen);
+    context.brush = StockObject(DeskObjectKind::Brush);
+    context.rop = R2_COPYPEN;
+    context.clip = clip;
+    context.bLive = 1;
+    return reinterpret_cast<HDC>(&context);
+}
+
+DeskContext* ContextOf(HDC context) {
+    auto* row = reinterpret_cast<DeskContext*>(context);
+    return row && row->bLive ? row : nullptr;
+}
+
+static int Release(HDC context) {
+    DeskContext* row = ContextOf(context);
+    if (row)
+        row->bLive = 0;
+    return row != nullptr;
 }
 
 HDC BeginPaint(HWND window, PAINTSTRUCT* paint) {
@@ -46,7 +85,7 @@ HDC BeginPaint(HWND window, PAINTSTRUCT* paint) {
     DeskWindow* row = Fails("BeginPaint") ? nullptr : Named(window);
     if (!row)
         return nullptr;
-    paint->hdc = ContextFor(window);
+    paint->hdc = ContextFor(window, row->invalid);
     paint->rcPaint = row->invalid;
     const int bErase = row->bErase;
     row->bInvalid = row->bErase = 0;
@@ -56,29 +95,16 @@ HDC BeginPaint(HWND window, PAINTSTRUCT* paint) {
 }
 
 BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) {
-    if (Fails("EndPaint") || !Named(window) || !paint->hdc)
-        return FALSE;
-    ContextOf(paint->hdc).bLive = 0;
-    return TRUE;
+    return !Fails("EndPaint") && Named(window) && Release(paint->hdc);
 }
 
 HDC GetDC(HWND window) {
-    return !Fails("GetDC") && Named(window) ? ContextFor(window) : nullptr;
+    const DeskWindow* row = Fails("GetDC") ? nullptr : Named(window);
+    return row ? ContextFor(window, ClientArea(*row)) : nullptr;
 }
 
 int ReleaseDC(HWND, HDC context) {
-    if (Fails("ReleaseDC") || !context)
-        return 0;
-    ContextOf(context).bLive = 0;
-    return 1;
-}
-
-static DeskObject* Keep(DeskObjectKind kind, int index, int bStock) {
-    DeskObject& object = Desk.objects.emplace_back();
-    object.kind = kind;
-    object.index = index;
-    object.bStock = bStock;
-    return &object;
+    return !Fails("ReleaseDC") && Release(context);
 }
 
 HBRUSH GetSysColorBrush(int index) {
@@ -102,6 +128,22 @@ HFONT CreateFontA(int height, int, int, int, int weight, DWORD, DWORD, DWORD, DW
     return reinterpret_cast<HFONT>(font);
 }
 
+HBRUSH CreateSolidBrush(COLORREF color) {
+    if (Fails("CreateSolidBrush"))
+        return nullptr;
+    DeskObject* brush = Keep(DeskObjectKind::Brush, -1, 0);
+    brush->color = color;
+    return reinterpret_cast<HBRUSH>(brush);
+}
+
+HPEN CreatePen(int style, int width, COLORREF color) {
+    if (Fails("CreatePen"))
+        return nullptr;
+    DeskObject* pen = Keep(DeskObjectKind::Pen, -1, 0);
+    pen->pen = {style, width, color};
+    return reinterpret_cast<HPEN>(pen);
+}
+
 // A picture named by number; the system's own (no instance) are never deleted.
 static DeskObject* KeepIcon(HINSTANCE instance, LPCSTR name) {
     return Keep(DeskObjectKind::Icon, static_cast<int>(reinterpret_cast<UINT_PTR>(name) & 0xffff), !instance);
@@ -119,24 +161,54 @@ HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name) {
     return Fails("LoadCursorA") ? nullptr : reinterpret_cast<HCURSOR>(KeepIcon(instance, name));
 }
 
+// The place in a context that holds objects of a kind; an icon has none.
+static HGDIOBJ* SlotFor(DeskContext& on, DeskObjectKind kind) {
+    switch (kind) {
+    case DeskObjectKind::Font: return &on.font;
+    case DeskObjectKind::Pen: return &on.pen;
+    case DeskObjectKind::Brush: return &on.brush;
+    default: return nullptr;
+    }
+}
+
 HGDIOBJ SelectObject(HDC context, HGDIOBJ object) {
-    if (Fails("SelectObject") || !context || !object)
+    DeskContext* on = Fails("SelectObject") ? nullptr : ContextOf(context);
+    if (!on || !object || !static_cast<DeskObject*>(object)->bLive)
         return nullptr;
-    if (static_cast<DeskObject*>(object)->kind != DeskObjectKind::Font)
+    HGDIOBJ* slot = SlotFor(*on, static_cast<DeskObject*>(object)->kind);
+    if (!slot)
         return nullptr;
-    std::swap(ContextOf(context).font, object);
+    std::swap(*slot, object);
     return object;
 }
 
-// An icon is no drawing object: DeleteObject refuses it.
+static int IsSelected(HGDIOBJ object) {
+    return std::any_of(Desk.contexts.begin(), Desk.contexts.end(), [object](const DeskContext& context) {
+        return context.bLive && (context.font == object || context.pen == object || context.brush == object);
+    });
+}
+
+// An icon is no drawing object: DeleteObject refuses it. So it does for one that is gone already.
 BOOL DeleteObject(HGDIOBJ object) {
     if (Fails("DeleteObject") || !object)
         return FALSE;
     auto& row = *static_cast<DeskObject*>(object);
     if (!row.bLive || row.kind == DeskObjectKind::Icon)
         return FALSE;
+    Desk.deletedInUse += IsSelected(object);
     row.bLive = row.bStock;
     return TRUE;
+}
+
+int LiveObjects() {
+    return static_cast<int>(
+        std::count_if(Desk.objects.begin(), Desk.objects.end(),
+                      [](const DeskObject& object) { return object.bLive && !object.bStock; }));
+}
+
+int LiveContexts() {
+    return static_cast<int>(std::count_if(Desk.contexts.begin(), Desk.contexts.end(),
+                                          [](const DeskContext& context) { return context.bLive; }));
 }
 
 int SetBkMode(HDC context, int) {
@@ -152,10 +224,12 @@ BOOL GetTextExtentPoint32A(HDC context, LPCSTR, int length, SIZE* extent) {
 }
 
 int DrawTextExA(HDC context, LPSTR text, int length, RECT* rect, UINT format, DRAWTEXTPARAMS*) {
-    if (Fails("DrawTextExA") || !context)
+    const DeskContext* on = Fails("DrawTextExA") ? nullptr : ContextOf(context);
+    if (!on)
         return 0;
-    const DeskContext& on = ContextOf(context);
-    const std::string drawn(text, static_cast<std::size_t>(length));
-    Desk.strokes.push_back({"DrawTextExA", on.window, *rect, drawn, on.font, format});
+    if (Desk.bTrace) {
+        const std::string drawn(text, static_cast<std::size_t>(length));
+        Desk.strokes.push_back({"DrawTextExA", on->window, *rect, drawn, on->font, format});
+    }
     return 16;
 }

@@ -15,6 +15,9 @@ DeskWindow* Living(HWND window);
 // Marks part of the client area (null: all of it) as waiting for a paint.
 void Invalidate(DeskWindow& window, const RECT* rect, int bErase);
 
+// The window's inside, in client pixels.
+RECT ClientArea(const DeskWindow& window);
+
 // Calls the window's procedure; 0 when it is a window of another program.
 LRESULT CallProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -35,3 +38,9 @@ void DropHotkeysOf(HWND window);
 int CopyText(const std::string& from, char* to, int limit);
 
 std::string LowerCase(const std::string& text);
+
+// A context that has not been released, or null.
+DeskContext* ContextOf(HDC context);
+
+// Remembers one thing drawn, with the tools that the context has selected.
+void Record(const DeskContext& on, const char* what, const RECT& rect);

@@ -17,7 +17,8 @@ static void Deliver(DeskWindow& window, UINT message, WPARAM wParam, LPARAM lPar
         if (window.bRewrites)
             record = window.rewritten;
     }
-    window.received.push_back(arrived);
+    if (Desk.bTrace)
+        window.received.push_back(arrived);
 }
 
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

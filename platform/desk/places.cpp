@@ -17,14 +17,17 @@ int FrameWidth(const DeskWindow& window) {
     return window.style & WS_BORDER ? 1 : 0;
 }
 
+RECT ClientArea(const DeskWindow& window) {
+    const int frames = 2 * FrameWidth(window);
+    return {0, 0, std::max(0, window.place.right - window.place.left - frames),
+            std::max(0, window.place.bottom - window.place.top - frames)};
+}
+
 BOOL GetClientRect(HWND window, RECT* rect) {
     const DeskWindow* row = Fails("GetClientRect") ? nullptr : Named(window);
-    if (!row)
-        return FALSE;
-    const int frames = 2 * FrameWidth(*row);
-    *rect = {0, 0, std::max(0, row->place.right - row->place.left - frames),
-             std::max(0, row->place.bottom - row->place.top - frames)};
-    return TRUE;
+    if (row)
+        *rect = ClientArea(*row);
+    return row != nullptr;
 }
 
 // A window of this process says its limits itself, when it has a sizing frame.

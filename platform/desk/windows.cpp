@@ -109,10 +109,19 @@ LONG_PTR GetWindowLongPtrA(HWND window, int index) {
         return 0;
     switch (index) {
     case GWLP_HINSTANCE: return reinterpret_cast<LONG_PTR>(row->instance);
+    case GWLP_HWNDPARENT: return reinterpret_cast<LONG_PTR>(row->owner);
     case GWL_STYLE: return static_cast<LONG_PTR>(row->style);
     case GWL_EXSTYLE: return static_cast<LONG_PTR>(row->exStyle);
     default: return 0;
     }
+}
+
+ULONG_PTR GetClassLongPtrA(HWND window, int index) {
+    const DeskWindow* row = Fails("GetClassLongPtrA") ? nullptr : Named(window);
+    if (!row || index != GCLP_HBRBACKGROUND)
+        return 0;
+    const auto found = Desk.classes.find(row->className);
+    return found == Desk.classes.end() ? 0 : reinterpret_cast<ULONG_PTR>(found->second.hbrBackground);
 }
 
 BOOL IsWindowEnabled(HWND window) {

@@ -16,6 +16,14 @@ constexpr int COLOR_INFOBK = 24;
 
 constexpr int TRANSPARENT = 1;
 
+constexpr int PS_SOLID = 0;
+constexpr int PS_DOT = 2;
+
+constexpr int R2_COPYPEN = 13;
+constexpr int R2_MERGEPENNOT = 14;
+
+constexpr COLORREF CLR_INVALID = 0xffffffff;
+
 constexpr UINT DT_WORDBREAK = 0x10;
 constexpr UINT DT_NOPREFIX = 0x800;
 constexpr UINT DT_END_ELLIPSIS = 0x8000;
@@ -34,9 +42,18 @@ HBRUSH WINAPI GetSysColorBrush(int index);
 HFONT WINAPI CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic,
                          DWORD underline, DWORD strikeOut, DWORD charSet, DWORD outPrecision,
                          DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily, LPCSTR face);
+HBRUSH WINAPI CreateSolidBrush(COLORREF color);
+HPEN WINAPI CreatePen(int style, int width, COLORREF color);
 HGDIOBJ WINAPI SelectObject(HDC context, HGDIOBJ object);
 BOOL WINAPI DeleteObject(HGDIOBJ object);
 
 int WINAPI SetBkMode(HDC context, int mode);
 BOOL WINAPI GetTextExtentPoint32A(HDC context, LPCSTR text, int length, SIZE* extent);
 int WINAPI DrawTextExA(HDC context, LPSTR text, int length, RECT* rect, UINT format, DRAWTEXTPARAMS* params);
+
+int WINAPI SetROP2(HDC context, int mode);
+BOOL WINAPI MoveToEx(HDC context, int x, int y, POINT* before);
+BOOL WINAPI LineTo(HDC context, int x, int y);
+BOOL WINAPI Rectangle(HDC context, int left, int top, int right, int bottom);
+BOOL WINAPI DrawFocusRect(HDC context, const RECT* rect);
+COLORREF WINAPI GetPixel(HDC context, int x, int y);

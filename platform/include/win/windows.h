@@ -56,8 +56,10 @@ constexpr int SW_SHOWNA = 8;
 constexpr int SW_RESTORE = 9;
 
 constexpr int GWLP_HINSTANCE = -6;
+constexpr int GWLP_HWNDPARENT = -8;
 constexpr int GWL_STYLE = -16;
 constexpr int GWL_EXSTYLE = -20;
+constexpr int GCLP_HBRBACKGROUND = -10;
 
 constexpr DWORD LWA_ALPHA = 2;
 
@@ -83,6 +85,7 @@ HWND WINAPI GetDesktopWindow();
 int WINAPI GetClassNameA(HWND window, LPSTR text, int limit);
 int WINAPI GetWindowTextA(HWND window, LPSTR text, int limit);
 LONG_PTR WINAPI GetWindowLongPtrA(HWND window, int index);
+ULONG_PTR WINAPI GetClassLongPtrA(HWND window, int index);
 
 BOOL WINAPI GetWindowRect(HWND window, RECT* rect);
 BOOL WINAPI GetClientRect(HWND window, RECT* rect);

@@ -1,0 +1,162 @@
+#include "actions/hotkeys.h"
+
+#include "core/state.h"
+#include "support/quorl_test.h"
+
+namespace {
+
+TEST(KeyDecision, KeysStandForThemselvesAndCharactersForTheKeyThatTypesThem) {
+    struct {
+        int key, looked, vk;
+    } const cases[] = {
+        {VK_SPACE, VK_SPACE, VK_SPACE   },
+        {VK_LEFT,  VK_LEFT,  VK_LEFT    },
+        {VK_DOWN,  VK_DOWN,  VK_DOWN    },
+        {VK_F1,    VK_F1,    VK_F1      },
+        {VK_F12,   VK_F12,   VK_F12     },
+        {'A',      'a',      'A'        },
+        {'Z',      'z',      'Z'        },
+        {'7',      '7',      '7'        },
+        {VK_TAB,   VK_TAB,   VK_TAB     },
+        {'!',      '!',      0x100 + '1'}, // the shift state stays in the value ...
+        {305,      '1',      '1'        }, // ... and is lost when that value comes back from a file
+        {257,      1,        -1         },
+        {256,      256,      -1         }, // only above 256 is it taken off
+        {VK_F13,   VK_F13,   -1         }, // on this keyboard, '|' and its kin type nothing
+        {36,       36,       0x100 + '4'}, // just before the arrows
+    };
+    for (const auto& [key, looked, vk] : cases) {
+        int value = key;
+        EXPECT_EQ(VirtualKey(&value), vk) << key;
+        EXPECT_EQ(value, looked) << key;
+    }
+}
+
+TEST(KeyDecision, FlagsBecomeTheModifiersOfTheSystem) {
+    EXPECT_EQ(HotkeyModifiers(0), 0U);
+    EXPECT_EQ(HotkeyModifiers(KEY_CTRL), MOD_CONTROL);
+    EXPECT_EQ(HotkeyModifiers(KEY_SHIFT), MOD_SHIFT);
+    EXPECT_EQ(HotkeyModifiers(KEY_WIN), MOD_WIN);
+    EXPECT_EQ(HotkeyModifiers(KEY_ALT), MOD_ALT);
+    EXPECT_EQ(HotkeyModifiers(KEY_CTRL | KEY_ALT | LBUTTON | 0x1000), MOD_CONTROL | MOD_ALT)
+        << "others are dropped";
+}
+
+class Hotkeys : public QuorlTest {
+  protected:
+    static std::size_t HeldBy(int id) {
+        std::size_t held = 0;
+        for (const DeskHotkey& hotkey : Desk.hotkeys)
+            held += hotkey.window == MainWnd && hotkey.id == id;
+        return held;
+    }
+};
+
+TEST_F(Hotkeys, ANewUserFindsElevenKeysAndSevenMouseCombinations) {
+    ASSERT_EQ(StartQuorl(), 1);
+    const UINT jump = MOD_CONTROL | MOD_ALT;
+    const UINT step = jump | MOD_SHIFT;
+    struct {
+        UINT modifiers;
+        int key;
+        ActionId row;
+    } const keys[] = {
+        {jump,    VK_LEFT,  28},
+        {jump,    VK_RIGHT, 30},
+        {jump,    VK_UP,    29},
+        {jump,    VK_DOWN,  31},
+        {step,    VK_LEFT,  7 },
+        {step,    VK_RIGHT, 5 },
+        {step,    VK_UP,    9 },
+        {step,    VK_DOWN,  11},
+        {MOD_WIN, VK_DOWN,  40},
+        {MOD_WIN, VK_UP,    41},
+        {step,    VK_SPACE, 0 },
+    };
+    ASSERT_EQ(Desk.hotkeys.size(), std::size(keys));
+    for (std::size_t at = 0; at < std::size(keys); ++at) {
+        EXPECT_EQ(Desk.hotkeys[at].id, keys[at].row) << "in this order, so that boxes come in it";
+        EXPECT_EQ(Desk.hotkeys[at].modifiers, keys[at].modifiers) << keys[at].row;
+        EXPECT_EQ(Desk.hotkeys[at].key, static_cast<UINT>(keys[at].key)) << keys[at].row;
+    }
+    struct {
+        ActionId row;
+        int mods, button;
+    } const combinations[] = {
+        {2,  0,                    MBUTTON},
+        {38, 0,                    LBUTTON},
+        {4,  KEY_SHIFT,            LBUTTON},
+        {39, KEY_SHIFT | KEY_CTRL, LBUTTON},
+        {40, KEY_ALT,              1      },
+        {41, KEY_ALT,              2      },
+        {0,  0,                    RBUTTON},
+    };
+    for (const auto& [row, mods, button] : combinations) {
+        EXPECT_EQ(ActionTable[row].mouse_mods, mods) << row;
+        EXPECT_EQ(ActionTable[row].mouse_btn, button) << row;
+    }
+}
+
+TEST_F(Hotkeys, ARefusedCombinationIsToldAndTheOthersWork) {
+    Desk.hotkeys.push_back({nullptr, 1, MOD_WIN, VK_DOWN}); // another program's
+    WillAnswer({IDOK});
+    ASSERT_EQ(StartQuorl(), 1);
+
+    ASSERT_EQ(Desk.boxes.size(), 1U);
+    EXPECT_EQ(Desk.boxes[0].text, "Hotkey registeration failed (1409): \n\t\"Lock window in view\" (40)\n"
+                                  "Another program has already registered the hotkey combination.");
+    EXPECT_EQ(Desk.boxes[0].caption, "Error");
+    EXPECT_EQ(Desk.boxes[0].owner, nullptr);
+    EXPECT_EQ(ActionTable[40].key_mods, UNBOUND);
+    EXPECT_EQ(ActionTable[41].vk, VK_UP);
+
+    Desk.boxes.clear();
+    WillAnswer({IDOK});
+    Desk.fault = {"RegisterHotKey", 1, 0, 87, 0};
+    EXPECT_EQ(SetActionKey(MainWnd, 6, ACTION_KEY, KEY_CTRL, 'B'), 0);
+    ASSERT_EQ(Desk.boxes.size(), 1U);
+    EXPECT_EQ(Desk.boxes[0].text,
+              "Hotkey registeration failed (87): \n\t\"Move visible desktop right by <max>\" (6)");
+}
+
+TEST_F(Hotkeys, ABindingIsStoredAsItWasRegistered) {
+    ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_EQ(SetActionKey(MainWnd, 87, ACTION_KEY, KEY_CTRL | 0x1000, 'Q'), 1) << "a row that is off, too";
+    EXPECT_EQ(ActionTable[87].vk, 'Q');
+    EXPECT_EQ(ActionTable[87].key_mods, KEY_CTRL | 0x1000);
+    EXPECT_EQ(Desk.hotkeys.back().modifiers, MOD_CONTROL);
+    EXPECT_EQ(SetActionKey(MainWnd, 6, ACTION_KEY, 0, 'Q'), 1) << "a bare key";
+    EXPECT_EQ(ActionTable[6].key_mods, 0);
+    EXPECT_EQ(SetActionKey(MainWnd, 6, ACTION_MOUSE, KEY_SHIFT, RBUTTON | MBUTTON), 1);
+    EXPECT_EQ(ActionTable[6].mouse_btn, RBUTTON | MBUTTON);
+    EXPECT_EQ(HeldBy(6), 1U) << "a mouse combination registers nothing";
+}
+
+TEST_F(Hotkeys, ANegativeBindingIsNoneAndChangesNothing) {
+    ASSERT_EQ(StartQuorl(), 1);
+    const int before = Desk.calls;
+    EXPECT_EQ(SetActionKey(MainWnd, 28, ACTION_KEY, -1, 'Q'), 0);
+    EXPECT_EQ(SetActionKey(MainWnd, 28, ACTION_MOUSE, 0, -1), 0);
+    EXPECT_EQ(ActionTable[28].vk, VK_LEFT);
+    EXPECT_EQ(Desk.calls, before);
+}
+
+TEST_F(Hotkeys, EachKindOfBindingIsClearedOnItsOwn) {
+    ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_EQ(ClearActionKey(MainWnd, 40, ACTION_KEY), 1);
+    EXPECT_EQ(HeldBy(40), 0U);
+    EXPECT_EQ(ActionTable[40].key_mods, UNBOUND);
+    EXPECT_EQ(ActionTable[40].vk, UNBOUND);
+    EXPECT_EQ(ActionTable[40].mouse_btn, 1);
+
+    ClearActionKey(MainWnd, 0, ACTION_MOUSE);
+    EXPECT_EQ(ActionTable[0].mouse_mods, UNBOUND);
+    EXPECT_EQ(HeldBy(0), 1U);
+
+    ClearAllActionKeys(MainWnd);
+    EXPECT_TRUE(Desk.hotkeys.empty());
+    for (const ActionRow& action : ActionTable)
+        EXPECT_EQ(action.vk & action.key_mods & action.mouse_btn & action.mouse_mods, UNBOUND) << action.id;
+}
+
+} // namespace

@@ -1,0 +1,60 @@
+#include "actions/program_rows.h"
+
+#include "core/state.h"
+#include "support/quorl_test.h"
+
+namespace {
+
+class ProgramRows : public QuorlTest {};
+
+TEST_F(ProgramRows, TogglesFlipTheirValueAndDoNothingElse) {
+    ASSERT_EQ(StartQuorl(), 1);
+    const int before = Desk.calls;
+    for (const ActionId row : {58, 70, 71, 72, 73, 79, 82, 83, 85, 86, 89, 90, 91, 114, 115, 122}) {
+        const int value = ActionTable[row].value;
+        EXPECT_EQ(DoAction(MainWnd, row, nullptr), 0) << row;
+        EXPECT_EQ(ActionTable[row].value, 1 - value) << row;
+        ActionTable[row].value = 7; // as a settings file may say
+        DoAction(MainWnd, row, nullptr);
+        EXPECT_EQ(ActionTable[row].value, 0) << row;
+    }
+    EXPECT_EQ(Desk.calls, before);
+}
+
+TEST_F(ProgramRows, TheBorderIsHeldFromOneToTen) {
+    struct {
+        ActionId row;
+        int border, after;
+    } const cases[] = {
+        {68, 5,  6 },
+        {68, 10, 10},
+        {68, 50, 10},
+        {69, 5,  4 },
+        {69, 1,  1 },
+        {69, -9, 1 },
+        {69, 50, 49},
+    };
+    for (const auto& [row, border, after] : cases) {
+        Options.border = border;
+        EXPECT_EQ(DoAction(MainWnd, row, nullptr), 1);
+        EXPECT_EQ(Options.border, after) << "row " << row << " at " << border;
+    }
+}
+
+TEST_F(ProgramRows, TheWorkStationIsLockedWhereTheSystemCan) {
+    ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_EQ(DoAction(MainWnd, ROW_LOCK_WORK_STATION, nullptr), 1);
+    EXPECT_EQ(Desk.locks, 1);
+    pLockWorkStation = nullptr;
+    EXPECT_EQ(DoAction(MainWnd, ROW_LOCK_WORK_STATION, nullptr), 0);
+    EXPECT_EQ(Desk.locks, 1);
+}
+
+TEST_F(ProgramRows, TheScreenSaverIsAskedForByABroadcast) {
+    EXPECT_EQ(DoAction(MainWnd, 108, nullptr), 1);
+    ASSERT_EQ(Desk.broadcasts.size(), 1U);
+    EXPECT_EQ(Desk.broadcasts[0].message, WM_SYSCOMMAND);
+    EXPECT_EQ(Desk.broadcasts[0].wParam, SC_SCREENSAVE);
+}
+
+} // namespace

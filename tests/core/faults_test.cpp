@@ -1,0 +1,43 @@
+#include "core/main.h"
+#include "core/state.h"
+#include "support/faults.h"
+#include "support/quorl_test.h"
+
+namespace {
+
+class BadLuck : public QuorlTest {};
+
+bool IsInReach(HWND window) {
+    const RECT place = PlaceOf(window);
+    return place.left >= 0 && place.left < 1024 && place.top >= 0 && place.top < 768;
+}
+
+// The user starts Quorl, scrolls, waits for the map, scrolls back half the way and quits; twice, should the
+// first attempt not have been heard.
+void OneDay() {
+    const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
+    const HWND far = OpenWindow("far", {1100, 900, 1300, 1000});
+    const HWND list = OpenWindow("list", {10, 10, 50, 50}, "SysListView32");
+    const HWND bar = OpenWindow("", {0, 748, 1024, 768}, "Shell_TrayWnd");
+    Desk.answers.assign(20, IDYES); // to any report, and to "QUIT?"
+    const int running = StartQuorl();
+    if (running) {
+        Command(30);
+        Wait(1300);
+        Command(7);
+        for (int attempt = 0; attempt < 3 && !CallsOf("PostQuitMessage"); ++attempt)
+            Command(59);
+        ShutDown();
+    }
+    EXPECT_LE(!IsInReach(editor) + !IsInReach(far) * running + !IsInReach(list), 1)
+        << "only the window whose own call failed may be out of reach";
+    EXPECT_EQ(PlaceOf(bar), Rect(0, 748, 1024, 768));
+    EXPECT_LT(Desk.now, 10000U);
+    EXPECT_EQ(Desk.surprises, 0);
+}
+
+TEST_F(BadLuck, NoPlatformCallThatFailsLosesWindowsOrEndsQuorl) {
+    EXPECT_GT(FailEachCall(OneDay), 300);
+}
+
+} // namespace

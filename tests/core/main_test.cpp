@@ -1,0 +1,126 @@
+#include "core/main.h"
+
+#include "actions/action_table.h"
+#include "core/main_window.h"
+#include "core/state.h"
+#include "support/quorl_test.h"
+
+namespace {
+
+class Life : public QuorlTest {};
+
+TEST_F(Life, StartsInItsOrder) {
+    ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_TRUE(CameInOrder({"FindWindowA", "InitCommonControls", "GetSysColorBrush", "LoadImageA",
+                             "RegisterClassA", "GetModuleHandleA", "GetProcAddress", "GetProcAddress",
+                             "RegisterClassA", "CreateWindowExA", "SetLayeredWindowAttributes",
+                             "LoadLibraryA", "GetProcAddress", "GetProcAddress", "ShowWindow"}));
+    const DeskWindow& toolwin = RowOf(MainWnd);
+    EXPECT_EQ(toolwin.className + "/" + toolwin.title, "Quorltop/Quorltop");
+    EXPECT_EQ(toolwin.place, Rect(100, 100, 300, 200));
+    EXPECT_EQ(toolwin.exStyle, 524424U);
+    EXPECT_EQ(toolwin.style, DWORD{WS_POPUP | WS_THICKFRAME | WS_VISIBLE});
+    EXPECT_EQ(toolwin.alpha, 255);
+    EXPECT_EQ(Desk.classes.at(MAIN_CLASS).style, 11U);
+    EXPECT_EQ(Desk.classes.at(MAIN_CLASS).hbrBackground, BackBrush);
+    EXPECT_EQ(static_cast<const DeskObject*>(static_cast<void*>(TrayImage))->index, 118);
+    EXPECT_EQ(Hook.window, MainWnd);
+    EXPECT_EQ(Hook.set, std::vector<int>{1});
+    EXPECT_EQ(Options.hook_present, 1);
+    EXPECT_TRUE(Desk.beeps.empty());
+}
+
+TEST_F(Life, ASecondInstanceEndsWithoutAWord) {
+    OpenWindow("Quorltop", {0, 0, 10, 10}, "Quorltop");
+    EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
+    EXPECT_EQ(Desk.trace.size(), 1U);
+}
+
+TEST_F(Life, WithoutAWindowThereIsNoLife) {
+    Desk.fault = {"CreateWindowExA", 1, 0, 8, 0};
+    WillAnswer({IDOK});
+    EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
+    ASSERT_EQ(Desk.boxes.size(), 1U);
+    EXPECT_EQ(Desk.boxes[0].text + "/" + Desk.boxes[0].caption, "Can't start app./Alas!");
+    EXPECT_EQ(Desk.boxes[0].owner, nullptr);
+    EXPECT_EQ(CallsOf("LoadLibraryA") + CallsOf("GetMessageA"), 0);
+}
+
+TEST_F(Life, WhatTheSystemLacksIsNotOffered) {
+    Desk.modules["user32.dll"].exports.clear();
+    ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_EQ(ActionTable[ROW_TRANSPARENCY].flags, ACTION_OFF);
+    EXPECT_EQ(ActionTable[ROW_LOCK_WORK_STATION].flags, ACTION_OFF);
+    EXPECT_EQ(RowOf(MainWnd).exStyle, 136U);
+    EXPECT_EQ(CallsOf("SetLayeredWindowAttributes"), 0);
+}
+
+TEST_F(Life, WhatTheSystemHasIsOfferedEachOnItsOwn) {
+    Desk.modules["user32.dll"].exports.erase("SetLayeredWindowAttributes");
+    ActionTable[ROW_LOCK_WORK_STATION].flags = ACTION_OFF;
+    ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_EQ(ActionTable[ROW_TRANSPARENCY].flags, ACTION_OFF);
+    EXPECT_EQ(ActionTable[ROW_LOCK_WORK_STATION].flags, ACTION_KEY | ACTION_MOUSE);
+}
+
+TEST_F(Life, WithoutTheHookLibraryTheMouseRowsAreOffAndTheRestRuns) {
+    Desk.modules["quorl.dll"].bInstalled = 0;
+    ActionTable[85].value = 1;
+    ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_EQ(Desk.beeps, std::vector<UINT>{0});
+    for (ActionId row = 85; row <= 90; ++row) {
+        EXPECT_EQ(ActionTable[row].flags, ACTION_OFF) << row;
+        EXPECT_EQ(ActionTable[row].value, 0) << row;
+    }
+    EXPECT_NE(ActionTable[84].flags, ACTION_OFF);
+    EXPECT_NE(ActionTable[91].flags, ACTION_OFF);
+    EXPECT_EQ(Options.hook_present, 0);
+    Command(30);
+    EXPECT_EQ(VDesk.left, 1024);
+}
+
+TEST_F(Life, AHookLibraryWithoutItsSwitchTurnsNothingOff) {
+    Desk.modules["quorl.dll"].exports.erase("SetMouseHook");
+    ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_EQ(Hook.window, MainWnd);
+    EXPECT_EQ(Options.hook_present, 0);
+    EXPECT_NE(ActionTable[85].flags, ACTION_OFF);
+    ShutDown();
+    EXPECT_EQ(Desk.modules["quorl.dll"].loads, 0);
+}
+
+TEST_F(Life, RunsUntilTheUserQuitsAndLeavesTheDesktopAsItWasFound) {
+    const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
+    const HWND far = OpenWindow("far", {1100, 200, 1300, 300});
+    WillAnswer({IDNO, IDYES});
+    RECT scrolled{};
+    Desk.script = {
+        [] { PressCombination(MOD_CONTROL | MOD_ALT, VK_RIGHT); },
+        [] { PostMessageA(MainWnd, WM_CLOSE, 0, 0); }, // No
+        [&] {
+            scrolled = PlaceOf(editor);
+            PostMessageA(MainWnd, WM_HOTKEY, 59, 0);
+        },
+    };
+
+    EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
+
+    EXPECT_FALSE(Desk.bRunDry) << "it ended by the quit message";
+    EXPECT_EQ(scrolled, Rect(-924, 100, -524, 400));
+    EXPECT_EQ(PlaceOf(editor), Rect(100, 100, 500, 400));
+    EXPECT_EQ(PlaceOf(far), Rect(76, 200, 276, 300)) << "on the screen, wherever it came from";
+    EXPECT_TRUE(Desk.hotkeys.empty());
+    EXPECT_EQ(Hook.set, (std::vector<int>{1, 0}));
+    EXPECT_EQ(Desk.modules["quorl.dll"].loads, 0);
+    EXPECT_TRUE(CameInOrder({"PostQuitMessage", "UnregisterHotKey", "EnumWindows", "FreeLibrary"}));
+}
+
+TEST_F(Life, AMessageThatCannotBeFetchedEndsNothing) {
+    ASSERT_EQ(StartQuorl(), 1);
+    PressCombination(MOD_CONTROL | MOD_ALT, VK_RIGHT);
+    Desk.fault = {"GetMessageA", 1, 0, 87, 0};
+    Settle();
+    EXPECT_EQ(VDesk.left, 1024);
+}
+
+} // namespace

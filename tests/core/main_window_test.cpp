@@ -1,0 +1,67 @@
+#include "core/main_window.h"
+
+#include "core/state.h"
+#include "support/quorl_test.h"
+
+namespace {
+
+class MainWindow : public QuorlTest {
+  protected:
+    void Start() {
+        ASSERT_EQ(StartQuorl(), 1);
+        Settle();
+        Desk.trace.clear();
+    }
+
+    static LRESULT Send(UINT message, void* record = nullptr) {
+        return MainWndProc(MainWnd, message, 0, reinterpret_cast<LPARAM>(record));
+    }
+};
+
+TEST_F(MainWindow, EveryEndAsksTheSameQuestionAndDestroysNothing) {
+    Start();
+    for (const UINT message : {WM_CLOSE, WM_DESTROY, WM_QUIT}) {
+        Desk.boxes.clear();
+        WillAnswer({IDNO});
+        EXPECT_EQ(Send(message), 0) << message;
+        ASSERT_EQ(Desk.boxes.size(), 1U) << message;
+        EXPECT_EQ(Desk.boxes[0].text, "QUIT?");
+    }
+    EXPECT_EQ(CallsOf("DestroyWindow") + CallsOf("DefWindowProcA"), 0);
+}
+
+TEST_F(MainWindow, NewColoursRepaintTheMap) {
+    Start();
+    for (const UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_DEVMODECHANGE}) {
+        BackBrush = nullptr;
+        Desk.trace.clear();
+        EXPECT_EQ(Send(message), 0);
+        EXPECT_NE(BackBrush, nullptr) << message;
+        EXPECT_TRUE(CameInOrder({"GetSysColorBrush", "InvalidateRect", "UpdateWindow"})) << message;
+    }
+}
+
+TEST_F(MainWindow, TheMapHasALeastAndALargestSize) {
+    Start();
+    MoveWindow(MainWnd, 0, 0, 1, 1, TRUE);
+    EXPECT_EQ(PlaceOf(MainWnd), Rect(0, 0, 40, 13));
+    MoveWindow(MainWnd, 0, 0, 40000, 40000, TRUE);
+    EXPECT_EQ(PlaceOf(MainWnd), Rect(0, 0, 32000, 32000));
+}
+
+TEST_F(MainWindow, AnotherProgramMayAskForTheDesktopsSize) {
+    Start();
+    MINMAXINFO record{
+        {1, 1},
+        {2, 2},
+        {3, 3},
+        {4, 4},
+        {5, 5}
+    };
+    EXPECT_EQ(Send(1134, &record), 0);
+    EXPECT_EQ(record.ptMaxTrackSize, (POINT{4096, 1536}));
+    EXPECT_EQ(record.ptMinTrackSize, (POINT{4, 4})) << "nothing else is written";
+    EXPECT_EQ(Send(1134), 0) << "without a record, too";
+}
+
+} // namespace

@@ -1,0 +1,44 @@
+#include "core/quit.h"
+
+#include "actions/dispatch.h"
+#include "core/state.h"
+#include "support/quorl_test.h"
+
+namespace {
+
+class Quitting : public QuorlTest {
+  protected:
+    HWND far = OpenWindow("far", {1100, 200, 1300, 300});
+
+    void Start() {
+        ASSERT_EQ(StartQuorl(), 1);
+        Settle();
+    }
+};
+
+TEST_F(Quitting, AnyAnswerButYesChangesNothing) {
+    Start();
+    const std::size_t hotkeys = Desk.hotkeys.size();
+    for (const int answer : {IDNO, IDCANCEL, 0}) {
+        WillAnswer({answer});
+        EXPECT_EQ(ConfirmQuit(MainWnd), 0);
+    }
+    EXPECT_EQ(Desk.boxes.back().text + "/" + Desk.boxes.back().caption, "QUIT?/QUIT?");
+    EXPECT_EQ(Desk.boxes.back().type, MB_YESNO);
+    EXPECT_EQ(Desk.boxes.back().owner, MainWnd);
+    EXPECT_FALSE(Desk.bQuit);
+    EXPECT_EQ(Desk.hotkeys.size(), hotkeys);
+    EXPECT_EQ(PlaceOf(far).left, 1100);
+    EXPECT_TRUE(Desk.files.empty());
+}
+
+TEST_F(Quitting, YesReleasesTheHotkeysAndFoldsTheWindowsBack) {
+    Start();
+    WillAnswer({IDYES});
+    EXPECT_EQ(DoAction(MainWnd, 59, nullptr), 1);
+    EXPECT_TRUE(Desk.bQuit);
+    EXPECT_TRUE(Desk.hotkeys.empty());
+    EXPECT_EQ(PlaceOf(far).left, 76);
+}
+
+} // namespace

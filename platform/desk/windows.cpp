@@ -93,6 +93,12 @@ HWND GetDesktopWindow() {
     return desktop;
 }
 
+// The parent of a child, the owner of a pop-up; any other window has neither to show.
+HWND GetParent(HWND window) {
+    const DeskWindow* row = Fails("GetParent") ? nullptr : Named(window);
+    return row && (row->style & (WS_CHILD | WS_POPUP)) ? row->owner : nullptr;
+}
+
 int GetClassNameA(HWND window, LPSTR text, int limit) {
     const DeskWindow* row = Fails("GetClassNameA") ? nullptr : Named(window);
     return row ? CopyText(row->className, text, limit) : 0;

@@ -5,6 +5,7 @@
 #include "core/create.h"
 #include "core/quit.h"
 #include "core/state.h"
+#include "mouse/hook_mouse.h"
 #include "mouse/map_buttons.h"
 #include "mouse/map_hover.h"
 
@@ -29,6 +30,10 @@ static LRESULT OnSizeLimits(HWND, UINT, WPARAM, LPARAM lParam) {
     limits.ptMinTrackSize = {LEAST_TOOLWIN.cx, LEAST_TOOLWIN.cy};
     limits.ptMaxTrackSize = {MOST_TOOLWIN.cx, MOST_TOOLWIN.cy};
     return 0;
+}
+
+static LRESULT OnMouseNews(HWND window, UINT, WPARAM wParam, LPARAM) {
+    return OnHookMouse(window, static_cast<UINT>(wParam));
 }
 
 static LRESULT OnHotkey(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -60,6 +65,7 @@ struct MessageRow {
 static const UINT DESKTOP_SIZE_MESSAGE = 1134; // open to other programs; a MINMAXINFO receives Quorl's size
 
 static const MessageRow MainMessages[] = {
+    {HOOK_MOUSE_MESSAGE,   OnMouseNews       }, // up to hundreds a second
     {WM_HOTKEY,            OnHotkey          },
     {WM_MOUSEMOVE,         OnMouseMove       },
     {WM_LBUTTONDOWN,       OnMapLeftPress    },

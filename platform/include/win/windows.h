@@ -82,6 +82,7 @@ BOOL WINAPI IsWindow(HWND window);
 HWND WINAPI FindWindowA(LPCSTR className, LPCSTR title);
 BOOL WINAPI EnumWindows(WNDENUMPROC callback, LPARAM parameter);
 HWND WINAPI GetDesktopWindow();
+HWND WINAPI GetParent(HWND window);
 int WINAPI GetClassNameA(HWND window, LPSTR text, int limit);
 int WINAPI GetWindowTextA(HWND window, LPSTR text, int limit);
 LONG_PTR WINAPI GetWindowLongPtrA(HWND window, int index);

@@ -1,7 +1,22 @@
-// The entry point of the end-to-end tests.
-#include <gtest/gtest.h>
+// One program, three uses: the end-to-end tests; the windows in them (--play); the tour (--tour).
+#include "player.h"
+#include "user.h"
 
-int main(int count, char** words) {
-    testing::InitGoogleTest(&count, words);
+#include <cstring>
+
+namespace {
+
+class FreshDesktop : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { CleanDesktop(); }
+    void OnTestEnd(const testing::TestInfo&) override { CleanDesktop(); }
+};
+
+} // namespace
+
+int main(int count, char** arguments) {
+    if (count > 1 && strcmp(arguments[1], "--play") == 0)
+        return Play(count - 2, arguments + 2);
+    testing::InitGoogleTest(&count, arguments);
+    testing::UnitTest::GetInstance()->listeners().Append(new FreshDesktop);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,57 @@
+# What ./run and ./test share: installing, building, cleaning up. Sourced from the clone's root.
+
+BUILD_PACKAGES=(git cmake ninja-build g++ libgtest-dev googletest
+    g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
+CHECK_PACKAGES=(clang-tidy clang-format binutils)
+WINE_PACKAGES=(wine wine64 fonts-wine xvfb imagemagick)
+X86_PACKAGES=(debootstrap xvfb)
+
+LOGS=$PWD/build/log
+mkdir -p "$LOGS"
+# Nothing of a run stays outside the clone: compilers and Wine keep their caches here, too.
+export CCACHE_DIR=${CCACHE_DIR:-$PWD/build/cache/ccache} XDG_CACHE_HOME=$PWD/build/cache
+
+die() { printf '%s\n' "$*" >&2; exit 1; }
+
+AS_ROOT=()
+[ "$(id -u)" = 0 ] || AS_ROOT=(sudo -E)
+as_root() { "${AS_ROOT[@]}" "$@"; }
+
+# What was started last is ended first, however the script ends.
+AT_EXIT=()
+at_exit() { AT_EXIT=("$*" "${AT_EXIT[@]}"); }
+run_at_exit() { local step; for step in "${AT_EXIT[@]}"; do eval "$step" || true; done; }
+trap run_at_exit EXIT
+trap 'exit 130' INT TERM HUP
+
+# Runs a long step with its output in a log, which is shown if the step fails: logged NAME COMMAND...
+logged() {
+    local log=$LOGS/$1.log start=$SECONDS; shift
+    "$@" >"$log" 2>&1 </dev/null || { tail -n 60 "$log" >&2; die "failed: $* (all of it: $log)"; }
+    LOGGED_SECONDS=$((SECONDS - start))
+}
+
+install_packages() {
+    local package missing=()
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    command -v apt-get >/dev/null ||
+        die "Missing: ${missing[*]}. There is no apt-get here; install what corresponds to them by hand."
+    [ "$(id -u)" = 0 ] || command -v sudo >/dev/null ||
+        die "Missing: ${missing[*]}. Run this as root, or install sudo, or install them by hand."
+    echo "Installing with apt: ${missing[*]}"
+    logged apt-update as_root apt-get update
+    logged apt-install as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+build() {
+    local preset
+    for preset in "$@"; do
+        logged "configure-$preset" cmake --preset "$preset"
+        logged "build-$preset" cmake --build --preset "$preset"
+        echo "Built $preset in $LOGGED_SECONDS s"
+    done
+}

@@ -1,0 +1,39 @@
+# A Windows desktop of 1024x768 of our own: a virtual screen, a Wine prefix in build/, and its end.
+# The array `ground` is the prefix of a command that runs a Windows program there; empty on this system's
+# own Wine, a chroot in the 32-bit folder (x86.sh). The exit code of the program comes through.
+
+ground=()
+
+# An X server on a free display, which ends with the script.
+start_screen() {
+    local number
+    coproc SCREEN { exec Xvfb -displayfd 1 -screen 0 1024x768x24 -nolisten tcp 2>"$LOGS/xvfb.log"; }
+    at_exit "kill $SCREEN_PID 2>/dev/null; wait $SCREEN_PID 2>/dev/null"
+    read -r -t 30 number <&"${SCREEN[0]}" || die "The virtual screen does not start: $LOGS/xvfb.log"
+    export DISPLAY=:$number
+}
+
+# The prefix and the closed desktop in it; $1 is the folder as the programs of the ground see it.
+start_wine() {
+    export WINEPREFIX=$1 WINEDEBUG=${WINEDEBUG:--all}
+    # No search for downloads of .NET and HTML, no menus written into the user's home.
+    export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
+    at_exit "${ground[*]} wineserver -k 2>/dev/null"
+    if ! "${ground[@]}" test -f "$WINEPREFIX/ready"; then
+        logged wine-prefix make_prefix
+        echo "Made the Wine prefix in $LOGGED_SECONDS s"
+    fi
+    # Holds the desktop between two programs, so that it is not built anew for each.
+    "${ground[@]}" wine explorer /desktop=Quorl,1024x768 >"$LOGS/desktop.log" 2>&1 </dev/null &
+}
+
+make_prefix() {
+    "${ground[@]}" rm -rf "$WINEPREFIX"
+    "${ground[@]}" mkdir -p "$WINEPREFIX"
+    "${ground[@]}" wineboot -i
+    # Every program of this prefix comes up on one virtual desktop, without being told.
+    "${ground[@]}" wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Quorl /f
+    "${ground[@]}" wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Quorl /d 1024x768 /f
+    "${ground[@]}" wineserver -w
+    "${ground[@]}" touch "$WINEPREFIX/ready"
+}

@@ -1,0 +1,220 @@
+// The user's hands and eyes, made of plain Win32 calls from outside of Quorl.
+#include "user.h"
+
+#include <algorithm>
+
+namespace {
+
+HANDLE Programs; // a job: closing it ends every program in it
+
+HANDLE NewJob() {
+    const HANDLE job = CreateJobObjectA(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limit = {};
+    limit.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limit, sizeof limit);
+    return job;
+}
+
+HANDLE Launch(const std::string& command, const std::string& folder, DWORD* id) {
+    STARTUPINFOA how = {};
+    how.cb = sizeof how;
+    PROCESS_INFORMATION program = {};
+    std::string line = command;
+    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED, nullptr,
+                        folder.empty() ? nullptr : folder.c_str(), &how, &program))
+        return nullptr;
+    AssignProcessToJobObject(Programs, program.hProcess);
+    ResumeThread(program.hThread);
+    CloseHandle(program.hThread);
+    *id = program.dwProcessId;
+    return program.hProcess;
+}
+
+struct WindowSearch {
+    DWORD process; // 0: any
+    const char* windowClass;
+    const char* title; // null: any
+    HWND found;
+};
+
+std::string ClassOf(HWND window) {
+    char name[256] = "";
+    GetClassNameA(window, name, sizeof name);
+    return name;
+}
+
+BOOL CALLBACK Matches(HWND window, LPARAM parameter) {
+    WindowSearch* const search = reinterpret_cast<WindowSearch*>(parameter);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (!IsWindowVisible(window) || (search->process && process != search->process) ||
+        ClassOf(window) != search->windowClass || (search->title && TextOf(window) != search->title))
+        return TRUE;
+    search->found = window;
+    return FALSE;
+}
+
+HWND FindVisible(DWORD process, const char* windowClass, const char* title) {
+    WindowSearch search = {process, windowClass, title, nullptr};
+    EnumWindows(Matches, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+HWND WaitForVisible(DWORD process, const char* windowClass, const char* title) {
+    const ULONGLONG deadline = GetTickCount64() + PATIENCE;
+    HWND found = nullptr;
+    while (!(found = FindVisible(process, windowClass, title)) && GetTickCount64() < deadline)
+        Sleep(10);
+    return found;
+}
+
+void SendKey(WORD key, DWORD flags) {
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
+    const bool extended = (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_LWIN || key == VK_RSHIFT;
+    input.ki.dwFlags = flags | (extended ? KEYEVENTF_EXTENDEDKEY : 0U);
+    SendInput(1, &input, sizeof input);
+}
+
+std::string SettingsFile() {
+    char folder[MAX_PATH] = "";
+    GetWindowsDirectoryA(folder, sizeof folder);
+    return std::string(folder) + "\\quorl.ini";
+}
+
+} // namespace
+
+std::ostream& operator<<(std::ostream& out, const Place& place) {
+    return out << place.left << "," << place.top << " - " << place.right << "," << place.bottom;
+}
+
+Place Moved(const Place& place, int dx, int dy) {
+    return {place.left + dx, place.top + dy, place.right + dx, place.bottom + dy};
+}
+
+void CleanDesktop() {
+    if (Programs)
+        CloseHandle(Programs);
+    Programs = NewJob();
+    EXPECT_SOON(QuorlWindow(), HWND{});
+    DeleteFileA(SettingsFile().c_str());
+    SetCursorPos(SCREEN_W - 1, SCREEN_H - 1); // out of the way of the windows
+}
+
+std::string ProgramFolder() {
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(nullptr, path, sizeof path);
+    const std::string name = path;
+    return name.substr(0, name.rfind('\\'));
+}
+
+HWND QuorlWindow() {
+    return FindWindowA("Quorltop", "Quorltop");
+}
+
+HANDLE LaunchQuorl(const std::string& folder) {
+    const std::string home = folder.empty() ? ProgramFolder() : folder;
+    DWORD id = 0;
+    return Launch("\"" + home + "\\quorl.exe\"", home, &id);
+}
+
+HWND StartQuorl(const std::string& folder) {
+    if (!LaunchQuorl(folder))
+        return nullptr;
+    const HWND window = WaitForVisible(0, "Quorltop", "Quorltop");
+    // It shows its window before it reads messages; answering one says that it is ready for keys.
+    DWORD_PTR answer = 0;
+    return SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, PATIENCE, &answer) ? window : nullptr;
+}
+
+HWND OpenWindow(const char* title, const Place& place, const char* part) {
+    char command[512];
+    snprintf(command, sizeof command, "\"%s\\e2e_tests.exe\" --play %s \"%s\" %d %d %d %d",
+             ProgramFolder().c_str(), part, title, place.left, place.top, place.right - place.left,
+             place.bottom - place.top);
+    DWORD id = 0;
+    Launch(command, "", &id);
+    const HWND window = WaitForVisible(id, strcmp(part, "list") == 0 ? "SysListView32" : "Player", title);
+    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
+    return window;
+}
+
+HWND OpenProgram(const char* command, const char* windowClass) {
+    DWORD id = 0;
+    Launch(command, "", &id);
+    return WaitForVisible(id, windowClass, nullptr);
+}
+
+// Under Wine a window that slides under the pointer, or takes the focus late, lets go of keys that no real
+// keyboard holds. So the keys to hold are looked at before the last one goes down.
+bool PressKeys(std::initializer_list<WORD> keys) {
+    const WORD* const last = keys.end() - 1;
+    bool held = false;
+    for (int i = 0; i < 20 && !held; ++i) {
+        for (const WORD* key = keys.begin(); key != last; ++key)
+            SendKey(*key, 0);
+        Sleep(60); // older states are cached
+        held = std::all_of(keys.begin(), last, [](WORD key) { return GetAsyncKeyState(key) < 0; });
+        if (held)
+            SendKey(*last, 0);
+        for (auto key = std::rbegin(keys); key != std::rend(keys); ++key)
+            SendKey(*key, KEYEVENTF_KEYUP);
+    }
+    return held;
+}
+
+void DoRow(int row) {
+    PostMessageA(QuorlWindow(), WM_HOTKEY, static_cast<WPARAM>(row), 0);
+}
+
+void Activate(HWND window) {
+    SetForegroundWindow(window);
+    EXPECT_SOON(GetForegroundWindow(), window);
+}
+
+Place PlaceOf(HWND window) {
+    RECT place = {};
+    GetWindowRect(window, &place);
+    return {place.left, place.top, place.right, place.bottom};
+}
+
+std::string TextOf(HWND window) {
+    char text[1024] = "";
+    GetWindowTextA(window, text, sizeof text);
+    return text;
+}
+
+bool IsOnTop(HWND window, HWND other) {
+    for (HWND below = window; below; below = GetWindow(below, GW_HWNDNEXT))
+        if (below == other)
+            return true;
+    return false;
+}
+
+HWND TipStrip() {
+    return FindVisible(0, "w_ToolTip", nullptr);
+}
+
+HWND WaitForBox(const char* caption) {
+    return WaitForVisible(0, "#32770", caption);
+}
+
+std::string BoxText(HWND box) {
+    constexpr int TEXT_ID = 0xffff; // of the text in every message box
+    char text[1024] = "";
+    GetDlgItemTextA(box, TEXT_ID, text, sizeof text);
+    return text;
+}
+
+bool WaitForEnd(HWND window) {
+    return !Soon([window] { return IsWindow(window) != 0; }, false);
+}
+
+DWORD WaitForExit(HANDLE process) {
+    DWORD code = STILL_ACTIVE;
+    WaitForSingleObject(process, PATIENCE);
+    GetExitCodeProcess(process, &code);
+    return code;
+}

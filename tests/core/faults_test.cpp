@@ -13,8 +13,9 @@ bool IsInReach(HWND window) {
 }
 
 // The user starts Quorl, scrolls, waits for the map, scrolls back half the way and quits; twice, should the
-// first attempt not have been heard.
+// first attempt not have been heard. The settings file stays out of it: it has its own bad luck.
 void OneDay() {
+    Desk.files["quorl.ini"] = "[Quorl]\r\nAction71=-1|-1|-1|-1|0\r\n";
     const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
     const HWND far = OpenWindow("far", {1100, 900, 1300, 1000});
     const HWND list = OpenWindow("list", {10, 10, 50, 50}, "SysListView32");
@@ -23,8 +24,9 @@ void OneDay() {
     const int running = StartQuorl();
     if (running) {
         Command(30);
-        Wait(1300);
+        Wait(200);
         Command(7);
+        Command(72);
         for (int attempt = 0; attempt < 3 && !CallsOf("PostQuitMessage"); ++attempt)
             Command(59);
         ShutDown();
@@ -37,7 +39,7 @@ void OneDay() {
 }
 
 TEST_F(BadLuck, NoPlatformCallThatFailsLosesWindowsOrEndsQuorl) {
-    EXPECT_GT(FailEachCall(OneDay), 300);
+    EXPECT_GT(FailEachCall(OneDay), 250);
 }
 
 } // namespace

@@ -117,8 +117,9 @@ DWORD GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR absent, LPSTR 
 // Digits behind an optional sign; a number past 32 bits wraps.
 static UINT NumberIn(const std::string& value) {
     const bool negative = !value.empty() && value[0] == '-';
+    const bool bSigned = negative || value.starts_with('+');
     UINT number = 0;
-    for (std::size_t at = negative; at < value.size() && value[at] >= '0' && value[at] <= '9'; ++at)
+    for (std::size_t at = bSigned; at < value.size() && value[at] >= '0' && value[at] <= '9'; ++at)
         number = number * 10 + static_cast<UINT>(value[at] - '0');
     return negative ? 0 - number : number;
 }

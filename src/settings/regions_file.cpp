@@ -22,12 +22,23 @@ static int NumbersOf(const RegionRow& row, char* text, std::size_t room) {
                          static_cast<int>(row.color));
 }
 
+// The profile functions take blanks from the start of a value.
+static int NeedsQuotes(const char* name) {
+    return *name == ' ';
+}
+
+// In quotes one character less is sure to be seen.
+static int NameRoom(const RegionRow& row) {
+    const int room = LINE_ROOM - NumbersOf(row, nullptr, 0) - NeedsQuotes(row.name);
+    return std::min(REGION_NAME_ROOM, room); // 3 at least: the numbers take 60 at most
+}
+
 void MakeStorable(RegionRow* row) {
-    const int room = LINE_ROOM - NumbersOf(*row, nullptr, 0); // 4 at least: the numbers take 60 at most
-    row->name[std::min(REGION_NAME_ROOM, room) - 1] = 0;
+    row->name[REGION_NAME_ROOM - 1] = 0;
     for (char* letter = row->name; *letter; ++letter)
         if (*letter > 0 && *letter < ' ')
             *letter = ' ';
+    row->name[NameRoom(*row) - 1] = 0;
 }
 
 void WrittenRegion(const RegionRow& row, char (&line)[WRITTEN_ROOM]) {
@@ -36,7 +47,7 @@ void WrittenRegion(const RegionRow& row, char (&line)[WRITTEN_ROOM]) {
     std::memcpy(name, row.name, sizeof name);
     Replace(name, FIELD_MARK, FOR_MARK);
     NumbersOf(row, numbers, sizeof numbers);
-    std::snprintf(line, sizeof line, *name == ' ' ? "\"%s%s\"" : "%s%s", name, numbers);
+    std::snprintf(line, sizeof line, NeedsQuotes(name) ? "\"%s%s\"" : "%s%s", name, numbers);
 }
 
 // A region without a name leaves its place empty: a mark in front, and only the numbers.

@@ -28,6 +28,7 @@ TEST_F(RegionsFile, ANameReadsBackAsItIsShownAfterSaving) {
         {"[Quorl]",                         "[Quorl]",                        nullptr                                },
         {";=\xE4\xFF",                      ";=\xE4\xFF",                     nullptr                                },
         {"tab\tand\x01one",                 "tab and one",                    nullptr                                },
+        {" 123456789012345678901234567890", " 1234567890123456789012345678",  nullptr                                },
         {"0123456789012345678901234567890", "012345678901234567890123456789", nullptr                                },
     };
     for (const auto& given : cases) {

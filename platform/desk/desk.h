@@ -144,6 +144,36 @@ struct DeskTiling {
     std::vector<HWND> windows;
 };
 
+struct DeskMenuItem {
+    UINT type;
+    UINT state;
+    UINT id;
+    HMENU submenu; // null: none
+    std::string text;
+};
+
+// Its items can still be read when it has been destroyed.
+struct DeskMenu {
+    std::vector<DeskMenuItem> items;
+    int bLive = 1;
+};
+
+struct DeskShownMenu {
+    HMENU menu;
+    POINT at; // screen pixels
+    UINT flags;
+    HWND window;
+    UINT choice; // 0: the user chose nothing
+};
+
+struct DeskTrayIcon {
+    HWND window;
+    UINT id;
+    UINT callback;
+    HICON icon;
+    std::string tip;
+};
+
 struct DeskModule {
     std::map<std::string, FARPROC> exports;
     int bInstalled = 1; // LoadLibraryA finds it
@@ -182,7 +212,11 @@ struct DeskState {
 
     std::deque<int> answers; // to the boxes that will come
     std::vector<DeskBox> boxes;
-    int surprises = 0; // boxes without a prepared answer, and calls that would have blocked for ever
+    int surprises = 0; // boxes and menus that nobody answers, and calls that would have blocked for ever
+    std::deque<UINT> choices; // from the menus that will come, by id; 0 closes the menu
+    std::deque<DeskMenu> menus;
+    std::vector<DeskShownMenu> shownMenus;
+    std::vector<DeskTrayIcon> tray;
     std::vector<UINT> beeps;
     std::vector<DWORD> tones; // hertz, as Beep was given them
     std::vector<DeskTiling> tilings;
@@ -209,6 +243,9 @@ HWND OpenWindow(const char* title, const RECT& place, const char* className = "P
 
 // The row of a window, dead or alive; `window` must have been a window once.
 DeskWindow& RowOf(HWND window);
+
+// A menu, living or destroyed.
+DeskMenu& MenuOf(HMENU menu);
 
 // The window is gone from one moment to the next, as when its program is killed.
 void KillWindow(HWND window);

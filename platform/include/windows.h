@@ -5,6 +5,7 @@
 
 #include "win/drawing.h"
 #include "win/input.h"
+#include "win/menus.h"
 #include "win/messages.h"
 #include "win/system.h"
 #include "win/windows.h"

@@ -6,6 +6,7 @@
 #include "actions/program_rows.h"
 #include "actions/toolwin_rows.h"
 #include "actions/view_rows.h"
+#include "menus/action_menu.h"
 #include "regions/region_rows.h"
 #include "scroll/desktop_size.h"
 #include "settings/settings.h"
@@ -26,6 +27,7 @@ struct ActionHandlerRow {
 // clang-format off
 static constexpr ActionHandlerRow ActionHandlers[] = {
     // row, does, with
+    {0,   DisplayMenu,        0},
     {1,   GoToPoint,          AT_CORNER},
     {2,   GoToPoint,          AT_CENTER},
     {3,   GoToRegion,         0},

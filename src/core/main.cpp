@@ -4,6 +4,7 @@
 #include "actions/action_table.h"
 #include "core/main_window.h"
 #include "core/state.h"
+#include "menus/tray.h"
 #include "toolwin/tip.h"
 
 constexpr int TRAY_ICON_RESOURCE = 118;
@@ -91,6 +92,7 @@ int StartUp(HINSTANCE instance) {
     }
     if (pSetLayeredWindowAttributes)
         pSetLayeredWindowAttributes(MainWnd, 0, static_cast<BYTE>(Options.alpha), LWA_ALPHA);
+    TrayIcon(MainWnd, NIM_ADD);
     StartMouseHook();
     if (ActionTable[ROW_SHOW_TOOLWIN].value)
         ShowWindow(MainWnd, SW_SHOW);

@@ -5,6 +5,7 @@
 #include "core/create.h"
 #include "core/quit.h"
 #include "core/state.h"
+#include "menus/tray.h"
 #include "mouse/hook_mouse.h"
 #include "mouse/map_buttons.h"
 #include "mouse/map_hover.h"
@@ -47,6 +48,10 @@ static LRESULT OnMouseMove(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
     return 0;
 }
 
+static LRESULT OnTray(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
+    return OnTrayMessage(window, wParam, lParam);
+}
+
 static LRESULT OnDesktopSizeQuery(HWND, UINT, WPARAM, LPARAM lParam) {
     if (auto* limits = reinterpret_cast<MINMAXINFO*>(lParam))
         limits->ptMaxTrackSize = {Quorl.right, Quorl.bottom};
@@ -82,6 +87,7 @@ static const MessageRow MainMessages[] = {
     {WM_SYSCOLORCHANGE,    OnColorsChanged   },
     {WM_SETTINGCHANGE,     OnColorsChanged   },
     {WM_DEVMODECHANGE,     OnColorsChanged   },
+    {TRAY_MESSAGE,         OnTray            },
     {DESKTOP_SIZE_MESSAGE, OnDesktopSizeQuery},
 };
 

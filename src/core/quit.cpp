@@ -2,6 +2,7 @@
 #include "core/quit.h"
 
 #include "actions/hotkeys.h"
+#include "menus/tray.h"
 #include "scroll/gather.h"
 #include "settings/settings.h"
 
@@ -10,6 +11,7 @@ int ConfirmQuit(HWND window) {
     if (MessageBoxA(window, "QUIT?", "QUIT?", MB_YESNO) != IDYES)
         return 0;
     PostQuitMessage(0);
+    TrayIcon(window, NIM_DELETE);
     if (ActionTable[ROW_SAVE_SETTINGS].value)
         SaveSettings(window);
     ClearAllActionKeys(window);

@@ -37,6 +37,7 @@ using HANDLE = void*;
 using HGDIOBJ = void*;
 using HDC = struct DeskHandleOfContext*;
 using HPEN = struct DeskHandleOfPen*;
+using HBITMAP = struct DeskHandleOfBitmap*;
 using HBRUSH = struct DeskHandleOfBrush*;
 using HFONT = struct DeskHandleOfFont*;
 using HICON = struct DeskHandleOfIcon*;

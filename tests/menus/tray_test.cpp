@@ -1,0 +1,61 @@
+#include "menus/tray.h"
+
+#include "actions/action_table.h"
+#include "core/state.h"
+#include "support/quorl_test.h"
+
+namespace {
+
+class Tray : public QuorlTest {};
+
+// The user's mouse over the icon, as the shell reports it.
+void MouseOverIcon(UINT mouse) {
+    const DeskTrayIcon& icon = Desk.tray.at(0);
+    PostMessageA(icon.window, icon.callback, icon.id, static_cast<LPARAM>(mouse));
+    Settle();
+}
+
+TEST_F(Tray, TheIconStandsThereFromTheStartUntilTheUserQuits) {
+    ASSERT_EQ(StartQuorl(), 1);
+    ASSERT_EQ(Desk.tray.size(), 1u);
+    EXPECT_EQ(Desk.tray[0].window, MainWnd);
+    EXPECT_EQ(Desk.tray[0].icon, TrayImage);
+    EXPECT_EQ(Desk.tray[0].tip, "Quorl");
+
+    WillAnswer({IDNO, IDYES});
+    Command(59);
+    EXPECT_EQ(Desk.tray.size(), 1u);
+    Command(59);
+    EXPECT_TRUE(Desk.tray.empty());
+}
+
+TEST_F(Tray, ARightPressOpensTheMenuAndItsChoiceRuns) {
+    ASSERT_EQ(StartQuorl(), 1);
+    Desk.choices = {77};
+    MouseOverIcon(WM_RBUTTONDOWN);
+    EXPECT_EQ(Desk.shownMenus.size(), 1u);
+    EXPECT_FALSE(IsWindowVisible(MainWnd));
+    MouseOverIcon(WM_RBUTTONUP);
+    EXPECT_EQ(Desk.shownMenus.size(), 1u) << "on the press alone";
+}
+
+TEST_F(Tray, ADoubleClickHidesAndShowsTheToolwinAndASingleOneDoesNothing) {
+    ASSERT_EQ(StartQuorl(), 1);
+    for (const UINT mouse : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP})
+        MouseOverIcon(mouse);
+    EXPECT_TRUE(IsWindowVisible(MainWnd));
+    MouseOverIcon(WM_LBUTTONDBLCLK);
+    EXPECT_FALSE(IsWindowVisible(MainWnd));
+    EXPECT_EQ(ActionTable[ROW_SHOW_TOOLWIN].value, 0);
+    MouseOverIcon(WM_LBUTTONDBLCLK);
+    EXPECT_TRUE(IsWindowVisible(MainWnd));
+}
+
+TEST_F(Tray, AShellThatTakesNoIconKeepsNothingFromRunning) {
+    Desk.fault = {.call = "Shell_NotifyIconA", .callsLeft = 1, .bForGood = 1};
+    ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_TRUE(Desk.tray.empty());
+    EXPECT_TRUE(IsWindowVisible(MainWnd));
+}
+
+} // namespace

@@ -6,11 +6,15 @@ ground=()
 
 # An X server on a free display, which ends with the script.
 start_screen() {
-    local number
-    coproc SCREEN { exec Xvfb -displayfd 1 -screen 0 1024x768x24 -nolisten tcp 2>"$LOGS/xvfb.log"; }
-    at_exit "kill $SCREEN_PID 2>/dev/null; wait $SCREEN_PID 2>/dev/null"
-    read -r -t 30 number <&"${SCREEN[0]}" || die "The virtual screen does not start: $LOGS/xvfb.log"
-    export DISPLAY=:$number
+    local number=$LOGS/display wait=0
+    : >"$number"
+    Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$number" 2>"$LOGS/xvfb.log" &
+    at_exit "kill $! 2>/dev/null; wait $! 2>/dev/null"
+    until [ -s "$number" ]; do
+        [ $((wait += 1)) -lt 300 ] || die "The virtual screen does not start: $LOGS/xvfb.log"
+        sleep 0.1
+    done
+    export DISPLAY=:$(cat "$number")
 }
 
 # The prefix and the closed desktop in it; $1 is the folder as the programs of the ground see it.

@@ -1,5 +1,6 @@
 // One program, three uses: the end-to-end tests; the windows in them (--play); the tour (--tour).
 #include "player.h"
+#include "tour.h"
 #include "user.h"
 
 #include <cstring>
@@ -16,6 +17,8 @@ class FreshDesktop : public testing::EmptyTestEventListener {
 int main(int count, char** arguments) {
     if (count > 1 && strcmp(arguments[1], "--play") == 0)
         return Play(count - 2, arguments + 2);
+    if (count > 1 && strcmp(arguments[1], "--tour") == 0)
+        return Tour();
     testing::InitGoogleTest(&count, arguments);
     testing::UnitTest::GetInstance()->listeners().Append(new FreshDesktop);
     return RUN_ALL_TESTS();

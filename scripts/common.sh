@@ -1,6 +1,6 @@
 # What ./run and ./test share: installing, building, cleaning up. Sourced from the clone's root.
 
-BUILD_PACKAGES=(git cmake ninja-build g++ libgtest-dev googletest
+BUILD_PACKAGES=(git cmake ninja-build g++ libgtest-dev googletest libbenchmark-dev
     g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
 CHECK_PACKAGES=(clang-tidy clang-format binutils)
 WINE_PACKAGES=(wine wine64 fonts-wine xvfb imagemagick)

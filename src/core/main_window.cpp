@@ -9,6 +9,7 @@
 #include "mouse/hook_mouse.h"
 #include "mouse/map_buttons.h"
 #include "mouse/map_hover.h"
+#include "toolwin/map.h"
 
 static LRESULT OnCreateMessage(HWND window, UINT, WPARAM, LPARAM) {
     return OnCreate(window) ? 0 : -1;
@@ -52,6 +53,15 @@ static LRESULT OnTray(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
     return OnTrayMessage(window, wParam, lParam);
 }
 
+static LRESULT OnPaint(HWND window, UINT, WPARAM, LPARAM) {
+    PaintMap(window);
+    return 0;
+}
+
+static LRESULT OnEraseBackground(HWND window, UINT, WPARAM wParam, LPARAM) {
+    return PaintBackground(window, reinterpret_cast<HDC>(wParam));
+}
+
 static LRESULT OnDesktopSizeQuery(HWND, UINT, WPARAM, LPARAM lParam) {
     if (auto* limits = reinterpret_cast<MINMAXINFO*>(lParam))
         limits->ptMaxTrackSize = {Quorl.right, Quorl.bottom};
@@ -71,6 +81,8 @@ static const UINT DESKTOP_SIZE_MESSAGE = 1134; // open to other programs; a MINM
 
 static const MessageRow MainMessages[] = {
     {HOOK_MOUSE_MESSAGE,   OnMouseNews       }, // up to hundreds a second
+    {WM_PAINT,             OnPaint           },
+    {WM_ERASEBKGND,        OnEraseBackground },
     {WM_HOTKEY,            OnHotkey          },
     {WM_MOUSEMOVE,         OnMouseMove       },
     {WM_LBUTTONDOWN,       OnMapLeftPress    },

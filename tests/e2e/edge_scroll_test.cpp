@@ -1,0 +1,77 @@
+// Scrolling at the screen's edge, with the real hook library and a real mouse.
+#include "mouse.h"
+
+namespace {
+
+const Place EDITOR = {300, 200, 600, 450};
+constexpr int FOLLOW_MOUSE = 85;
+constexpr int SHIFT_STEERS_CURSOR = 114; // on at the first start
+constexpr int LANDING = 15;              // three borders inside the opposite edge
+
+// Quorl scrolls at the edge at once and takes the cursor along, and has seen the mouse once.
+void StartFollowing() {
+    ASSERT_TRUE(StartQuorl());
+    DoRow(FOLLOW_MOUSE);
+    DoRow(SHIFT_STEERS_CURSOR);
+    MoveMouse({500, 600});
+}
+
+// Over the edge as the hand does it, from just before it.
+void PushOver(int edge) {
+    MoveMouse({edge ? edge - 24 : 24, 600});
+    SendMouse(edge, 600);
+}
+
+int CursorX() {
+    POINT cursor = {};
+    GetCursorPos(&cursor);
+    return cursor.x;
+}
+
+} // namespace
+
+TEST(EdgeScroll, TheViewFollowsTheMouseOverTheEdgeAndBack) {
+    const HWND editor = OpenWindow("editor", EDITOR);
+    StartFollowing();
+    PushOver(SCREEN_W - 1);
+    EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0));
+    EXPECT_SOON(CursorX(), LANDING);
+    MoveMouse({500, 600});
+    EXPECT_EQ(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0)) << "one edge, one step";
+    PushOver(0);
+    EXPECT_SOON(PlaceOf(editor), EDITOR);
+    EXPECT_SOON(CursorX(), SCREEN_W - LANDING);
+}
+
+TEST(EdgeScroll, IsOffUntilTheUserAsksForIt) {
+    const HWND editor = OpenWindow("editor", EDITOR);
+    ASSERT_TRUE(StartQuorl());
+    MoveMouse({500, 600});
+    PushOver(SCREEN_W - 1);
+    Sleep(300);
+    EXPECT_EQ(PlaceOf(editor), EDITOR);
+}
+
+TEST(EdgeScroll, WaitsForTheButtonThatTheUserChose) {
+    WritePrivateProfileStringA("Quorl", "mousescroll_delay", "1", "quorl.ini");
+    const HWND editor = OpenWindow("editor", EDITOR);
+    StartFollowing();
+    MoveMouse({SCREEN_W - 1, 600});
+    Click(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
+    Sleep(300);
+    EXPECT_EQ(PlaceOf(editor), EDITOR);
+    Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
+    EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0));
+}
+
+TEST(EdgeScroll, TheMouseStaysFreeWhileQuorlWaitsForAHungProgram) {
+    OpenWindow("hung", {100, 100, 300, 300}, "hung");
+    const HWND editor = OpenWindow("editor", EDITOR);
+    StartFollowing();
+    StartShakingMouse({500, 600});
+    DoRow(30);
+    EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0));
+    StopShakingMouse();
+    PushOver(0);
+    EXPECT_SOON(PlaceOf(editor), EDITOR);
+}

@@ -1,0 +1,239 @@
+// The companion library on its own: this program loads it and gives it a window, as quorl.exe does.
+#include "mouse.h"
+
+#include <tlhelp32.h>
+
+#include <vector>
+
+namespace {
+
+constexpr UINT NEWS = 1124;
+constexpr POINT TARGET = {300, 300}; // over the window
+
+std::vector<WPARAM> News; // as it was handled
+int Pressed;              // presses that reached the window itself
+
+LRESULT CALLBACK TargetWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == NEWS)
+        News.push_back(wParam);
+    if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK)
+        ++Pressed;
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+void Pump() {
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
+        DispatchMessageA(&message);
+}
+
+int CountOf(WPARAM message) {
+    Pump();
+    return static_cast<int>(std::count(News.begin(), News.end(), message));
+}
+
+std::vector<DWORD> OwnThreads() {
+    std::vector<DWORD> threads;
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
+    THREADENTRY32 entry = {};
+    entry.dwSize = sizeof entry;
+    for (BOOL more = Thread32First(snapshot, &entry); more; more = Thread32Next(snapshot, &entry))
+        if (entry.th32OwnerProcessID == GetCurrentProcessId())
+            threads.push_back(entry.th32ThreadID);
+    CloseHandle(snapshot);
+    return threads;
+}
+
+class HookLibrary : public testing::Test {
+  protected:
+    HMODULE library = nullptr;
+    HWND window = nullptr;
+    void(WINAPI* SaveSharedData)(HWND) = nullptr;
+    void(WINAPI* SetMouseHook)(int) = nullptr;
+
+    void SetUp() override {
+        MoveMouse(TARGET);
+        OpenTarget();
+        Load();
+        SaveSharedData(window);
+    }
+
+    void TearDown() override {
+        if (GetModuleHandleA("quorl.dll"))
+            SetMouseHook(0);
+        while (GetModuleHandleA("quorl.dll") && FreeLibrary(library))
+            ;
+        DestroyWindow(window);
+        Pump();
+    }
+
+    void OpenTarget() {
+        WNDCLASSA description = {};
+        description.lpfnWndProc = TargetWndProc;
+        description.lpszClassName = "HookTarget";
+        RegisterClassA(&description);
+        window = CreateWindowExA(WS_EX_TOPMOST | WS_EX_NOACTIVATE, "HookTarget", "", WS_POPUP | WS_VISIBLE,
+                                 200, 200, 300, 300, nullptr, nullptr, nullptr, nullptr);
+        Pump();
+        News.clear();
+        Pressed = 0;
+    }
+
+    template <typename Function>
+    void Find(Function& function, const char* name) {
+        function = reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+        ASSERT_TRUE(function) << name;
+    }
+
+    void Load() {
+        library = LoadLibraryA("quorl.dll");
+        ASSERT_TRUE(library);
+        Find(SaveSharedData, "SaveSharedData");
+        Find(SetMouseHook, "SetMouseHook");
+    }
+
+    // How often the library tells of one click: presses, once its release is told as well or time is over.
+    int ToldOfAClick(int bExpected) {
+        News.clear();
+        Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
+        if (bExpected) {
+            EXPECT_SOON(CountOf(WM_LBUTTONUP) > 0, true);
+        }
+        Sleep(100);
+        return CountOf(WM_LBUTTONDOWN);
+    }
+};
+
+} // namespace
+
+TEST_F(HookLibrary, OneMoveWaitsForAWindowThatIsBusyAndEveryClickDoes) {
+    SetMouseHook(1);
+    for (LONG i = 0; i < 10; ++i) { // busy: nothing is taken out of the queue meanwhile
+        SendMouse(TARGET.x + i, TARGET.y);
+        Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
+        Click(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
+        SendMouse(TARGET.x, TARGET.y + i);
+    }
+    Sleep(300);
+    EXPECT_EQ(CountOf(WM_MOUSEMOVE), 1);
+    EXPECT_EQ(News.front(), static_cast<WPARAM>(WM_MOUSEMOVE)) << "the first news stays the first";
+    for (const WPARAM message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONUP})
+        EXPECT_EQ(CountOf(message), 10) << message;
+    EXPECT_EQ(Pressed, 10) << "nothing is withheld";
+    SendMouse(TARGET.x + 50, TARGET.y);
+    EXPECT_SOON(CountOf(WM_MOUSEMOVE), 2);
+}
+
+TEST_F(HookLibrary, AWheelThatTurnsTellsNothing) {
+    SetMouseHook(1);
+    Click(MOUSEEVENTF_WHEEL, MOUSEEVENTF_WHEEL);
+    Click(MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP);
+    EXPECT_SOON(CountOf(WM_MBUTTONUP), 1);
+    EXPECT_EQ(News, (std::vector<WPARAM>{WM_MBUTTONDOWN, WM_MBUTTONUP}));
+}
+
+TEST_F(HookLibrary, AskingTwiceInAnyOrderIsAskingOnce) {
+    const struct {
+        std::vector<int> asked;
+        int wanted;
+    } cases[] = {
+        {{0, 0},    0},
+        {{1},       1},
+        {{1, 1},    1},
+        {{0, 1},    1},
+        {{1, 0},    0},
+        {{1, 1, 0}, 0},
+        {{1, 0, 1}, 1},
+        {{0, 0, 1}, 1},
+    };
+    for (const auto& order : cases) {
+        for (const int bWatch : order.asked)
+            SetMouseHook(bWatch);
+        EXPECT_EQ(ToldOfAClick(order.wanted), order.wanted) << testing::PrintToString(order.asked);
+        SetMouseHook(0);
+    }
+}
+
+TEST_F(HookLibrary, LoadedTwiceItWatchesOnceAndGoesWithTheSecondRelease) {
+    const size_t before = OwnThreads().size();
+    SetMouseHook(1);
+    Load();
+    SaveSharedData(window);
+    SetMouseHook(1);
+    EXPECT_EQ(OwnThreads().size(), before + 1);
+    FreeLibrary(library);
+    EXPECT_EQ(ToldOfAClick(1), 1);
+    SetMouseHook(0);
+    EXPECT_EQ(OwnThreads().size(), before) << "the thread has ended when the call is back";
+    FreeLibrary(library);
+    EXPECT_FALSE(GetModuleHandleA("quorl.dll"));
+}
+
+TEST_F(HookLibrary, ComesAndGoesWhileTheMouseMoves) {
+    FreeLibrary(library);
+    StartShakingMouse(TARGET);
+    for (int i = 0; i < 50; ++i) {
+        Load();
+        SaveSharedData(window);
+        SetMouseHook(1);
+        if (i % 2)
+            Sleep(5);
+        Pump();
+        SetMouseHook(0);
+        FreeLibrary(library);
+        EXPECT_FALSE(GetModuleHandleA("quorl.dll")) << i;
+    }
+    StopShakingMouse();
+    EXPECT_GT(CountOf(WM_MOUSEMOVE), 0);
+}
+
+TEST_F(HookLibrary, ReleasedWithoutAWordItStaysWhileItsThreadRuns) {
+    SetMouseHook(1);
+    StartShakingMouse(TARGET);
+    FreeLibrary(library);
+    News.clear();
+    EXPECT_SOON(CountOf(WM_MOUSEMOVE) > 0, true);
+    StopShakingMouse();
+    EXPECT_TRUE(GetModuleHandleA("quorl.dll"));
+    library = LoadLibraryA("quorl.dll");
+    EXPECT_EQ(ToldOfAClick(1), 1);
+}
+
+TEST_F(HookLibrary, AWindowThatIsGoneEndsTheWatching) {
+    const size_t before = OwnThreads().size();
+    SetMouseHook(1);
+    DestroyWindow(window);
+    SendMouse(TARGET.x + 5, TARGET.y);
+    EXPECT_SOON(OwnThreads().size(), before);
+    SetMouseHook(1);
+    EXPECT_EQ(OwnThreads().size(), before) << "there is no window to tell";
+    SetMouseHook(0);
+    OpenTarget();
+    SaveSharedData(window);
+    SetMouseHook(1);
+    EXPECT_EQ(ToldOfAClick(1), 1);
+}
+
+TEST_F(HookLibrary, AThreadThatWasKilledIsReplaced) {
+    const std::vector<DWORD> before = OwnThreads();
+    SetMouseHook(1);
+    for (const DWORD id : OwnThreads())
+        if (std::find(before.begin(), before.end(), id) == before.end()) {
+            const HANDLE watcher = OpenThread(THREAD_TERMINATE, FALSE, id);
+            EXPECT_TRUE(TerminateThread(watcher, 0));
+            CloseHandle(watcher);
+        }
+    EXPECT_SOON(OwnThreads().size(), before.size());
+    EXPECT_EQ(ToldOfAClick(0), 0);
+    SetMouseHook(1);
+    EXPECT_EQ(ToldOfAClick(1), 1);
+}
+
+TEST_F(HookLibrary, WithoutAWindowNothingIsWatched) {
+    const size_t before = OwnThreads().size();
+    for (const HWND none : {HWND{}, reinterpret_cast<HWND>(INT_PTR{0x7ffe})}) {
+        SaveSharedData(none);
+        SetMouseHook(1);
+        EXPECT_EQ(OwnThreads().size(), before);
+    }
+}

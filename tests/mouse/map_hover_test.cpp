@@ -5,7 +5,7 @@
 #include "regions/region_table.h"
 #include "support/map_mouse.h"
 
-#include <cstring>
+#include <cstdio>
 
 namespace {
 
@@ -26,7 +26,7 @@ void Bind(int row, int mods, int button) {
 
 void MarkRegion(const char* name, const RECT& place) {
     RegionRow& row = RegionTable[num_regions++];
-    std::strcpy(row.name, name);
+    std::snprintf(row.name, sizeof row.name, "%s", name);
     row.left = place.left;
     row.top = place.top;
     row.right = place.right;

@@ -67,7 +67,8 @@ HWND OpenWindow(const char* title, const RECT& place, const char* className) {
     window.place = place;
     window.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
     Desk.windows.push_back(window);
-    Desk.order.insert(Desk.order.begin(), window.handle);
+    Desk.order.push_back(window.handle);
+    Raise(window.handle);
     return window.handle;
 }
 

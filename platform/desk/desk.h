@@ -13,9 +13,10 @@
 // How a window of another program behaves when it is asked something.
 enum class DeskAnswer {
     Answers,
-    TimesOut, // waits out its time, then fails with `error` (0 or ERROR_TIMEOUT)
+    TimesOut, // waits out its time, then fails with `error`
     Hung,     // known to be hung: fails at once with `error`
     Fails,    // refuses with `error`
+    Leaves,   // its program ends instead of answering
 };
 
 struct DeskMessage {
@@ -40,10 +41,10 @@ struct DeskWindow {
 
     // Windows of other programs only:
     DeskAnswer answer = DeskAnswer::Answers;
-    DWORD error = 0;
-    int bRewrites = 0; // its WM_MOVING handler puts `rewritten` into the record
-    RECT rewritten{};  // left, top, width, height
-    SIZE least{0, 0};  // sizes that it refuses to go below or above
+    DWORD error = ERROR_TIMEOUT; // when it times out or is hung; the oldest systems say 0
+    int bRewrites = 0;           // its WM_MOVING handler puts `rewritten` into the record
+    RECT rewritten{};            // left, top, width, height
+    SIZE least{0, 0};            // sizes that it refuses to go below or above
     SIZE most{1 << 20, 1 << 20};
     int diesAtCall = 0; // the n-th call that names this window finds it gone; 0: never
     std::vector<DeskMessage> received;

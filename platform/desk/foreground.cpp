@@ -1,9 +1,19 @@
 // Which window has the foreground and the focus, and the order from top to bottom.
 #include "ground.h"
 
-static void Raise(HWND window) {
-    if (std::erase(Desk.order, window))
-        Desk.order.insert(Desk.order.begin(), window);
+#include <algorithm>
+
+static int IsTopmost(HWND window) {
+    return (RowOf(window).exStyle & WS_EX_TOPMOST) != 0;
+}
+
+void Raise(HWND window) {
+    if (!std::erase(Desk.order, window))
+        return;
+    auto place = Desk.order.begin();
+    if (!IsTopmost(window))
+        place = std::find_if_not(place, Desk.order.end(), IsTopmost);
+    Desk.order.insert(place, window);
 }
 
 void Activate(HWND window) {

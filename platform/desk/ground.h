@@ -21,6 +21,16 @@ RECT ClientArea(const DeskWindow& window);
 // Calls the window's procedure; 0 when it is a window of another program.
 LRESULT CallProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
+// Puts the window on top of those that are topmost as it is, or as it is not.
+void Raise(HWND window);
+
+// Has the window's size kept within its limits, after asking a window of this process for them.
+void ApplyLimits(DeskWindow& window);
+
+// Tell a window of this process by WM_SIZE and WM_MOVE where its client area stands.
+void TellSize(HWND window);
+void TellPlace(HWND window);
+
 // Makes the window the foreground window and puts it on top.
 void Activate(HWND window);
 

@@ -37,9 +37,13 @@ LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 static int Refuses(const DeskWindow& window, UINT milliseconds) {
     if (window.answer == DeskAnswer::Answers)
         return 0;
+    Desk.lastError = window.error;
     if (window.answer == DeskAnswer::TimesOut)
         Desk.now += milliseconds;
-    Desk.lastError = window.error;
+    if (window.answer == DeskAnswer::Leaves) {
+        Desk.lastError = ERROR_INVALID_WINDOW_HANDLE;
+        KillWindow(window.handle);
+    }
     return 1;
 }
 

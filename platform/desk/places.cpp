@@ -18,7 +18,7 @@ int FrameWidth(const DeskWindow& window) {
 }
 
 RECT ClientArea(const DeskWindow& window) {
-    const int frames = 2 * FrameWidth(window);
+    const LONG frames = 2 * FrameWidth(window);
     return {0, 0, std::max(0, window.place.right - window.place.left - frames),
             std::max(0, window.place.bottom - window.place.top - frames)};
 }
@@ -30,33 +30,87 @@ BOOL GetClientRect(HWND window, RECT* rect) {
     return row != nullptr;
 }
 
-// A window of this process says its limits itself, when it has a sizing frame.
-static void AskLimits(DeskWindow& window) {
-    if (!window.procedure || !(window.style & WS_THICKFRAME))
-        return;
+// All monitors together.
+static RECT WholeScreen() {
+    RECT all = Desk.monitors.front();
+    for (const RECT& monitor : Desk.monitors)
+        all = {std::min(all.left, monitor.left), std::min(all.top, monitor.top),
+               std::max(all.right, monitor.right), std::max(all.bottom, monitor.bottom)};
+    return all;
+}
+
+// What the system allows a window that does not say otherwise: room for its title bar, and the whole screen
+// with the frame outside.
+static MINMAXINFO UsualLimits(const DeskWindow& window) {
+    const LONG frames = 2 * FrameWidth(window);
+    const RECT screen = WholeScreen();
     MINMAXINFO limits{};
-    limits.ptMaxTrackSize = {1 << 20, 1 << 20};
+    limits.ptMaxTrackSize = {screen.right - screen.left + frames, screen.bottom - screen.top + frames};
+    limits.ptMinTrackSize = {frames, frames};
+    if ((window.style & WS_CAPTION) == WS_CAPTION)
+        limits.ptMinTrackSize = {112, 27};
+    return limits;
+}
+
+// A window of this process says its limits itself: when it has a sizing frame, or is neither popup nor child.
+static void AskLimits(DeskWindow& window) {
+    if (!window.procedure || !(window.style & WS_THICKFRAME || !(window.style & (WS_POPUP | WS_CHILD))))
+        return;
+    MINMAXINFO limits = UsualLimits(window);
     CallProcedure(window.handle, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
     window.least = {limits.ptMinTrackSize.x, limits.ptMinTrackSize.y};
     window.most = {limits.ptMaxTrackSize.x, limits.ptMaxTrackSize.y};
 }
 
-static int Within(int size, int least, int most) {
+static LONG Within(LONG size, LONG least, LONG most) {
     return std::max({std::min(size, most), least, 0});
 }
 
+void ApplyLimits(DeskWindow& window) {
+    AskLimits(window);
+    RECT& place = window.place;
+    place.right = place.left + Within(place.right - place.left, window.least.cx, window.most.cx);
+    place.bottom = place.top + Within(place.bottom - place.top, window.least.cy, window.most.cy);
+}
+
+void TellSize(HWND window) {
+    RECT client{};
+    if (const DeskWindow* row = Living(window))
+        client = ClientArea(*row);
+    CallProcedure(window, WM_SIZE, 0, MAKELPARAM(client.right, client.bottom));
+}
+
+void TellPlace(HWND window) {
+    POINT origin{};
+    if (Living(window))
+        origin = OnScreen(window, 0, 0);
+    CallProcedure(window, WM_MOVE, 0, MAKELPARAM(origin.x, origin.y));
+}
+
+static int IsOnScreen(const RECT& place) {
+    const RECT screen = WholeScreen();
+    return place.left >= screen.left && place.top >= screen.top && place.right <= screen.right &&
+           place.bottom <= screen.bottom;
+}
+
+// The picture moves with its window: it is painted again when its size is new or some of it was off the
+// screen.
 BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint) {
     DeskWindow* row = Fails("MoveWindow") ? nullptr : Named(window);
     if (!row)
         return FALSE;
-    AskLimits(*row);
-    width = Within(width, row->least.cx, row->most.cx);
-    height = Within(height, row->least.cy, row->most.cy);
+    const RECT before = row->place;
     row->place = {x, y, x + width, y + height};
-    if (repaint)
+    ApplyLimits(*row);
+    const RECT now = row->place;
+    const bool bResized = now.right - now.left != before.right - before.left ||
+                          now.bottom - now.top != before.bottom - before.top;
+    if (repaint && (bResized || !IsOnScreen(before)))
         Invalidate(*row, nullptr, 1);
-    CallProcedure(window, WM_MOVE, 0, MAKELPARAM(x, y));
-    CallProcedure(window, WM_SIZE, 0, MAKELPARAM(width, height));
+    if (now.left != before.left || now.top != before.top)
+        TellPlace(window);
+    if (bResized)
+        TellSize(window);
     return TRUE;
 }
 

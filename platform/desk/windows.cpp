@@ -3,40 +3,54 @@
 
 #include <algorithm>
 
+static auto ClassNamed(LPCSTR name) {
+    return std::find_if(
+        Desk.classes.begin(), Desk.classes.end(),
+        [wanted = LowerCase(name)](const auto& row) { return LowerCase(row.first) == wanted; });
+}
+
 ATOM RegisterClassA(const WNDCLASSA* description) {
     if (Fails("RegisterClassA"))
         return 0;
-    if (!Desk.classes.emplace(description->lpszClassName, *description).second) {
+    if (ClassNamed(description->lpszClassName) != Desk.classes.end()) {
         Desk.lastError = ERROR_CLASS_ALREADY_EXISTS;
         return 0;
     }
+    Desk.classes.emplace(description->lpszClassName, *description);
     return static_cast<ATOM>(0xC000 + Desk.classes.size());
 }
 
-// WM_CREATE runs inside the creation; -1 from it undoes the window.
-static HWND Announce(HWND handle) {
-    if (CallProcedure(handle, WM_NCCREATE, 0, 0) && CallProcedure(handle, WM_CREATE, 0, 0) != -1)
-        return handle;
+// The procedure is asked for its limits before it hears that the window exists. WM_CREATE runs inside the
+// creation; -1 from it undoes the window.
+static int Announce(HWND handle) {
+    ApplyLimits(RowOf(handle));
+    if (CallProcedure(handle, WM_NCCREATE, 0, 0) && CallProcedure(handle, WM_CREATE, 0, 0) != -1) {
+        TellSize(handle);
+        TellPlace(handle);
+        return Living(handle) != nullptr;
+    }
+    CallProcedure(handle, WM_NCDESTROY, 0, 0);
     if (Living(handle))
         KillWindow(handle);
-    return nullptr;
+    return 0;
 }
 
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, int x, int y, int width,
                      int height, HWND parent, HMENU, HINSTANCE instance, LPVOID) {
     if (Fails("CreateWindowExA"))
         return nullptr;
-    const auto found = Desk.classes.find(className);
+    const auto found = ClassNamed(className);
     if (found == Desk.classes.end())
         return nullptr;
     const RECT place{x, y, x + std::max(width, 0), y + std::max(height, 0)};
-    const HWND handle = OpenWindow(title ? title : "", place, className);
+    const HWND handle = OpenWindow(title ? title : "", place, found->first.c_str());
     DeskWindow& window = RowOf(handle);
     window.style = style & ~WS_VISIBLE;
     window.exStyle = exStyle;
     window.owner = parent;
     window.instance = instance;
     window.procedure = found->second.lpfnWndProc;
+    Raise(handle);
     if (!Announce(handle))
         return nullptr;
     if (style & WS_VISIBLE)
@@ -45,8 +59,13 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style,
 }
 
 BOOL DestroyWindow(HWND window) {
-    if (Fails("DestroyWindow") || !Named(window))
+    const DeskWindow* row = Fails("DestroyWindow") ? nullptr : Named(window);
+    if (!row)
         return FALSE;
+    if (!row->procedure) {
+        Desk.lastError = ERROR_ACCESS_DENIED;
+        return FALSE;
+    }
     CallProcedure(window, WM_DESTROY, 0, 0);
     CallProcedure(window, WM_NCDESTROY, 0, 0);
     if (Living(window))

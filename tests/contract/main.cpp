@@ -1,7 +1,11 @@
 // The entry point of the contract tests, on both grounds.
+#include "contract/ground.h"
+
 #include <gtest/gtest.h>
 
 int main(int count, char** words) {
+    if (IsStranger(count, words))
+        return PlayStranger(words);
     testing::InitGoogleTest(&count, words);
     return RUN_ALL_TESTS();
 }

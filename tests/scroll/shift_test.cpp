@@ -44,16 +44,17 @@ class Shift : public QuorlTest {
 };
 
 TEST_F(Shift, EveryWindowIsAskedMovedPaintedAndShown) {
+    const HWND halfOut = OpenWindow("half out", {900, 500, 1200, 600});
     Start();
     Desk.trace.clear();
 
     ShiftWindows(30, -20);
 
+    EXPECT_TRUE(RowOf(halfOut).bInvalid) << "what was not on the screen has to be painted";
     EXPECT_EQ(PlaceOf(editor), Rect(130, 80, 530, 380));
     EXPECT_EQ(PlaceOf(other), Rect(630, 80, 930, 380));
     ASSERT_EQ(RowOf(editor).received.size(), 1U);
     EXPECT_EQ(RowOf(editor).received[0].record, Rect(130, 80, 400, 300)) << "corner and size";
-    EXPECT_TRUE(RowOf(editor).bInvalid);
     EXPECT_TRUE(CameInOrder({"SendMessageTimeoutA", "MoveWindow", "ShowWindow"}));
 }
 

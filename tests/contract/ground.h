@@ -1,0 +1,51 @@
+// What the contract tests need of a desktop and cannot ask for by a plain call: other programs, the user's
+// hands, the passing of time, files. desk/ does it on the in-memory desktop, windows/ on Windows.
+#pragma once
+
+#include "core/platform.h"
+
+#include <string>
+#include <vector>
+
+// How another program's window takes WM_MOVING.
+enum class Manner {
+    Answers,
+    Rewrites, // puts RewrittenRecord into the record
+    Slow,     // answers after half a second
+    Hung,     // has not looked at its messages for so long that the system knows it
+    Leaves,   // its program ends instead of answering
+};
+
+inline const RECT RewrittenRecord{11, 22, 333, 244};
+
+// Before and after each case. The end closes what OpenStranger opened.
+void GroundSetUp();
+void GroundTearDown();
+
+// The instance of this program, for classes and windows.
+HINSTANCE Instance();
+
+// A visible window of another program, of class "Stranger", with title bar and sizing frame, not activated.
+HWND OpenStranger(const char* title, const RECT& place, Manner manner = Manner::Answers);
+
+// Milliseconds on a clock of the ground.
+DWORD Clock();
+
+// Lets time pass without looking at any message.
+void Pass(DWORD milliseconds);
+
+// Handles messages for so long.
+void Handle(DWORD milliseconds);
+
+// The user presses and releases a key with modifiers (MOD_ values), or holds or releases a key.
+void PressCombination(UINT modifiers, UINT key);
+void HoldKey(int key, int bDown);
+
+// A private profile file by its bare name: its whole text put down or removed, its lines without blank ones.
+void WriteProfile(const char* file, const std::string& text);
+void RemoveProfile(const char* file);
+std::vector<std::string> ProfileLines(const char* file);
+
+// Whether this process was started to play another program, and that play until it is stopped.
+int IsStranger(int count, char** words);
+int PlayStranger(char** words);

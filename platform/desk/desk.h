@@ -37,6 +37,7 @@ struct DeskWindow {
     HINSTANCE instance = nullptr;
     WNDPROC procedure = nullptr; // null: a window of another program
     RECT restored{};             // place before it was minimized or maximized
+    int bMaximizeAgain = 0;      // it was maximized when it was minimized
     int alpha = -1;              // as SetLayeredWindowAttributes set it; -1: never
 
     // Windows of other programs only:
@@ -121,6 +122,7 @@ struct DeskContext {
     POINT at;  // where a line starts
     RECT clip; // client pixels: nothing is drawn outside
     int bLive;
+    int backMode = 2; // OPAQUE
 };
 
 // One thing drawn.

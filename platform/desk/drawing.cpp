@@ -2,7 +2,10 @@
 #include "ground.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
+
+constexpr SIZE CHARACTER{7, 16}; // each one's pixels, in every font
 
 void Invalidate(DeskWindow& window, const RECT* rect, int bErase) {
     RECT area = rect ? *rect : ClientArea(window);
@@ -211,25 +214,37 @@ int LiveContexts() {
                                           [](const DeskContext& context) { return context.bLive; }));
 }
 
-int SetBkMode(HDC context, int) {
-    return !Fails("SetBkMode") && context;
+int SetBkMode(HDC context, int mode) {
+    DeskContext* on = Fails("SetBkMode") ? nullptr : ContextOf(context);
+    return on ? std::exchange(on->backMode, mode) : 0;
 }
 
-// Every character is 7 pixels wide and 16 high in the font of a fresh context; an empty text has no height.
+// An empty text has no height.
 BOOL GetTextExtentPoint32A(HDC context, LPCSTR, int length, SIZE* extent) {
     if (Fails("GetTextExtentPoint32A") || !context)
         return FALSE;
-    *extent = {7 * length, length > 0 ? 16 : 0};
+    *extent = {CHARACTER.cx * length, length > 0 ? CHARACTER.cy : 0};
     return TRUE;
 }
 
+// A text too long for its place ends in three points when the format asks for it.
+static std::string Shortened(const std::string& text, const RECT& rect, UINT format) {
+    const LONG room = std::max(1, (rect.right - rect.left) / CHARACTER.cx);
+    if (!(format & DT_END_ELLIPSIS) || static_cast<LONG>(text.size()) <= room)
+        return text;
+    return text.substr(0, static_cast<std::size_t>(std::max(1, room - 3))) + "...";
+}
+
+// What is kept is the text as it was handed over, since its place in a test is seldom as wide as on a screen.
 int DrawTextExA(HDC context, LPSTR text, int length, RECT* rect, UINT format, DRAWTEXTPARAMS*) {
     const DeskContext* on = Fails("DrawTextExA") ? nullptr : ContextOf(context);
     if (!on)
         return 0;
-    if (Desk.bTrace) {
-        const std::string drawn(text, static_cast<std::size_t>(length));
-        Desk.strokes.push_back({"DrawTextExA", on->window, *rect, drawn, on->font, format});
-    }
-    return 16;
+    const std::string asked(text, static_cast<std::size_t>(length));
+    if (Desk.bTrace)
+        Desk.strokes.push_back({"DrawTextExA", on->window, *rect, asked, on->font, format});
+    const std::string drawn = Shortened(asked, *rect, format);
+    if (format & DT_MODIFYSTRING && drawn != asked)
+        std::memcpy(text, drawn.c_str(), drawn.size() + 1);
+    return CHARACTER.cy;
 }

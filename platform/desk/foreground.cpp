@@ -3,6 +3,11 @@
 
 #include <algorithm>
 
+static int IsOwn(HWND window) {
+    const DeskWindow* row = Living(window);
+    return row && row->procedure;
+}
+
 static int IsTopmost(HWND window) {
     return (RowOf(window).exStyle & WS_EX_TOPMOST) != 0;
 }
@@ -16,9 +21,11 @@ void Raise(HWND window) {
     Desk.order.insert(place, window);
 }
 
+// The focus goes with it when it is a window of this process.
 void Activate(HWND window) {
     Raise(window);
     Desk.foreground = window;
+    Desk.focus = IsOwn(window) ? window : nullptr;
 }
 
 HWND GetForegroundWindow() {
@@ -33,12 +40,14 @@ BOOL SetForegroundWindow(HWND window) {
     return TRUE;
 }
 
-// Only a window of the calling thread takes the focus.
+// Only a window of the calling thread takes the focus, and becomes active unless it is a child.
 HWND SetFocus(HWND window) {
     const DeskWindow* row = Fails("SetFocus") ? nullptr : Named(window);
     if (!row || !row->procedure)
         return nullptr;
     const HWND before = Desk.focus;
+    if (!(row->style & WS_CHILD))
+        Activate(window);
     Desk.focus = window;
     return before;
 }
@@ -47,7 +56,7 @@ HWND SetActiveWindow(HWND window) {
     const DeskWindow* row = Fails("SetActiveWindow") ? nullptr : Named(window);
     if (!row || !row->procedure)
         return nullptr;
-    const HWND before = Desk.foreground;
+    const HWND before = IsOwn(Desk.foreground) ? Desk.foreground : nullptr;
     Activate(window);
     return before;
 }

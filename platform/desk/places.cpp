@@ -114,15 +114,11 @@ BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint) 
     return TRUE;
 }
 
-static void Restore(DeskWindow& window) {
-    if (!(window.style & (WS_MINIMIZE | WS_MAXIMIZE)))
-        return;
-    window.style &= ~(WS_MINIMIZE | WS_MAXIMIZE);
-    window.place = window.restored;
-}
-
 static void Minimize(DeskWindow& window) {
-    if (!(window.style & (WS_MINIMIZE | WS_MAXIMIZE)))
+    if (window.style & WS_MINIMIZE)
+        return;
+    window.bMaximizeAgain = (window.style & WS_MAXIMIZE) != 0;
+    if (!window.bMaximizeAgain)
         window.restored = window.place;
     window.style = (window.style & ~WS_MAXIMIZE) | WS_MINIMIZE;
     window.place = {-32000, -32000, -31840, -31972};
@@ -133,6 +129,17 @@ static void Maximize(DeskWindow& window) {
         window.restored = window.place;
     window.style = (window.style & ~WS_MINIMIZE) | WS_MAXIMIZE;
     window.place = Desk.monitors.front();
+}
+
+static void Restore(DeskWindow& window) {
+    if (!(window.style & (WS_MINIMIZE | WS_MAXIMIZE)))
+        return;
+    if (window.style & WS_MINIMIZE && window.bMaximizeAgain) {
+        Maximize(window);
+        return;
+    }
+    window.style &= ~(WS_MINIMIZE | WS_MAXIMIZE);
+    window.place = window.restored;
 }
 
 // The next window in sight takes the foreground from one that goes out of sight.

@@ -1,0 +1,138 @@
+// The rules of private profile files.
+#include "contract/contract_test.h"
+
+#include <climits>
+
+namespace {
+
+constexpr char FILE_NAME[] = "contract.ini"; // a bare name: the system says where it lies
+
+class Profile : public Contract {
+  protected:
+    void SetUp() override {
+        Contract::SetUp();
+        RemoveProfile(FILE_NAME);
+    }
+    void TearDown() override {
+        RemoveProfile(FILE_NAME);
+        Contract::TearDown();
+    }
+};
+
+std::string Read(const char* key, DWORD size = 64) {
+    char text[128];
+    const DWORD length = GetPrivateProfileStringA("Quorl", key, "absent", text, size, FILE_NAME);
+    EXPECT_EQ(length, std::string(text).size()) << "the result is the length";
+    return text;
+}
+
+int Number(const char* key, int absent = -1) {
+    return static_cast<int>(GetPrivateProfileIntA("Quorl", key, absent, FILE_NAME));
+}
+
+BOOL Write(const char* key, const char* text, const char* section = "Quorl") {
+    return WritePrivateProfileStringA(section, key, text, FILE_NAME);
+}
+
+using Lines = std::vector<std::string>;
+
+TEST_F(Profile, FileAndSectionAppearWhenNeeded) {
+    EXPECT_EQ(Read("border"), "absent");
+    EXPECT_EQ(Number("border", -1), -1);
+    EXPECT_TRUE(Write("border", "5"));
+    EXPECT_TRUE(Write("x", "1", "Other"));
+    EXPECT_EQ(ProfileLines(FILE_NAME), (Lines{"[Quorl]", "border=5", "[Other]", "x=1"}));
+}
+
+TEST_F(Profile, AKeyIsReplacedWhereItStandsAndANewOneGoesToTheSectionsEnd) {
+    WriteProfile(FILE_NAME,
+                 "[First]\r\na=1\r\n\r\n[quorl]\r\nBorder=5\r\n; kept\r\nb=2\r\n\r\n[Last]\r\nb=9\r\n");
+    EXPECT_TRUE(Write("BORDER", "7"));
+    EXPECT_TRUE(Write("new", "3"));
+    const Lines lines = ProfileLines(FILE_NAME);
+    ASSERT_EQ(lines.size(), 9U);
+    EXPECT_EQ(lines[3].substr(lines[3].find('=')), "=7");
+    EXPECT_EQ(Lines(lines.begin() + 4, lines.end()), (Lines{"; kept", "b=2", "new=3", "[Last]", "b=9"}));
+    EXPECT_EQ(Read("border"), "7") << "case makes no difference";
+}
+
+TEST_F(Profile, BlanksAndQuotesRoundAValueAreNotPartOfIt) {
+    WriteProfile(FILE_NAME, "[Quorl]\r\n"
+                            "plain=a b\r\n"
+                            "  blanks  =   a b  \t\r\n"
+                            "double=\"a b \"\r\n"
+                            "single='a b '\r\n"
+                            "open=\"a b\r\n"
+                            "empty=\r\n"
+                            "equals=a=b\r\n"
+                            "bars=|1|2\r\n"
+                            "plain=second\r\n"
+                            "last=1"); // no line end
+    const struct {
+        const char* key;
+        const char* value;
+    } rows[] = {
+        {"plain",  "a b"  },
+        {"blanks", "a b"  },
+        {"double", "a b " },
+        {"single", "a b " },
+        {"open",   "\"a b"},
+        {"empty",  ""     },
+        {"equals", "a=b"  },
+        {"bars",   "|1|2" },
+        {"last",   "1"    }
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(Read(row.key), row.value) << row.key;
+}
+
+TEST_F(Profile, ALongValueIsCutAtTheBuffer) {
+    Write("long", "0123456789");
+    EXPECT_EQ(Read("long", 11), "0123456789");
+    EXPECT_EQ(Read("long", 10), "012345678");
+    EXPECT_EQ(Read("long", 1), "");
+    EXPECT_EQ(Read("none", 4), "abs") << "so is what is given for an absent key";
+}
+
+TEST_F(Profile, ANumberIsReadWithItsSignUpToTheFirstOtherCharacter) {
+    const struct {
+        const char* text;
+        int number;
+    } rows[] = {
+        {"12",          12        },
+        {"-12",         -12       },
+        {"+12",         12        },
+        {"  12",        12        },
+        {"12abc",       12        },
+        {"12 34",       12        },
+        {"abc",         0         },
+        {"-",           0         },
+        {"\"34\"",      34        },
+        {"",            -7        },
+        {"007",         7         },
+        {"- 5",         0         },
+        {"1.9",         1         },
+        {"2147483647",  INT_MAX   },
+        {"-2147483648", INT_MIN   },
+        {"4294967297",  1         },
+        {"99999999999", 1215752191},
+    };
+    for (const auto& row : rows) {
+        WriteProfile(FILE_NAME, std::string("[Quorl]\r\nn=") + row.text + "\r\n");
+        EXPECT_EQ(Number("n", -7), row.number) << '"' << row.text << '"';
+    }
+}
+
+TEST_F(Profile, WhatWasWrittenIsReadBack) {
+    for (const char* text : {"", "-1|-1|6|37|0", "a name|0|0|1024|768|16711680", "-32000"}) {
+        EXPECT_TRUE(Write("line", text));
+        EXPECT_EQ(Read("line"), text);
+    }
+    const std::string longest(2000, '7');
+    EXPECT_TRUE(Write("long", longest.c_str()));
+    char text[4048];
+    EXPECT_EQ(GetPrivateProfileStringA("Quorl", "long", "", text, sizeof text, FILE_NAME), 2000U);
+    EXPECT_EQ(text, longest);
+}
+
+} // namespace

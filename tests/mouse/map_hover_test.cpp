@@ -138,6 +138,17 @@ TEST_F(MapHover, ABoundCombinationRunsOnEachMoveAndTellsNoPlace) {
     EXPECT_EQ(VDesk.left, left + 200);
 }
 
+TEST_F(MapHover, TheMenuOpensOnARightPressAndOnEachMoveAndTheTipFollowsAllTheSame) {
+    Start();
+    Desk.choices = {0, 0};
+    MoveOnMap(100, 40);
+    PressOnMap(VK_RBUTTON);
+    EXPECT_EQ(Desk.shownMenus.size(), 1U);
+    MoveOnMap(200, 80);
+    EXPECT_EQ(Desk.shownMenus.size(), 2U);
+    EXPECT_EQ(LastTip(), "Quorl: 3200, 1280") << "row 0 cannot be told from no row";
+}
+
 TEST_F(MapHover, AMapWithoutAreaAndADesktopOfAnySizeAreHarmless) {
     Start();
     MoveOnMap(40, 30);

@@ -31,6 +31,33 @@ TEST(Hotkeys, EachOfTheViewKeysMovesTheWindows) {
     }
 }
 
+TEST(Hotkeys, TheActiveWindowIsLockedAndUnlocked) {
+    const Place place = {200, 150, 600, 450}, otherPlace = {300, 250, 700, 550};
+    const HWND witness = OpenWindow("witness", otherPlace); // undermost: moved last
+    const HWND editor = OpenWindow("editor", place);
+    ASSERT_TRUE(StartQuorl());
+    Activate(editor);
+    PressKeys({VK_LWIN, VK_DOWN});
+    EXPECT_SOON(TipStrip() != nullptr, true) << "it says what it locked";
+    PressKeys({VK_CONTROL, VK_MENU, VK_RIGHT});
+    EXPECT_SOON(PlaceOf(witness), Moved(otherPlace, -SCREEN_W, 0));
+    EXPECT_EQ(PlaceOf(editor), place);
+
+    EXPECT_SOON(TipStrip(), HWND{});
+    PressKeys({VK_LWIN, VK_UP});
+    EXPECT_SOON(TipStrip() != nullptr, true);
+    PressKeys({VK_CONTROL, VK_MENU, VK_DOWN});
+    EXPECT_SOON(PlaceOf(editor), Moved(place, 0, -SCREEN_H));
+}
+
+TEST(Hotkeys, TheMenuOpensAndCloses) {
+    ASSERT_TRUE(StartQuorl());
+    PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, VK_SPACE});
+    EXPECT_SOON(OpenedMenu() != nullptr, true);
+    PressKeys({VK_ESCAPE});
+    EXPECT_SOON(OpenedMenu(), HWND{});
+}
+
 TEST(Hotkeys, ARefusedCombinationIsReportedAndTheOthersWork) {
     const Place place = {200, 150, 600, 450};
     const HWND editor = OpenWindow("editor", place);

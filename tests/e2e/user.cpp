@@ -197,6 +197,10 @@ HWND TipStrip() {
     return FindVisible(0, "w_ToolTip", nullptr);
 }
 
+HWND OpenedMenu() {
+    return FindVisible(0, "#32768", nullptr);
+}
+
 HWND WaitForBox(const char* caption) {
     return WaitForVisible(0, "#32770", caption);
 }

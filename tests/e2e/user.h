@@ -48,6 +48,8 @@ std::string TextOf(HWND window);
 bool IsOnTop(HWND window, HWND other);
 // The strip over the map, while it is on show; else null.
 HWND TipStrip();
+// The popup menu that is open; else null.
+HWND OpenedMenu();
 
 // The message box with this caption; null if none comes. Its text; how it is answered, by a key.
 HWND WaitForBox(const char* caption);

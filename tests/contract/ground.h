@@ -41,6 +41,10 @@ void Handle(DWORD milliseconds);
 void PressCombination(UINT modifiers, UINT key);
 void HoldKey(int key, int bDown);
 
+// The user moves the mouse, in screen pixels, or holds or releases one of its buttons (VK_ values).
+void MoveMouse(int x, int y);
+void PressMouse(int button, int bDown);
+
 // A private profile file by its bare name: its whole text put down or removed, its lines without blank ones.
 void WriteProfile(const char* file, const std::string& text);
 void RemoveProfile(const char* file);

@@ -80,6 +80,8 @@ int CenterActiveWindow(HWND) {
 // Hidden meanwhile, since some windows change their place among the others only when they show afresh.
 int ToggleActiveTopmost(HWND) {
     const HWND active = GetForegroundWindow();
+    if (!IsAlive(active))
+        return 1;
     const LONG_PTR exStyle = GetWindowLongPtrA(active, GWL_EXSTYLE);
     ShowWindow(active, SW_HIDE);
     SetWindowPos(active, exStyle & WS_EX_TOPMOST ? HWND_NOTOPMOST : HWND_TOPMOST, 0, 0, 0, 0,

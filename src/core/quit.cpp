@@ -6,10 +6,19 @@
 #include "scroll/gather.h"
 #include "settings/settings.h"
 
+static int bQuitting;
+
+int IsQuitting() {
+    return bQuitting;
+}
+
 // The process ends only when control is back in the message loop, so all steps finish first.
 int ConfirmQuit(HWND window) {
     if (MessageBoxA(window, "QUIT?", "QUIT?", MB_YESNO) != IDYES)
         return 0;
+    if (bQuitting)
+        return 1; // answered twice: saving again would store the released bindings
+    bQuitting = 1;
     PostQuitMessage(0);
     TrayIcon(window, NIM_DELETE);
     if (ActionTable[ROW_SAVE_SETTINGS].value)

@@ -29,7 +29,7 @@ static LRESULT CALLBACK OnMouse(int code, WPARAM message, LPARAM details) {
 // Runs on the main window's thread, whenever that takes a message out of its queue.
 static LRESULT CALLBACK OnTaken(int code, WPARAM bRemoved, LPARAM details) {
     const MSG& taken = *reinterpret_cast<const MSG*>(details);
-    if (code == HC_ACTION && bRemoved == PM_REMOVE && taken.message == HOOK_MOUSE_MESSAGE &&
+    if (code == HC_ACTION && (bRemoved & PM_REMOVE) && taken.message == HOOK_MOUSE_MESSAGE &&
         taken.wParam == WM_MOUSEMOVE)
         InterlockedExchange(&bMoveQueued, 0);
     return CallNextHookEx(nullptr, code, bRemoved, details);

@@ -49,7 +49,7 @@ static MENUITEMINFOA SeparatorItem() {
     return item;
 }
 
-// A number past the last row can only come from a file edited by hand; it shows as nothing.
+// A number past the last row names nothing and shows as nothing.
 static void InsertEntries(HMENU menu) {
     for (int position = 0; position < quorl_menu_count; ++position) {
         const int entry = MenuList[position];

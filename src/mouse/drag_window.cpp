@@ -4,6 +4,7 @@
 #include "core/arithmetic.h"
 #include "core/coordinates.h"
 #include "core/state.h"
+#include "scroll/shift.h"
 #include "scroll/window_table.h"
 #include "toolwin/tip.h"
 
@@ -60,7 +61,7 @@ static void MoveByCursor(HWND target, int x, int y) {
     const int dx = Scaled(x - DragState.prev.x, Quorl.right, map.right);
     const int dy = Scaled(y - DragState.prev.y, Quorl.bottom, map.bottom);
     DragState.prev = {x, y};
-    if (GetWindowRect(target, &place)) // else it went this moment
+    if (GetWindowRect(target, &place) && IsAlive(target)) // else it went this moment, or hangs
         MoveWindow(target, place.left + dx, place.top + dy, place.right - place.left,
                    place.bottom - place.top, TRUE);
 }

@@ -2,6 +2,7 @@
 #include "scroll/shift.h"
 
 #include "actions/action_table.h"
+#include "core/quit.h"
 #include "core/state.h"
 #include "scroll/locked_windows.h"
 #include "scroll/window_table.h"
@@ -37,6 +38,11 @@ static int IsListView(HWND window) {
     return !std::strncmp(name, listViewClass, sizeof listViewClass - 1);
 }
 
+int IsAlive(HWND window) {
+    DWORD_PTR result = 0;
+    return SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, SCROLL_PATIENCE, &result) != 0;
+}
+
 void PlaceWindow(HWND window, WindowPlace place) {
     if (!AcceptsPlace(window, &place, SCROLL_PATIENCE))
         return;
@@ -53,7 +59,7 @@ static int ScrollListView(HWND window, int dx, int dy) {
 }
 
 static void RestoreIfZoomed(HWND window) {
-    if (!ActionTable[ROW_RESTORE_MAXIMIZED].value || !IsZoomed(window))
+    if (!ActionTable[ROW_RESTORE_MAXIMIZED].value || !IsZoomed(window) || !IsAlive(window))
         return;
     ShowWindow(window, SW_HIDE);
     ShowWindow(window, SW_RESTORE);
@@ -68,6 +74,8 @@ static void ShiftWindow(HWND window, int dx, int dy) {
 }
 
 void ShiftWindows(int dx, int dy) {
+    if (IsQuitting())
+        return;
     for (int row = 0; row < num_windows; ++row) {
         const HWND window = WindowTable[row].hwnd;
         if (IsListView(window) && !ScrollListView(window, dx, dy))

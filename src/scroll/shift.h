@@ -14,6 +14,10 @@ struct WindowPlace {
 // answer within `patience` milliseconds, is hung or gone.
 int AcceptsPlace(HWND window, WindowPlace* place, UINT patience);
 
+// 1 if the window takes a message that means nothing within SCROLL_PATIENCE. To be asked before a call that
+// would wait for a hung program for as long as it hangs.
+int IsAlive(HWND window);
+
 // Moves a window that answers to the place, as it may have changed it, and shows it. One that does not answer
 // within SCROLL_PATIENCE stays.
 void PlaceWindow(HWND window, WindowPlace place);

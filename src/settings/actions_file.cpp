@@ -30,9 +30,14 @@ static void RegisterStored(HWND window, ActionId row) {
     SetActionKey(window, row, ACTION_KEY, ActionTable[row].key_mods, ActionTable[row].vk);
 }
 
+// All lines are read before the first hotkey is registered: two rows may have swapped theirs, and a box about
+// a refused one lets the user quit, which saves all rows.
 int LoadActions(HWND window, LPCSTR file) {
+    int bHasLine[NUM_ACTIONS];
     for (ActionId row = 0; row < NUM_ACTIONS; ++row)
-        if (ReadAction(window, file, row))
+        bHasLine[row] = ReadAction(window, file, row);
+    for (ActionId row = 0; row < NUM_ACTIONS; ++row)
+        if (bHasLine[row])
             RegisterStored(window, row);
     return 1;
 }

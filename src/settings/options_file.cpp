@@ -44,7 +44,7 @@ static const PlainKey OptionKeys[] = {
     {"alpha",                  &Options.alpha,                  INT_MAX,         LOW_BYTE},
     {"mousescroll_type",       &Options.mousescroll_type,       INT_MAX,         ALL_BITS},
     {"mousescroll_delay",      &Options.mousescroll_delay,      INT_MAX,         ALL_BITS},
-    {"mousescroll_delay_time", &Options.mousescroll_delay_time, INT_MAX,         ALL_BITS},
+    {"mousescroll_delay_time", &Options.mousescroll_delay_time, LARGEST_DESKTOP, ALL_BITS},
     {"Quorl.left",             &Quorl.left,                     LARGEST_DESKTOP, ALL_BITS},
     {"Quorl.top",              &Quorl.top,                      LARGEST_DESKTOP, ALL_BITS},
     {"Quorl.right",            &Quorl.right,                    LARGEST_DESKTOP, ALL_BITS},

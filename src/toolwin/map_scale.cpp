@@ -4,6 +4,8 @@
 #include "core/arithmetic.h"
 
 static RECT BoxOf(POINT corner, int width, int height, const RECT& map, const RECT& quorl) {
+    if (!quorl.right || !quorl.bottom)
+        return {};
     const int left = Scaled(corner.x, map.right, quorl.right);
     const int top = Scaled(corner.y, map.bottom, quorl.bottom);
     return {left, top, Scaled(width, map.right, quorl.right) + left,

@@ -41,4 +41,22 @@ TEST_F(Quitting, YesReleasesTheHotkeysAndFoldsTheWindowsBack) {
     EXPECT_EQ(PlaceOf(far).left, 76);
 }
 
+TEST_F(Quitting, NewsThatWaitsInTheQueueMovesNoWindowThatWasFoldedBack) {
+    Start();
+    WillAnswer({IDYES});
+    PostMessageA(MainWnd, WM_CLOSE, 0, 0);
+    PostMessageA(MainWnd, WM_HOTKEY, 30, 0); // pressed while the box was open
+    Settle();
+    EXPECT_EQ(PlaceOf(far).left, 76);
+}
+
+TEST_F(Quitting, ASecondYesSavesNothingOverWhatWasSaved) {
+    Start();
+    WillAnswer({IDYES, IDYES});
+    ConfirmQuit(MainWnd);
+    const auto saved = Desk.files;
+    EXPECT_EQ(ConfirmQuit(MainWnd), 1);
+    EXPECT_EQ(Desk.files, saved) << "the bindings are released by now";
+}
+
 } // namespace

@@ -63,6 +63,15 @@ TEST_F(ActionsFile, EachRefusedCombinationIsReportedOnceAndKept) {
     EXPECT_EQ(Stored("Action28"), "-1|-1|4|112|0");
 }
 
+TEST_F(ActionsFile, TwoRowsThatHaveSwappedTheirCombinationsAreLoadedWithoutABox) {
+    StartQuorl();
+    WritePrivateProfileStringA("Quorl", "Action28", "-1|-1|6|39|0", "quorl.ini");
+    WritePrivateProfileStringA("Quorl", "Action30", "-1|-1|6|37|0", "quorl.ini");
+    Command(48);
+    EXPECT_TRUE(IsRegistered(28, MOD_CONTROL | MOD_ALT, VK_RIGHT));
+    EXPECT_TRUE(IsRegistered(30, MOD_CONTROL | MOD_ALT, VK_LEFT));
+}
+
 TEST_F(ActionsFile, ARowThatForbidsLoadingLeavesAllDefaultsAndKeepsItsOwnKey) {
     StoreFile("border=9\nnum_regions=1\nAction28=-1|-1|4|112|0\nAction71=0|8|4|113|0\n");
     StartQuorl();

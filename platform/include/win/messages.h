@@ -14,6 +14,7 @@ struct MSG {
 
 using TIMERPROC = void(CALLBACK*)(HWND, UINT, UINT_PTR, DWORD);
 
+constexpr UINT WM_NULL = 0;
 constexpr UINT WM_CREATE = 1;
 constexpr UINT WM_DESTROY = 2;
 constexpr UINT WM_MOVE = 3;

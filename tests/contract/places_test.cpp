@@ -7,6 +7,11 @@ using Places = Contract;
 
 const RECT PLACE{100, 120, 400, 320};
 
+BOOL CALLBACK NoteMonitor(HMONITOR monitor, HDC, RECT*, LPARAM to) {
+    reinterpret_cast<std::vector<HMONITOR>*>(to)->push_back(monitor);
+    return TRUE;
+}
+
 TEST_F(Places, AWindowGoesWhereItIsMovedOffTheScreenToo) {
     for (const HWND window : {OpenOwn(PLACE), OpenStranger("moved", PLACE)}) {
         for (const RECT& place : {Rect(-900, -700, -500, -400), Rect(5000, 3000, 5400, 3300), PLACE}) {
@@ -176,13 +181,7 @@ TEST_F(Places, AWindowMinimizedWhenMaximizedIsMaximizedAgain) {
 
 TEST_F(Places, MonitorsAreToldWithThePrimaryOneAtTheOrigin) {
     std::vector<HMONITOR> monitors;
-    EXPECT_TRUE(EnumDisplayMonitors(
-        nullptr, nullptr,
-        [](HMONITOR monitor, HDC, RECT*, LPARAM to) {
-            reinterpret_cast<std::vector<HMONITOR>*>(to)->push_back(monitor);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&monitors)));
+    EXPECT_TRUE(EnumDisplayMonitors(nullptr, nullptr, NoteMonitor, reinterpret_cast<LPARAM>(&monitors)));
     ASSERT_EQ(monitors.size(), 1U);
 
     MONITORINFO info{};

@@ -35,6 +35,10 @@ int IsStranger(int count, char** words) {
     return count == 8 && !std::strcmp(words[1], STRANGER);
 }
 
+void CALLBACK EndPlay(HWND, UINT, UINT_PTR, DWORD) {
+    ExitProcess(1);
+}
+
 int PlayStranger(char** words) {
     Played = static_cast<Manner>(std::atoi(words[2]));
     int place[4];
@@ -51,7 +55,7 @@ int PlayStranger(char** words) {
     ShowWindow(window, SW_SHOWNOACTIVATE);
     if (Played == Manner::Hung)
         Sleep(LONGEST_PLAY);
-    SetTimer(window, 1, LONGEST_PLAY, [](HWND, UINT, UINT_PTR, DWORD) { ExitProcess(1); });
+    SetTimer(window, 1, LONGEST_PLAY, EndPlay);
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0)
         DispatchMessageA(&message);

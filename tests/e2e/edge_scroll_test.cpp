@@ -16,16 +16,20 @@ void StartFollowing() {
     MoveMouse({500, 600});
 }
 
-// Over the edge as the hand does it, from just before it.
-void PushOver(int edge) {
-    MoveMouse({edge ? edge - 24 : 24, 600});
-    SendMouse(edge, 600);
-}
-
 int CursorX() {
     POINT cursor = {};
     GetCursorPos(&cursor);
     return cursor.x;
+}
+
+// The pointer itself is put at the edge, since a move that was only sent is forgotten before a busy machine
+// has handled it; the move is sent unless placing the pointer was news enough.
+void PushOver(int edge) {
+    MoveMouse({SCREEN_W / 2, 600});
+    SetCursorPos(edge, 600);
+    Sleep(60);
+    if (CursorX() == edge)
+        SendMouse(edge, 600);
 }
 
 } // namespace

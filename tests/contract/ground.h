@@ -45,6 +45,14 @@ void HoldKey(int key, int bDown);
 void MoveMouse(int x, int y);
 void PressMouse(int button, int bDown);
 
+// What a living menu holds, as a user would read it: "* " before a checked entry, "--" for a line, " >" after
+// what opens another menu.
+std::vector<std::string> MenuLines(HMENU menu);
+
+// The user will choose the n-th entry of `menu` that is no line (from 1) once it is open over `window`; 0:
+// will close it.
+void WillChoose(HWND window, HMENU menu, int entry);
+
 // A private profile file by its bare name: its whole text put down or removed, its lines without blank ones.
 void WriteProfile(const char* file, const std::string& text);
 void RemoveProfile(const char* file);

@@ -49,6 +49,22 @@ void Handle(DWORD milliseconds) {
     Desk.until = FOR_EVER;
 }
 
+std::vector<std::string> MenuLines(HMENU menu) {
+    std::vector<std::string> lines;
+    for (const DeskMenuItem& item : MenuOf(menu).items)
+        lines.push_back((item.state & MFS_CHECKED ? "* " : "") +
+                        (item.type & MFT_SEPARATOR ? "--" : item.text) + (item.submenu ? " >" : ""));
+    return lines;
+}
+
+void WillChoose(HWND, HMENU menu, int entry) {
+    UINT id = 0;
+    for (const DeskMenuItem& item : MenuOf(menu).items)
+        if (!(item.type & MFT_SEPARATOR) && entry-- > 0)
+            id = item.id;
+    Desk.choices = {id};
+}
+
 void WriteProfile(const char* file, const std::string& text) {
     Desk.files[file] = text;
 }

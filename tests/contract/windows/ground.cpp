@@ -168,6 +168,28 @@ static std::string PathOf(const char* file) {
     return std::string(folder) + "\\" + file;
 }
 
+std::vector<std::string> MenuLines(HMENU menu) {
+    std::vector<std::string> lines;
+    for (int place = 0; place < GetMenuItemCount(menu); ++place) {
+        char text[256] = "";
+        MENUITEMINFOA item{};
+        item.cbSize = sizeof item;
+        item.fMask = MIIM_STATE | MIIM_SUBMENU | MIIM_TYPE;
+        item.dwTypeData = text;
+        item.cch = sizeof text;
+        GetMenuItemInfoA(menu, static_cast<UINT>(place), TRUE, &item);
+        lines.push_back(std::string(item.fState & MFS_CHECKED ? "* " : "") +
+                        (item.fType & MFT_SEPARATOR ? "--" : text) + (item.hSubMenu ? " >" : ""));
+    }
+    return lines;
+}
+
+void WillChoose(HWND window, HMENU, int entry) {
+    for (int step = 0; step < entry; ++step)
+        PostMessageA(window, WM_KEYDOWN, VK_DOWN, 0);
+    PostMessageA(window, WM_KEYDOWN, entry ? VK_RETURN : VK_ESCAPE, 0);
+}
+
 void WriteProfile(const char* file, const std::string& text) {
     WritePrivateProfileStringA(nullptr, nullptr, nullptr, file); // forget what was kept in memory of it
     std::ofstream(PathOf(file), std::ios::binary) << text;

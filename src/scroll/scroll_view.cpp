@@ -19,32 +19,30 @@ POINT AskedDistance(const RECT& vdesk, int x, int y, int mode) {
     return {x, y};
 }
 
+// One axis: `least` and `most` are the view's two sides on it, and `way` is how far it goes.
+static void HoldInside(LONG* least, LONG* most, int* way, LONG desktop, int screen) {
+    if (*least < 0) {
+        *way -= *least;
+        *least = 0;
+        *most = screen;
+    }
+    if (*most > desktop) {
+        *way += desktop - *most;
+        *most = desktop;
+        *least = desktop - screen;
+    }
+}
+
 ViewStep ClampedStep(const RECT& vdesk, POINT distance, const RECT& quorl, int screenW, int screenH) {
-    RECT view{vdesk.left + distance.x, vdesk.top + distance.y, vdesk.right + distance.x,
-              vdesk.bottom + distance.y};
-    int dx = distance.x;
-    int dy = distance.y;
-    if (view.left < 0) {
-        dx -= view.left;
-        view.left = 0;
-        view.right = screenW;
-    }
-    if (view.right > quorl.right) {
-        dx += quorl.right - view.right;
-        view.right = quorl.right;
-        view.left = quorl.right - screenW;
-    }
-    if (view.top < 0) {
-        dy -= view.top;
-        view.top = 0;
-        view.bottom = screenH;
-    }
-    if (view.bottom > quorl.bottom) {
-        dy += quorl.bottom - view.bottom;
-        view.bottom = quorl.bottom;
-        view.top = quorl.bottom - screenH;
-    }
-    return {view, dx, dy};
+    ViewStep step{
+        {vdesk.left + distance.x, vdesk.top + distance.y, vdesk.right + distance.x,
+         vdesk.bottom + distance.y},
+        static_cast<int>(distance.x),
+        static_cast<int>(distance.y)
+    };
+    HoldInside(&step.view.left, &step.view.right, &step.dx, quorl.right, screenW);
+    HoldInside(&step.view.top, &step.view.bottom, &step.dy, quorl.bottom, screenH);
+    return step;
 }
 
 // Every second call, so that the user can tell a scroll that went nowhere from none.

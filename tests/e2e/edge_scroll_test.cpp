@@ -1,5 +1,6 @@
 // Scrolling at the screen's edge, with the real hook library and a real mouse.
 #include "mouse.h"
+#include "settings_file.h"
 
 namespace {
 
@@ -57,7 +58,7 @@ TEST(EdgeScroll, IsOffUntilTheUserAsksForIt) {
 }
 
 TEST(EdgeScroll, WaitsForTheButtonThatTheUserChose) {
-    WritePrivateProfileStringA("Quorl", "mousescroll_delay", "1", "quorl.ini");
+    Store("mousescroll_delay", "1");
     const HWND editor = OpenWindow("editor", EDITOR);
     StartFollowing();
     MoveMouse({SCREEN_W - 1, 600});

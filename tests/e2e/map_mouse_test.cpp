@@ -1,5 +1,6 @@
 // The map as a control surface: presses, drags and what the strip says under the cursor, by the real mouse.
 #include "mouse.h"
+#include "settings_file.h"
 
 #include <vector>
 
@@ -175,8 +176,8 @@ TEST(MapMouse, ShiftControlAndLeftTakeHoldOfAWindowByItsBox) {
 // Bound to the bare button: Wine lets go of sent keys when the foreground changes or a capture begins.
 TEST(MapMouse, AWindowFollowsItsBoxAndTheMapStays) {
     const HWND editor = OpenWindow("editor", {400, 300, 900, 700});
-    WritePrivateProfileStringA("Quorl", "Action38", "-1|-1|-1|-1|0", "quorl.ini");
-    WritePrivateProfileStringA("Quorl", "Action39", "0|8|-1|-1|0", "quorl.ini");
+    Store("Action38", "-1|-1|-1|-1|0");
+    Store("Action39", "0|8|-1|-1|0");
     const HWND quorl = StartQuorl();
     ASSERT_TRUE(quorl);
     ResizeMap(quorl, 256, 96);

@@ -1,5 +1,6 @@
 // The popup menu and the tray icon, worked with real keys. A menu of another program cannot be asked what it
 // holds, but two programs draw the same menu to the same pixels: this one draws what the user should see.
+#include "settings_file.h"
 #include "user.h"
 
 #include <vector>
@@ -117,10 +118,6 @@ void PressInMenu(std::initializer_list<WORD> keys) {
 
 bool IsMapShown() {
     return QuorlWindow() && IsWindowVisible(QuorlWindow());
-}
-
-void Store(const char* key, const char* value) {
-    ASSERT_TRUE(WritePrivateProfileStringA("Quorl", key, value, "quorl.ini"));
 }
 
 } // namespace

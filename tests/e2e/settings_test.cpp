@@ -1,44 +1,13 @@
 // What is kept from one run to the next, in the file where Windows puts it.
-#include "user.h"
-
-#include <fstream>
-#include <iterator>
+#include "dialogs.h"
+#include "settings_file.h"
 
 namespace {
-
-std::string FilePath() {
-    char folder[MAX_PATH] = "";
-    GetWindowsDirectoryA(folder, sizeof folder);
-    return std::string(folder) + "\\quorl.ini";
-}
-
-std::string FileText() {
-    std::ifstream file(FilePath(), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-std::string Stored(const char* key) {
-    char text[256] = "";
-    GetPrivateProfileStringA("Quorl", key, "", text, sizeof text, FilePath().c_str());
-    return text;
-}
-
-void Store(const char* key, const char* value) {
-    ASSERT_TRUE(WritePrivateProfileStringA("Quorl", key, value, FilePath().c_str()));
-}
-
-void Answer(const char* caption, WORD key) {
-    const HWND box = WaitForBox(caption);
-    ASSERT_TRUE(box);
-    Activate(box);
-    PressKeys({key});
-    EXPECT_TRUE(WaitForEnd(box));
-}
 
 // By its own question, after all that it was told before.
 void Quit() {
     DoRow(59);
-    Answer("QUIT?", 'Y');
+    AnswerBox("QUIT?", 'Y');
     EXPECT_SOON(QuorlWindow(), HWND{});
 }
 
@@ -46,10 +15,10 @@ void Quit() {
 
 TEST(Settings, SavingWritesTheFileInTheWindowsFolder) {
     ASSERT_TRUE(StartQuorl());
-    EXPECT_EQ(FileText(), "");
+    EXPECT_EQ(SettingsText(), "");
     DoRow(47);
     EXPECT_SOON(Stored("Action122"), std::string("-1|-1|-1|-1|1"));
-    EXPECT_EQ(FileText().substr(0, 44), "[Quorl]\r\nborder=5\r\nmaxscroll=100\r\nminscroll=");
+    EXPECT_EQ(SettingsText().substr(0, 44), "[Quorl]\r\nborder=5\r\nmaxscroll=100\r\nminscroll=");
     EXPECT_EQ(Stored("Action28"), "-1|-1|6|37|0");
     EXPECT_EQ(Stored("Action0"), "0|16|7|32|0");
     EXPECT_EQ(Stored("quorl_menu"), "54|55|74|77|49|-1|56|57|-1|59");
@@ -79,17 +48,17 @@ TEST(Settings, TheNextRunFindsWhatTheLastOneLeft) {
     PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, '0'});
     EXPECT_SOON(PlaceOf(editor), (Place{-1848, 150, -1448, 450})) << "the region has its digit";
 
-    const std::string before = FileText();
+    const std::string before = SettingsText();
     DoRow(47);
     DoRow(48);
     Quit();
-    EXPECT_EQ(FileText(), before) << "what was saved is saved again the same";
+    EXPECT_EQ(SettingsText(), before) << "what was saved is saved again the same";
 }
 
 TEST(Settings, ACombinationThatTheShellHoldsIsReportedAtTheFirstStartOnly) {
     ASSERT_TRUE(RegisterHotKey(nullptr, 1, MOD_WIN, VK_UP));
     LaunchQuorl();
-    Answer("Error", VK_RETURN);
+    AnswerBox("Error", VK_RETURN);
     EXPECT_SOON(QuorlWindow() && IsWindowVisible(QuorlWindow()), true);
     Quit();
     EXPECT_EQ(Stored("Action41"), "2|2|-1|-1|0");

@@ -1,6 +1,8 @@
 // The user's hands and eyes, made of plain Win32 calls from outside of Quorl.
 #include "user.h"
 
+#include "settings_file.h"
+
 #include <algorithm>
 
 namespace {
@@ -76,12 +78,6 @@ void SendKey(WORD key, DWORD flags) {
     const bool extended = (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_LWIN || key == VK_RSHIFT;
     input.ki.dwFlags = flags | (extended ? KEYEVENTF_EXTENDEDKEY : 0U);
     SendInput(1, &input, sizeof input);
-}
-
-std::string SettingsFile() {
-    char folder[MAX_PATH] = "";
-    GetWindowsDirectoryA(folder, sizeof folder);
-    return std::string(folder) + "\\quorl.ini";
 }
 
 } // namespace

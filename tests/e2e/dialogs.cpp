@@ -1,0 +1,120 @@
+// The dialogs as a user works them.
+#include "dialogs.h"
+
+#include "mouse.h"
+
+#include <cctype>
+
+namespace {
+
+LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, PATIENCE, &answer);
+    return static_cast<LRESULT>(answer);
+}
+
+void ClickAt(POINT screen) {
+    MoveMouse(screen);
+    Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
+}
+
+// What the user did has reached the window's thread only when its queue is through.
+void WaitUntilDone(HWND window) {
+    Sleep(60);
+    Ask(window, WM_NULL);
+}
+
+POINT MiddleOf(HWND window) {
+    const Place place = PlaceOf(window);
+    return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+}
+
+} // namespace
+
+HWND OpenByRow(int row, const char* title) {
+    DoRow(row);
+    return WaitForBox(title);
+}
+
+HWND Control(HWND dialog, int id) {
+    EXPECT_SOON(GetDlgItem(dialog, id) != nullptr, true) << "control " << id;
+    return GetDlgItem(dialog, id);
+}
+
+void PressOnly(HWND window) {
+    ClickAt(MiddleOf(window));
+}
+
+void Press(HWND window) {
+    PressOnly(window);
+    WaitUntilDone(window);
+}
+
+void PressAt(HWND window, POINT at) {
+    ClientToScreen(window, &at);
+    ClickAt(at);
+    WaitUntilDone(window);
+}
+
+void TypeOver(HWND edit, const std::string& text) {
+    Press(edit);
+    PressKeys({VK_HOME});
+    PressKeys({VK_SHIFT, VK_END});
+    PressKeys({VK_DELETE});
+    for (const char letter : text) {
+        const WORD key = static_cast<WORD>(std::toupper(static_cast<unsigned char>(letter)));
+        if (std::isupper(static_cast<unsigned char>(letter)))
+            PressKeys({VK_SHIFT, key});
+        else
+            PressKeys({key});
+    }
+    WaitUntilDone(edit);
+}
+
+void AnswerBox(const char* caption, WORD key) {
+    const HWND box = WaitForBox(caption);
+    ASSERT_TRUE(box) << caption;
+    Activate(box);
+    PressKeys({key});
+    EXPECT_TRUE(WaitForEnd(box));
+}
+
+std::string ControlText(HWND dialog, int id) {
+    char text[1024] = "";
+    Ask(Control(dialog, id), WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+bool IsChecked(HWND dialog, int id) {
+    return Ask(Control(dialog, id), BM_GETCHECK) == BST_CHECKED;
+}
+
+bool IsOn(HWND dialog, int id) {
+    return IsWindowEnabled(Control(dialog, id));
+}
+
+bool IsShown(HWND dialog, int id) {
+    return IsWindowVisible(Control(dialog, id));
+}
+
+std::vector<std::string> ListTexts(HWND list) {
+    const LRESULT rows = Ask(list, LB_GETCOUNT);
+    std::vector<std::string> texts;
+    for (LRESULT row = 0; row < rows; ++row) {
+        char text[1024] = "";
+        Ask(list, LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text));
+        texts.emplace_back(text);
+    }
+    return texts;
+}
+
+int SelectedRow(HWND list) {
+    return static_cast<int>(Ask(list, LB_GETCURSEL));
+}
+
+void PressRow(HWND list, int row) {
+    Ask(list, LB_SETTOPINDEX, static_cast<WPARAM>(row));
+    const int top = static_cast<int>(Ask(list, LB_GETTOPINDEX));
+    const int height = static_cast<int>(Ask(list, LB_GETITEMHEIGHT));
+    PressAt(list, {20, (row - top) * height + height / 2});
+}

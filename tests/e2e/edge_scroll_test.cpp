@@ -17,42 +17,26 @@ void StartFollowing() {
     MoveMouse({500, 600});
 }
 
-int CursorX() {
-    POINT cursor = {};
-    GetCursorPos(&cursor);
-    return cursor.x;
-}
-
-// The pointer itself is put at the edge, since a move that was only sent is forgotten before a busy machine
-// has handled it; the move is sent unless placing the pointer was news enough.
-void PushOver(int edge) {
-    MoveMouse({SCREEN_W / 2, 600});
-    SetCursorPos(edge, 600);
-    Sleep(60);
-    if (CursorX() == edge)
-        SendMouse(edge, 600);
-}
-
 } // namespace
 
 TEST(EdgeScroll, TheViewFollowsTheMouseOverTheEdgeAndBack) {
     const HWND editor = OpenWindow("editor", EDITOR);
     StartFollowing();
-    PushOver(SCREEN_W - 1);
+    PushMouseTo({SCREEN_W - 1, 600});
     EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0));
-    EXPECT_SOON(CursorX(), LANDING);
+    EXPECT_SOON(MousePlace().x, LANDING);
     MoveMouse({500, 600});
     EXPECT_EQ(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0)) << "one edge, one step";
-    PushOver(0);
+    PushMouseTo({0, 600});
     EXPECT_SOON(PlaceOf(editor), EDITOR);
-    EXPECT_SOON(CursorX(), SCREEN_W - LANDING);
+    EXPECT_SOON(MousePlace().x, SCREEN_W - LANDING);
 }
 
 TEST(EdgeScroll, IsOffUntilTheUserAsksForIt) {
     const HWND editor = OpenWindow("editor", EDITOR);
     ASSERT_TRUE(StartQuorl());
     MoveMouse({500, 600});
-    PushOver(SCREEN_W - 1);
+    PushMouseTo({SCREEN_W - 1, 600});
     Sleep(300);
     EXPECT_EQ(PlaceOf(editor), EDITOR);
 }
@@ -77,6 +61,6 @@ TEST(EdgeScroll, TheMouseStaysFreeWhileQuorlWaitsForAHungProgram) {
     DoRow(30);
     EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0));
     StopShakingMouse();
-    PushOver(0);
+    PushMouseTo({0, 600});
     EXPECT_SOON(PlaceOf(editor), EDITOR);
 }

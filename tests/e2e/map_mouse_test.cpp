@@ -6,54 +6,6 @@
 
 namespace {
 
-// A point of the map that stands for this point of the desktop of four screens by two.
-POINT OnMap(LONG x, LONG y) {
-    RECT map = {};
-    GetClientRect(QuorlWindow(), &map);
-    POINT at = {x * map.right / (4 * SCREEN_W), y * map.bottom / (2 * SCREEN_H)};
-    ClientToScreen(QuorlWindow(), &at);
-    return at;
-}
-
-// The desktop point that the map gives for a place on the screen.
-POINT OnDesktop(POINT at) {
-    RECT map = {};
-    GetClientRect(QuorlWindow(), &map);
-    ScreenToClient(QuorlWindow(), &at);
-    return {at.x * 4 * SCREEN_W / map.right, at.y * 2 * SCREEN_H / map.bottom};
-}
-
-void Button(DWORD flag) {
-    INPUT input = {};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flag;
-    SendInput(1, &input, sizeof input);
-}
-
-void HoldKeys(std::initializer_list<WORD> keys, DWORD flags) {
-    for (const WORD key : keys) {
-        INPUT input = {};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = key;
-        input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
-        input.ki.dwFlags = flags;
-        SendInput(1, &input, sizeof input);
-    }
-}
-
-void ClickHolding(std::initializer_list<WORD> keys, DWORD press, DWORD release) {
-    HoldKeys(keys, 0);
-    Click(press, release);
-    HoldKeys(keys, KEYEVENTF_KEYUP);
-}
-
-// Where a window is after the mouse has come to this place. A single move is lost now and then under Wine.
-Place AfterMoving(HWND window, POINT to) {
-    MoveMouse({to.x - 1, to.y});
-    MoveMouse(to);
-    return PlaceOf(window);
-}
-
 // The map a client area of this size: a whole number of desktop pixels to each of its own.
 void ResizeMap(HWND quorl, int width, int height) {
     RECT map = {};
@@ -145,13 +97,13 @@ TEST(MapMouse, TheLeftButtonDragsTheMapWithTheCursor) {
     POINT at = OnMap(2000, 700);
     MoveMouse(at);
     EXPECT_SOON(TipStrip() != nullptr, true);
-    Button(MOUSEEVENTF_LEFTDOWN);
+    PressButton(MOUSEEVENTF_LEFTDOWN);
     int moved = 0;
     for (const int step : {3, 150, 60}) {
         moved += step;
         EXPECT_SOON(AfterMoving(quorl, {at.x + moved, at.y + moved}), Moved(before, moved, moved));
     }
-    Button(MOUSEEVENTF_LEFTUP);
+    PressButton(MOUSEEVENTF_LEFTUP);
     MoveMouse({at.x + moved + 5, at.y + moved + 5});
     Sleep(200);
     EXPECT_EQ(PlaceOf(quorl), Moved(before, moved, moved)) << "the button is up";
@@ -164,12 +116,12 @@ TEST(MapMouse, ShiftControlAndLeftTakeHoldOfAWindowByItsBox) {
     Activate(other);
     const POINT at = OnMap(650, 500);
     MoveMouse(at);
-    Button(MOUSEEVENTF_LEFTDOWN);
+    PressButton(MOUSEEVENTF_LEFTDOWN);
     Sleep(200);
     HoldKeys({VK_LSHIFT, VK_LCONTROL}, 0);
     SendMouse(at.x + 1, at.y);
     EXPECT_SOON(GetForegroundWindow(), editor);
-    Button(MOUSEEVENTF_LEFTUP);
+    PressButton(MOUSEEVENTF_LEFTUP);
     HoldKeys({VK_LSHIFT, VK_LCONTROL}, KEYEVENTF_KEYUP);
 }
 
@@ -184,13 +136,13 @@ TEST(MapMouse, AWindowFollowsItsBoxAndTheMapStays) {
     const Place map = PlaceOf(quorl);
     const POINT at = OnMap(650, 500);
     MoveMouse(at);
-    Button(MOUSEEVENTF_LEFTDOWN);
+    PressButton(MOUSEEVENTF_LEFTDOWN);
     MoveMouse({at.x, at.y + 1});
     EXPECT_SOON(GetForegroundWindow(), editor);
     const Place before = AfterMoving(editor, {at.x, at.y + 1});
     EXPECT_SOON(AfterMoving(editor, {at.x + 10, at.y + 1}), Moved(before, 160, 0));
     EXPECT_SOON(AfterMoving(editor, {at.x + 10, at.y + 5}), Moved(before, 160, 64));
-    Button(MOUSEEVENTF_LEFTUP);
+    PressButton(MOUSEEVENTF_LEFTUP);
     EXPECT_EQ(PlaceOf(quorl), map);
 }
 

@@ -34,6 +34,29 @@ void MoveMouse(POINT to) {
     Sleep(60);
 }
 
+POINT MousePlace() {
+    POINT place = {};
+    GetCursorPos(&place);
+    return place;
+}
+
+// The move is sent unless placing the pointer was news enough.
+void PushMouseTo(POINT to) {
+    MoveMouse({SCREEN_W / 2, to.y});
+    SetCursorPos(to.x, to.y);
+    Sleep(60);
+    const POINT now = MousePlace();
+    if (now.x == to.x && now.y == to.y)
+        SendMouse(to.x, to.y);
+    Sleep(60);
+}
+
+Place AfterMoving(HWND window, POINT to) {
+    MoveMouse({to.x - 1, to.y});
+    MoveMouse(to);
+    return PlaceOf(window);
+}
+
 void SendMouse(LONG x, LONG y) {
     const auto scaled = [](LONG at, int size) { return (at * 65536 + 32768) / size; };
     Send(scaled(x, SCREEN_W), scaled(y, SCREEN_H), 0, MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
@@ -43,6 +66,42 @@ void Click(DWORD press, DWORD release) {
     const DWORD data = press == MOUSEEVENTF_WHEEL ? WHEEL_DELTA : 0;
     Send(0, 0, data, press);
     Send(0, 0, data, release);
+}
+
+void PressButton(DWORD flag) {
+    Send(0, 0, 0, flag);
+}
+
+void HoldKeys(std::initializer_list<WORD> keys, DWORD flags) {
+    for (const WORD key : keys) {
+        INPUT input = {};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+        input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
+        input.ki.dwFlags = flags;
+        SendInput(1, &input, sizeof input);
+    }
+}
+
+void ClickHolding(std::initializer_list<WORD> keys, DWORD press, DWORD release) {
+    HoldKeys(keys, 0);
+    Click(press, release);
+    HoldKeys(keys, KEYEVENTF_KEYUP);
+}
+
+POINT OnMap(LONG x, LONG y, LONG screensWide) {
+    RECT map = {};
+    GetClientRect(QuorlWindow(), &map);
+    POINT at = {x * map.right / (screensWide * SCREEN_W), y * map.bottom / (2 * SCREEN_H)};
+    ClientToScreen(QuorlWindow(), &at);
+    return at;
+}
+
+POINT OnDesktop(POINT at, LONG screensWide) {
+    RECT map = {};
+    GetClientRect(QuorlWindow(), &map);
+    ScreenToClient(QuorlWindow(), &at);
+    return {at.x * screensWide * SCREEN_W / map.right, at.y * 2 * SCREEN_H / map.bottom};
 }
 
 void StartShakingMouse(POINT around) {

@@ -38,6 +38,8 @@ make_prefix() {
     # Every program of this prefix comes up on one virtual desktop, without being told.
     "${ground[@]}" wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Quorl /f
     "${ground[@]}" wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Quorl /d 1024x768 /f
+    # Wine finds its symbols for the buttons of windows only here.
+    "${ground[@]}" ln -sf /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
     "${ground[@]}" wineserver -w
     "${ground[@]}" touch "$WINEPREFIX/ready"
 }

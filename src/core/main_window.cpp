@@ -77,7 +77,9 @@ struct MessageRow {
 
 } // namespace
 
-static const UINT DESKTOP_SIZE_MESSAGE = 1134; // open to other programs; a MINMAXINFO receives Quorl's size
+// Not for others: what is pointed to is written without a look, so it must be a MINMAXINFO of this process.
+// Nothing in Quorl sends it.
+static const UINT DESKTOP_SIZE_MESSAGE = 1134;
 
 static const MessageRow MainMessages[] = {
     {HOOK_MOUSE_MESSAGE,   OnMouseNews       }, // up to hundreds a second

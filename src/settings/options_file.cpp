@@ -28,8 +28,7 @@ static const int ALL_BITS = -1;
 static const int LOW_BYTE = 255;
 static const int MENU_READ_ROOM = 4048;
 static const int MENU_WRITE_ROOM = 2048;
-static const int ENTRY_ROOM = 12;       // of one number with its mark
-static const int LEAST_SEPARATOR = -99; // three characters, so that a full list has room on writing
+static const int ENTRY_ROOM = 12; // of one number with its mark
 
 static RECT StoredPlace; // of the Toolwin, in screen pixels
 
@@ -111,16 +110,20 @@ static void ReadMenu(LPCSTR file) {
         return;
     const int count = NumbersIn(text, MenuList, MAX_MENU_ENTRIES);
     for (int place = 0; place < count; ++place)
-        if (MenuList[place] >= NUM_ACTIONS || MenuList[place] < LEAST_SEPARATOR)
+        if (MenuList[place] >= NUM_ACTIONS)
             MenuList[place] = MENU_SEPARATOR;
 }
 
+// A full list fits, unless somebody wrote separators of many digits into the file. Then its end goes, and out
+// of the list too: a count without its entries would bring up others at the next start.
 static void WriteMenu(LPCSTR file) {
     char text[MENU_WRITE_ROOM] = "";
     int length = 0;
-    WriteKeys(file, MenuKeys);
-    for (int place = 0; place < quorl_menu_count && length < MENU_WRITE_ROOM - ENTRY_ROOM; ++place)
+    int place = 0;
+    for (; place < quorl_menu_count && length < MENU_WRITE_ROOM - ENTRY_ROOM; ++place)
         length += std::snprintf(text + length, ENTRY_ROOM + 1, place ? "|%d" : "%d", MenuList[place]);
+    quorl_menu_count = place;
+    WriteKeys(file, MenuKeys);
     WriteIniText(file, "quorl_menu", text);
 }
 

@@ -9,5 +9,6 @@
 // names no action becomes a separator. Always 1.
 int LoadOptions(HWND window, LPCSTR file);
 
-// Writes them, each as one call. Always 1: a failed write leaves what was stored.
+// Writes them, each as one call. Always 1: a failed write leaves what was stored. A menu too long for its
+// value loses its end, in the list as well.
 int SaveOptions(HWND window, LPCSTR file);

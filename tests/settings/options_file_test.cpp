@@ -121,11 +121,11 @@ TEST_F(OptionsFile, TheMenuTakesTheNumbersThatAreThere) {
         int count;
         std::vector<int> list; // from the front
     } const cases[] = {
-        {"quorl_menu=\nquorl_menu_count=3\n",        3,   {54, 55, 74, 77}     }, // empty: only the count
-        {"quorl_menu=1|-2|3\n",                      3,   {1, -2, 3, 77}       }, // the rest keeps what it held
-        {"quorl_menu=||7|| 8 |x\n",                  3,   {7, 8, 0, 77}        },
-        {"quorl_menu=5000|123|122|-2147483648|-7\n", 3,   {-1, -1, 122, -1, -7}}, // no action: a separator
-        {"quorl_menu_count=2147483647\n",            500, {-1, -1, 122}        },
+        {"quorl_menu=\nquorl_menu_count=3\n",        3,   {54, 55, 74, 77}          }, // empty: only the count
+        {"quorl_menu=1|-2|3\n",                      3,   {1, -2, 3, 77}            }, // the rest keeps what it held
+        {"quorl_menu=||7|| 8 |x\n",                  3,   {7, 8, 0, 77}             },
+        {"quorl_menu=5000|123|122|-2147483648|-7\n", 3,   {-1, -1, 122, INT_MIN, -7}}, // no action: a separator
+        {"quorl_menu_count=2147483647\n",            500, {-1, -1, 122}             },
     };
     for (const auto& given : cases) {
         StoreFile(given.lines);
@@ -135,15 +135,26 @@ TEST_F(OptionsFile, TheMenuTakesTheNumbersThatAreThere) {
     }
 }
 
-TEST_F(OptionsFile, AFullMenuSurvivesAndAnEmptyOneIsWrittenEmpty) {
+TEST_F(OptionsFile, AFullMenuSurvivesOneTooLongLosesItsEndAndAnEmptyOneIsWrittenEmpty) {
     StartQuorl();
-    std::string stored;
-    for (int place = 0; place < 700; ++place)
-        stored += "|-99";
-    StoreFile("quorl_menu_count=500\nquorl_menu=" + stored + "\n");
-    Command(48);
-    Command(47);
-    EXPECT_EQ(Stored("quorl_menu"), stored.substr(1, 500 * 4 - 1));
+    struct {
+        std::string entry;
+        int given, kept; // entries
+    } const cases[] = {
+        {"|-99",         700, 500},
+        {"|122",         500, 500},
+        {"|-2147483648", 300, 170},
+    };
+    for (const auto& given : cases) {
+        std::string stored;
+        for (int place = 0; place < given.given; ++place)
+            stored += given.entry;
+        StoreFile("quorl_menu_count=500\nquorl_menu=" + stored + "\n");
+        Command(48);
+        Command(47);
+        EXPECT_EQ(Stored("quorl_menu"), stored.substr(1, given.entry.size() * given.kept - 1));
+        EXPECT_EQ(Stored("quorl_menu_count"), std::to_string(given.kept));
+    }
 
     quorl_menu_count = 0;
     Command(47);

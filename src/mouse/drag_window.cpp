@@ -70,6 +70,8 @@ static void StartDrag(HWND target, int x, int y) {
     DragState = {
         1, target, {x, y}
     };
+    if (!IsAlive(target))
+        return; // it would not move either, and raising it could wait for as long as it hangs
     SetForegroundWindow(target);
     SetFocus(target);
     SetActiveWindow(target);

@@ -40,6 +40,18 @@ TEST_F(DragOnMap, TheWindowUnderTheCursorGetsTheFocusAndThenMovesAtTheMapsScale)
     EXPECT_EQ(VDesk, Rect(0, 0, 1024, 768)) << "the combination of the screens must not run as well";
 }
 
+TEST_F(DragOnMap, AHungWindowStaysWhereItIsAndInTheBackground) {
+    const HWND hung = OpenWindow("hung", {160, 160, 480, 320});
+    Start();
+    RowOf(hung).answer = DeskAnswer::Hung;
+    const HWND before = Desk.foreground;
+    Grab(15, 15);
+    MoveOnMap(16, 15);
+    MoveOnMap(18, 14);
+    EXPECT_EQ(PlaceOf(hung), Rect(160, 160, 480, 320));
+    EXPECT_EQ(Desk.foreground, before);
+}
+
 TEST_F(DragOnMap, ADragEndsOffTheBoxAndTakesHoldAnewWhenItComesBack) {
     const HWND editor = OpenWindow("editor", {160, 160, 480, 320});
     Start();

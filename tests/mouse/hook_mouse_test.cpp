@@ -311,9 +311,16 @@ TEST_F(FocusFollowsMouse, TheProgramUnderTheCursorIsNamedAndComesForward) {
     EXPECT_EQ(Desk.beeps.size(), 1u) << "it is there already";
 }
 
-TEST_F(FocusFollowsMouse, AWindowWithoutATitleIsLeftAlone) {
-    RowOf(editor).title.clear();
+TEST_F(FocusFollowsMouse, AWindowThatHangsOrHasNoTitleIsLeftAlone) {
     const HWND before = GetForegroundWindow();
+    const std::vector<HWND> order = Desk.order;
+    RowOf(editor).answer = DeskAnswer::Hung;
+    News(WM_MOUSEMOVE, MIDDLE);
+    EXPECT_EQ(GetForegroundWindow(), before);
+    EXPECT_EQ(Desk.order, order);
+    RowOf(editor).answer = DeskAnswer::Answers;
+    RowOf(editor).title.clear();
+    Desk.beeps.clear();
     News(WM_MOUSEMOVE, MIDDLE);
     EXPECT_EQ(GetForegroundWindow(), before);
     EXPECT_EQ(Desk.beeps.size(), 2u);

@@ -57,6 +57,14 @@ static ActionId BoundRow(int mods, int button) {
     return NO_ROW;
 }
 
+// Row 3 takes a y of -1 as a sign that x is a region's number. The mouse gets there too, a pixel above the
+// map, while the map has the capture; one pixel further up lies the same nothing.
+static ActionPoint* AsPlace(ActionPoint* point) {
+    if (point && point->y == -1)
+        --point->y;
+    return point;
+}
+
 // GetKeyState on purpose: it belongs to the message in hand, so a button reads as up in its own release,
 // however late the message is handled.
 int GetHeldFlags(DWORD mask) {
@@ -75,7 +83,7 @@ int MatchMouseAction(HWND window, DWORD kind, int flags, int button, ActionPoint
     if (row == NO_ROW)
         return 0;
     if (bDispatch)
-        DoAction(window, row, point);
+        DoAction(window, row, row == ROW_REGION ? AsPlace(point) : point);
     return row;
 }
 

@@ -2,6 +2,7 @@
 
 #include "actions/hotkeys.h"
 #include "core/state.h"
+#include "regions/region_table.h"
 #include "support/map_mouse.h"
 
 #include <algorithm>
@@ -180,10 +181,22 @@ TEST_F(MapButtons, ALookUpRunsNothingAndForgetsTheTip) {
     EXPECT_EQ(VDesk.left, 5);
 }
 
-TEST_F(MapButtons, APlaceOutsideTheMapHasItsSign) {
+TEST_F(MapButtons, APlaceOutsideTheMapHasItsSignAndIsNoRegionsNumber) {
     const ActionPoint point = PointOf(MAKELPARAM(-3, -20000));
     EXPECT_EQ(point.x, -3);
     EXPECT_EQ(point.y, -20000);
+
+    RegionTable[0] = {0, "far", 2048, 768, 3071, 1535, 0};
+    num_regions = 1;
+    Bind(ROW_REGION, KEY_CTRL, LBUTTON);
+    HoldKey(VK_LCONTROL, 1);
+    MoveOnMap(0, 0);
+    PressOnMap(VK_LBUTTON);
+    for (const int y : {-1, -2})
+        MoveOnMap(0, y);
+    EXPECT_EQ(VDesk.left, 0);
+    MoveOnMap(250, 80);
+    EXPECT_EQ(VDesk.left, 2048) << "it is a drag";
 }
 
 } // namespace

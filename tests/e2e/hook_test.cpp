@@ -44,6 +44,20 @@ std::vector<DWORD> OwnThreads() {
     return threads;
 }
 
+// The threads that are not among `before`, with leave to stop and to end them.
+std::vector<HANDLE> NewThreads(const std::vector<DWORD>& before) {
+    std::vector<HANDLE> threads;
+    for (const DWORD id : OwnThreads())
+        if (std::find(before.begin(), before.end(), id) == before.end())
+            threads.push_back(OpenThread(SYNCHRONIZE | THREAD_TERMINATE | THREAD_SUSPEND_RESUME, FALSE, id));
+    return threads;
+}
+
+// Another program's hook on our messages, which keeps what it sees to itself.
+LRESULT CALLBACK KeepToItself(int, WPARAM, LPARAM) {
+    return 0;
+}
+
 class HookLibrary : public testing::Test {
   protected:
     HMODULE library = nullptr;
@@ -77,6 +91,12 @@ class HookLibrary : public testing::Test {
         Pump();
         News.clear();
         Pressed = 0;
+    }
+
+    // Nothing but the program itself holds the library.
+    int GoesWithOneRelease() {
+        FreeLibrary(library);
+        return !GetModuleHandleA("quorl.dll");
     }
 
     template <typename Function>
@@ -114,7 +134,9 @@ TEST_F(HookLibrary, OneMoveWaitsForAWindowThatIsBusyAndEveryClickDoes) {
         Click(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
         SendMouse(TARGET.x, TARGET.y + i);
     }
-    Sleep(300);
+    Sleep(6300); // long enough to be called hung
+    SendMouse(TARGET.x, TARGET.y);
+    Sleep(100);
     EXPECT_EQ(CountOf(WM_MOUSEMOVE), 1);
     EXPECT_EQ(News.front(), static_cast<WPARAM>(WM_MOUSEMOVE)) << "the first news stays the first";
     for (const WPARAM message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONUP})
@@ -122,6 +144,35 @@ TEST_F(HookLibrary, OneMoveWaitsForAWindowThatIsBusyAndEveryClickDoes) {
     EXPECT_EQ(Pressed, 10) << "nothing is withheld";
     SendMouse(TARGET.x + 50, TARGET.y);
     EXPECT_SOON(CountOf(WM_MOUSEMOVE), 2);
+}
+
+TEST_F(HookLibrary, OneMoveWaitsHoweverOftenTheWatchingEndsAndBegins) {
+    for (int time = 0; time < 3; ++time) {
+        SetMouseHook(1);
+        SendMouse(TARGET.x + time, TARGET.y);
+        Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
+        Sleep(100);
+        SetMouseHook(0);
+    }
+    EXPECT_EQ(CountOf(WM_MOUSEMOVE), 1);
+    EXPECT_EQ(CountOf(WM_LBUTTONDOWN), 3);
+    EXPECT_EQ(CountOf(WM_LBUTTONUP), 3);
+}
+
+TEST_F(HookLibrary, AForeignHookThatHidesTheMessagesHoldsTheNewsUpOnce) {
+    SetMouseHook(1);
+    const HHOOK foreign = SetWindowsHookExA(WH_GETMESSAGE, KeepToItself, nullptr, GetCurrentThreadId());
+    SendMouse(TARGET.x + 1, TARGET.y);
+    EXPECT_SOON(CountOf(WM_MOUSEMOVE), 1);
+    for (int time = 0; time < 65; ++time) { // a program that is alive takes messages all the time
+        Sleep(100);
+        Pump();
+    }
+    for (int time = 2; time < 5; ++time) {
+        SendMouse(TARGET.x + time, TARGET.y);
+        EXPECT_SOON(CountOf(WM_MOUSEMOVE), time);
+    }
+    UnhookWindowsHookEx(foreign);
 }
 
 TEST_F(HookLibrary, AWheelThatTurnsTellsNothing) {
@@ -165,8 +216,7 @@ TEST_F(HookLibrary, LoadedTwiceItWatchesOnceAndGoesWithTheSecondRelease) {
     EXPECT_EQ(ToldOfAClick(1), 1);
     SetMouseHook(0);
     EXPECT_EQ(OwnThreads().size(), before) << "the thread has ended when the call is back";
-    FreeLibrary(library);
-    EXPECT_FALSE(GetModuleHandleA("quorl.dll"));
+    EXPECT_TRUE(GoesWithOneRelease());
 }
 
 TEST_F(HookLibrary, ComesAndGoesWhileTheMouseMoves) {
@@ -180,8 +230,7 @@ TEST_F(HookLibrary, ComesAndGoesWhileTheMouseMoves) {
             Sleep(5);
         Pump();
         SetMouseHook(0);
-        FreeLibrary(library);
-        EXPECT_FALSE(GetModuleHandleA("quorl.dll")) << i;
+        EXPECT_TRUE(GoesWithOneRelease()) << i;
     }
     StopShakingMouse();
     EXPECT_GT(CountOf(WM_MOUSEMOVE), 0);
@@ -207,26 +256,60 @@ TEST_F(HookLibrary, AWindowThatIsGoneEndsTheWatching) {
     EXPECT_SOON(OwnThreads().size(), before);
     SetMouseHook(1);
     EXPECT_EQ(OwnThreads().size(), before) << "there is no window to tell";
-    SetMouseHook(0);
     OpenTarget();
     SaveSharedData(window);
     SetMouseHook(1);
     EXPECT_EQ(ToldOfAClick(1), 1);
+    DestroyWindow(window);
+    SendMouse(TARGET.x, TARGET.y);
+    EXPECT_SOON(OwnThreads().size(), before);
+    SetMouseHook(0);
+    EXPECT_TRUE(GoesWithOneRelease());
 }
 
-TEST_F(HookLibrary, AThreadThatWasKilledIsReplaced) {
-    const std::vector<DWORD> before = OwnThreads();
+TEST_F(HookLibrary, AnotherWindowHasTheNewsFromTheMomentItIsNamed) {
     SetMouseHook(1);
-    for (const DWORD id : OwnThreads())
-        if (std::find(before.begin(), before.end(), id) == before.end()) {
-            const HANDLE watcher = OpenThread(THREAD_TERMINATE, FALSE, id);
+    const HWND other = CreateWindowExA(WS_EX_NOACTIVATE, "HookTarget", "", WS_POPUP, 0, 0, 10, 10, nullptr,
+                                       nullptr, nullptr, nullptr);
+    SaveSharedData(other);
+    DestroyWindow(window);
+    window = other;
+    EXPECT_EQ(ToldOfAClick(1), 1);
+    SaveSharedData(nullptr);
+    EXPECT_EQ(ToldOfAClick(0), 0);
+}
+
+TEST_F(HookLibrary, AThreadThatWasKilledIsReplacedAndHoldsNothing) {
+    const std::vector<DWORD> before = OwnThreads();
+    for (int time = 0; time < 2; ++time) {
+        SetMouseHook(1);
+        EXPECT_EQ(ToldOfAClick(1), 1);
+        for (const HANDLE watcher : NewThreads(before)) {
             EXPECT_TRUE(TerminateThread(watcher, 0));
             CloseHandle(watcher);
         }
-    EXPECT_SOON(OwnThreads().size(), before.size());
-    EXPECT_EQ(ToldOfAClick(0), 0);
+        EXPECT_SOON(OwnThreads().size(), before.size());
+        EXPECT_EQ(ToldOfAClick(0), 0);
+    }
+    SetMouseHook(0);
+    EXPECT_TRUE(GoesWithOneRelease());
+}
+
+TEST_F(HookLibrary, TheCodeOfAThreadThatEndsTooLateStaysUntilItHasEnded) {
+    const std::vector<DWORD> before = OwnThreads();
+    SetMouseHook(1);
+    const HANDLE watcher = NewThreads(before).at(0);
+    SuspendThread(watcher);
+    SetMouseHook(0);
+    EXPECT_FALSE(GoesWithOneRelease()) << "the thread is still in it";
+    ResumeThread(watcher);
+    EXPECT_EQ(WaitForSingleObject(watcher, 5000), WAIT_OBJECT_0);
+    CloseHandle(watcher);
+    Load();
     SetMouseHook(1);
     EXPECT_EQ(ToldOfAClick(1), 1);
+    SetMouseHook(0);
+    EXPECT_TRUE(GoesWithOneRelease());
 }
 
 TEST_F(HookLibrary, WithoutAWindowNothingIsWatched) {

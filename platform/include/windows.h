@@ -3,6 +3,7 @@
 
 #include "win/types.h"
 
+#include "win/dialogs.h"
 #include "win/drawing.h"
 #include "win/input.h"
 #include "win/menus.h"

@@ -4,6 +4,7 @@
 #include "actions/action_table.h"
 #include "core/main_window.h"
 #include "core/state.h"
+#include "dialogs/registry.h"
 #include "menus/tray.h"
 #include "toolwin/tip.h"
 
@@ -104,6 +105,8 @@ int RunMessageLoop() {
     while (const BOOL got = GetMessageA(&message, nullptr, 0, 0)) {
         if (got < 0)
             continue; // no message came; only the user ends Quorl, or windows would stay out of reach
+        if (IsOpenDialogMessage(&message))
+            continue;
         TranslateMessage(&message);
         DispatchMessageA(&message);
     }

@@ -12,6 +12,7 @@ struct PAINTSTRUCT {
 struct DRAWTEXTPARAMS;
 
 constexpr int COLOR_BACKGROUND = 1;
+constexpr int COLOR_BTNFACE = 15;
 constexpr int COLOR_INFOBK = 24;
 
 constexpr int TRANSPARENT = 1;
@@ -31,6 +32,14 @@ constexpr UINT DT_MODIFYSTRING = 0x10000;
 
 constexpr int FW_LIGHT = 300;
 
+constexpr UINT EDGE_RAISED = 5;
+constexpr UINT EDGE_SUNKEN = 10;
+constexpr UINT BF_RECT = 15;
+
+constexpr COLORREF RGB(int red, int green, int blue) {
+    return static_cast<COLORREF>(red | green << 8 | blue << 16);
+}
+
 BOOL WINAPI InvalidateRect(HWND window, const RECT* rect, BOOL erase);
 BOOL WINAPI UpdateWindow(HWND window);
 HDC WINAPI BeginPaint(HWND window, PAINTSTRUCT* paint);
@@ -38,6 +47,7 @@ BOOL WINAPI EndPaint(HWND window, const PAINTSTRUCT* paint);
 HDC WINAPI GetDC(HWND window);
 int WINAPI ReleaseDC(HWND window, HDC context);
 
+DWORD WINAPI GetSysColor(int index);
 HBRUSH WINAPI GetSysColorBrush(int index);
 HFONT WINAPI CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic,
                          DWORD underline, DWORD strikeOut, DWORD charSet, DWORD outPrecision,
@@ -55,5 +65,7 @@ int WINAPI SetROP2(HDC context, int mode);
 BOOL WINAPI MoveToEx(HDC context, int x, int y, POINT* before);
 BOOL WINAPI LineTo(HDC context, int x, int y);
 BOOL WINAPI Rectangle(HDC context, int left, int top, int right, int bottom);
+BOOL WINAPI DrawEdge(HDC context, RECT* rect, UINT edge, UINT flags);
+BOOL WINAPI Polygon(HDC context, const POINT* points, int count);
 BOOL WINAPI DrawFocusRect(HDC context, const RECT* rect);
 COLORREF WINAPI GetPixel(HDC context, int x, int y);

@@ -19,6 +19,21 @@ struct WNDCLASSA {
     LPCSTR lpszClassName;
 };
 
+struct WNDCLASSEXA {
+    UINT cbSize;
+    UINT style;
+    WNDPROC lpfnWndProc;
+    int cbClsExtra;
+    int cbWndExtra;
+    HINSTANCE hInstance;
+    HICON hIcon;
+    HCURSOR hCursor;
+    HBRUSH hbrBackground;
+    LPCSTR lpszMenuName;
+    LPCSTR lpszClassName;
+    HICON hIconSm;
+};
+
 struct MINMAXINFO {
     POINT ptReserved;
     POINT ptMaxSize;
@@ -30,6 +45,7 @@ struct MINMAXINFO {
 constexpr UINT CS_VREDRAW = 1;
 constexpr UINT CS_HREDRAW = 2;
 constexpr UINT CS_DBLCLKS = 8;
+constexpr UINT CS_OWNDC = 32;
 
 constexpr DWORD WS_THICKFRAME = 0x00040000;
 constexpr DWORD WS_BORDER = 0x00800000;
@@ -57,8 +73,10 @@ constexpr int SW_RESTORE = 9;
 
 constexpr int GWLP_HINSTANCE = -6;
 constexpr int GWLP_HWNDPARENT = -8;
+constexpr int GWLP_ID = -12;
 constexpr int GWL_STYLE = -16;
 constexpr int GWL_EXSTYLE = -20;
+constexpr int GWLP_USERDATA = -21;
 constexpr int GCLP_HBRBACKGROUND = -10;
 
 constexpr DWORD LWA_ALPHA = 2;
@@ -74,6 +92,8 @@ constexpr UINT MDITILE_HORIZONTAL = 1;
 inline const HWND HWND_BROADCAST = reinterpret_cast<HWND>(static_cast<UINT_PTR>(0xffff));
 
 ATOM WINAPI RegisterClassA(const WNDCLASSA* description);
+ATOM WINAPI RegisterClassExA(const WNDCLASSEXA* description);
+BOOL WINAPI GetClassInfoExA(HINSTANCE instance, LPCSTR name, WNDCLASSEXA* description);
 HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, int x, int y,
                             int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
                             LPVOID parameter);
@@ -86,6 +106,7 @@ HWND WINAPI GetParent(HWND window);
 int WINAPI GetClassNameA(HWND window, LPSTR text, int limit);
 int WINAPI GetWindowTextA(HWND window, LPSTR text, int limit);
 LONG_PTR WINAPI GetWindowLongPtrA(HWND window, int index);
+LONG_PTR WINAPI SetWindowLongPtrA(HWND window, int index, LONG_PTR value);
 ULONG_PTR WINAPI GetClassLongPtrA(HWND window, int index);
 
 BOOL WINAPI GetWindowRect(HWND window, RECT* rect);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 DeskState Desk;
 
@@ -59,22 +60,39 @@ DeskWindow* Named(HWND window) {
     return row;
 }
 
+HWND NewWindow(DeskWindow row) {
+    const HWND handle = HandleAt(Desk.windows.size());
+    row.handle = handle;
+    const int bChild = (row.style & WS_CHILD) != 0;
+    std::vector<HWND>& others = bChild ? RowOf(row.owner).children : Desk.order;
+    Desk.windows.push_back(std::move(row));
+    others.push_back(handle);
+    if (!bChild)
+        Raise(handle);
+    return handle;
+}
+
 HWND OpenWindow(const char* title, const RECT& place, const char* className) {
     DeskWindow window;
-    window.handle = HandleAt(Desk.windows.size());
     window.className = className;
     window.title = title;
     window.place = place;
     window.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
-    Desk.windows.push_back(window);
-    Desk.order.push_back(window.handle);
-    Raise(window.handle);
-    return window.handle;
+    return NewWindow(std::move(window));
+}
+
+static void TakeFromOthers(HWND window) {
+    std::erase(Desk.order, window);
+    if (DeskWindow* parent = Living(RowOf(window).owner))
+        std::erase(parent->children, window);
 }
 
 void KillWindow(HWND window) {
+    const std::vector<HWND> children = RowOf(window).children;
+    for (const HWND child : children)
+        KillWindow(child);
+    TakeFromOthers(window);
     RowOf(window).handle = nullptr;
-    std::erase(Desk.order, window);
     for (HWND* held : {&Desk.foreground, &Desk.focus, &Desk.capture})
         if (*held == window)
             *held = nullptr;

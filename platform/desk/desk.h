@@ -7,6 +7,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,27 @@ struct DeskMessage {
     RECT record; // what lParam pointed to, for WM_MOVING
 };
 
+// A row of a list box or a drop-down list, a tab, a column of a list view.
+struct DeskRow {
+    std::string text;
+    LPARAM data = 0; // of a column: its width in pixels
+};
+
+// What a control keeps; each kind uses its own few.
+struct DeskControl {
+    int bChecked = 0;            // button
+    HANDLE image = nullptr;      // button, as BM_SETIMAGE gave it
+    std::vector<DeskRow> rows;   // list box, drop-down list, tab control
+    std::size_t room = SIZE_MAX; // rows that it takes: none fits in after them
+    int chosen = -1;             // row that is selected, tab that is shown
+    int count = 0;               // list view: rows, which it only counts
+    int mark = -1;               // list view: row that was clicked last
+    std::vector<DeskRow> columns;
+    std::vector<int> redrawn;                // list view: rows that were asked for anew
+    DWORD extendedStyle = 0;                 // list view
+    int least = 0, most = 100, position = 0; // trackbar
+};
+
 struct DeskWindow {
     HWND handle = nullptr; // null: the window is gone
     std::string className;
@@ -33,12 +55,18 @@ struct DeskWindow {
     RECT place{}; // screen pixels
     DWORD style = 0;
     DWORD exStyle = 0;
-    HWND owner = nullptr;
+    HWND owner = nullptr; // of a child: its parent
     HINSTANCE instance = nullptr;
     WNDPROC procedure = nullptr; // null: a window of another program
     RECT restored{};             // place before it was minimized or maximized
     int bMaximizeAgain = 0;      // it was maximized when it was minimized
     int alpha = -1;              // as SetLayeredWindowAttributes set it; -1: never
+    std::vector<HWND> children;  // in the order of their creation
+    LONG_PTR id = 0;             // of a child
+    LONG_PTR userData = 0;
+    DLGPROC dialog = nullptr;   // of a dialog
+    HWND focusInside = nullptr; // of a dialog: the control that has the focus whenever it is active
+    DeskControl control;        // of a control
 
     // Windows of other programs only:
     DeskAnswer answer = DeskAnswer::Answers;
@@ -132,12 +160,13 @@ struct DeskStroke {
     RECT rect; // LineTo: from left, top up to right, bottom
     std::string text;
     HGDIOBJ font;
-    UINT format;
+    UINT format;   // DrawEdge: the edge, with its flags in the second byte
     DeskPen pen{}; // what was selected at that moment
     HGDIOBJ brush = nullptr;
     COLORREF fill = 0; // of the brush
     int rop = R2_COPYPEN;
     RECT clip{};
+    std::vector<POINT> points; // Polygon
 };
 
 // What TileWindows was given.
@@ -145,6 +174,13 @@ struct DeskTiling {
     UINT how;
     RECT rect;
     std::vector<HWND> windows;
+};
+
+struct DeskColorBox {
+    HWND owner;
+    COLORREF initial;
+    DWORD flags;
+    std::vector<COLORREF> custom; // the 16 beside the palette
 };
 
 struct DeskMenuItem {
@@ -215,6 +251,11 @@ struct DeskState {
 
     std::deque<int> answers; // to the boxes that will come
     std::vector<DeskBox> boxes;
+    std::deque<std::optional<COLORREF>> colorAnswers; // to the colour dialogs that will come; none cancels
+    std::vector<DeskColorBox> colorBoxes;
+    std::map<int, COLORREF> systemColors{
+        {COLOR_BACKGROUND, 0xa56e3a}
+    }; // all others are grey
     int surprises = 0; // boxes and menus that nobody answers, and calls that would have blocked for ever
     std::deque<UINT> choices; // from the menus that will come, by id; 0 closes the menu
     std::deque<DeskMenu> menus;
@@ -273,3 +314,24 @@ int CallsOf(const char* call);
 // Drawing objects and contexts that nobody has deleted or released; those of the system do not count.
 int LiveObjects();
 int LiveContexts();
+
+// The control of a dialog by its number, without counting as a call; null if there is none.
+HWND ControlOf(HWND dialog, int id);
+
+// What a user does with controls. Nothing happens to one that is hidden or disabled.
+//
+// Clicks a button: it takes the focus, changes its check mark by itself if it is of that kind, and tells.
+void ClickControl(HWND button);
+// Goes to a control; the one that is left tells that.
+void GoToControl(HWND control);
+// Goes to an edit box and replaces its text; digits only where it takes no others.
+void TypeInto(HWND edit, const char* text);
+// Clicks a row, from 0, of a list box, a drop-down list or a list view, or a tab.
+void ChooseRow(HWND control, int row);
+// Drags the slider of a trackbar to a position.
+void DragSlider(HWND trackbar, int position);
+// Presses and releases a key, which goes to whatever has the focus. VK_ values.
+void PressKey(int key);
+
+// What the user reads in a row and a column of a list view, both from 0.
+std::string TextInList(HWND listView, int row, int column);

@@ -28,7 +28,7 @@ BOOL UpdateWindow(HWND window) {
     const DeskWindow* row = Fails("UpdateWindow") ? nullptr : Named(window);
     if (!row)
         return FALSE;
-    if (row->bInvalid && (row->style & WS_VISIBLE))
+    if (row->bInvalid && IsInSight(window))
         CallProcedure(window, WM_PAINT, 0, 0);
     return TRUE;
 }
@@ -101,13 +101,25 @@ BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) {
     return !Fails("EndPaint") && Named(window) && Release(paint->hdc);
 }
 
+HDC OpenContext(const DeskWindow& window) {
+    return ContextFor(window.handle, ClientArea(window));
+}
+
 HDC GetDC(HWND window) {
     const DeskWindow* row = Fails("GetDC") ? nullptr : Named(window);
-    return row ? ContextFor(window, ClientArea(*row)) : nullptr;
+    return row ? OpenContext(*row) : nullptr;
 }
 
 int ReleaseDC(HWND, HDC context) {
     return !Fails("ReleaseDC") && Release(context);
+}
+
+DWORD GetSysColor(int index) {
+    constexpr COLORREF grey = 0xc0c0c0;
+    if (Fails("GetSysColor"))
+        return 0;
+    const auto found = Desk.systemColors.find(index);
+    return found == Desk.systemColors.end() ? grey : found->second;
 }
 
 HBRUSH GetSysColorBrush(int index) {
@@ -242,7 +254,8 @@ int DrawTextExA(HDC context, LPSTR text, int length, RECT* rect, UINT format, DR
         return 0;
     const std::string asked(text, static_cast<std::size_t>(length));
     if (Desk.bTrace)
-        Desk.strokes.push_back({"DrawTextExA", on->window, *rect, asked, on->font, format});
+        Desk.strokes.push_back(
+            {"DrawTextExA", on->window, *rect, asked, on->font, format, {}, nullptr, 0, R2_COPYPEN, {}, {}});
     const std::string drawn = Shortened(asked, *rect, format);
     if (format & DT_MODIFYSTRING && drawn != asked)
         std::memcpy(text, drawn.c_str(), drawn.size() + 1);

@@ -1,5 +1,5 @@
 // Which window has the foreground and the focus, and the order from top to bottom.
-#include "ground.h"
+#include "controls.h"
 
 #include <algorithm>
 
@@ -21,11 +21,47 @@ void Raise(HWND window) {
     Desk.order.insert(place, window);
 }
 
+HWND RootOf(HWND window) {
+    while (RowOf(window).style & WS_CHILD)
+        window = RowOf(window).owner;
+    return window;
+}
+
+void MoveFocus(HWND to) {
+    const HWND from = Desk.focus;
+    if (from == to)
+        return;
+    Desk.focus = to;
+    if (to)
+        RowOf(RootOf(to)).focusInside = to;
+    CallProcedure(from, WM_KILLFOCUS, reinterpret_cast<WPARAM>(to), 0);
+    if (Desk.focus == to)
+        CallProcedure(to, WM_SETFOCUS, reinterpret_cast<WPARAM>(from), 0);
+}
+
+// A dialog hands the focus on to one of its controls.
+static HWND FocusIn(HWND window) {
+    if (!IsOwn(window))
+        return nullptr;
+    const DeskWindow& row = RowOf(window);
+    if (!row.dialog)
+        return window;
+    const HWND inside = Living(row.focusInside) ? row.focusInside : NextTabStop(window, nullptr, 0);
+    return inside ? inside : window;
+}
+
 // The focus goes with it when it is a window of this process.
 void Activate(HWND window) {
     Raise(window);
     Desk.foreground = window;
-    Desk.focus = IsOwn(window) ? window : nullptr;
+    MoveFocus(FocusIn(window));
+}
+
+void GoTo(HWND window) {
+    const HWND root = RootOf(window);
+    if (Desk.foreground != root)
+        Activate(root);
+    MoveFocus(window);
 }
 
 HWND GetForegroundWindow() {
@@ -40,15 +76,13 @@ BOOL SetForegroundWindow(HWND window) {
     return TRUE;
 }
 
-// Only a window of the calling thread takes the focus, and becomes active unless it is a child.
+// Only a window of the calling thread takes the focus; it, or what it stands in, becomes active.
 HWND SetFocus(HWND window) {
     const DeskWindow* row = Fails("SetFocus") ? nullptr : Named(window);
     if (!row || !row->procedure)
         return nullptr;
     const HWND before = Desk.focus;
-    if (!(row->style & WS_CHILD))
-        Activate(window);
-    Desk.focus = window;
+    GoTo(window);
     return before;
 }
 

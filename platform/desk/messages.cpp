@@ -99,7 +99,7 @@ static int TakeQuit(MSG* message) {
 
 static int TakePaint(MSG* message) {
     for (const DeskWindow& window : Desk.windows)
-        if (window.handle && window.procedure && window.bInvalid && (window.style & WS_VISIBLE)) {
+        if (window.handle && window.procedure && window.bInvalid && IsInSight(window.handle)) {
             *message = {window.handle, WM_PAINT, 0, 0, Desk.now, Desk.cursor};
             return 1;
         }
@@ -157,30 +157,37 @@ BOOL TranslateMessage(const MSG*) {
     return FALSE;
 }
 
-LRESULT DispatchMessageA(const MSG* message) {
-    if (Fails("DispatchMessageA"))
-        return 0;
-    if (message->message == WM_TIMER && message->lParam) {
-        const auto callback = reinterpret_cast<TIMERPROC>(message->lParam);
-        callback(message->hwnd, WM_TIMER, message->wParam, Desk.now);
+LRESULT Dispatch(const MSG& message) {
+    if (message.message == WM_TIMER && message.lParam) {
+        const auto callback = reinterpret_cast<TIMERPROC>(message.lParam);
+        callback(message.hwnd, WM_TIMER, message.wParam, Desk.now);
         return 0;
     }
-    return CallProcedure(message->hwnd, message->message, message->wParam, message->lParam);
+    return CallProcedure(message.hwnd, message.message, message.wParam, message.lParam);
 }
 
-LRESULT DefWindowProcA(HWND window, UINT message, WPARAM, LPARAM) {
-    if (Fails("DefWindowProcA"))
+LRESULT DispatchMessageA(const MSG* message) {
+    return Fails("DispatchMessageA") ? 0 : Dispatch(*message);
+}
+
+LRESULT DefaultAnswer(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    DeskWindow* row = Living(window);
+    if (!row)
         return 0;
     switch (message) {
     case WM_NCCREATE:
     case WM_ERASEBKGND: return 1;
-    case WM_CLOSE: DestroyWindow(window); return 0;
-    case WM_PAINT:
-        if (DeskWindow* row = Living(window))
-            row->bInvalid = row->bErase = 0;
-        return 0;
+    case WM_CLOSE: EndWindow(window); return 0;
+    case WM_PAINT: row->bInvalid = row->bErase = 0; return 0;
+    case WM_SETTEXT: row->title = reinterpret_cast<LPCSTR>(lParam); return TRUE;
+    case WM_GETTEXT: return CopyText(row->title, reinterpret_cast<LPSTR>(lParam), static_cast<int>(wParam));
+    case WM_GETTEXTLENGTH: return static_cast<LRESULT>(row->title.size());
     default: return 0;
     }
+}
+
+LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return Fails("DefWindowProcA") ? 0 : DefaultAnswer(window, message, wParam, lParam);
 }
 
 UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC callback) {

@@ -1,6 +1,6 @@
 // The user's mouse. What it does waits as hardware input and becomes a message of the window under the
 // cursor, or of the one with the capture, when a thread asks for its next message.
-#include "ground.h"
+#include "controls.h"
 
 #include <cstring>
 
@@ -40,7 +40,8 @@ void PressMouse(int button, int bDown) {
 
 POINT OnScreen(HWND window, int x, int y) {
     const DeskWindow& row = RowOf(window);
-    return {row.place.left + FrameWidth(row) + x, row.place.top + FrameWidth(row) + y};
+    const RECT frame = FrameOf(row);
+    return {row.place.left + frame.left + x, row.place.top + frame.top + y};
 }
 
 static int Holds(const RECT& rect, POINT point) {
@@ -63,9 +64,23 @@ static HWND WindowUnder(POINT point) {
 
 // A frame is no client area: what happens on it is another message, which nobody here reads.
 static int IsOnClient(const DeskWindow& window, POINT point) {
-    const int frame = FrameWidth(window);
+    const RECT frame = FrameOf(window);
     const RECT& place = window.place;
-    return Holds({place.left + frame, place.top + frame, place.right - frame, place.bottom - frame}, point);
+    return Holds({place.left + frame.left, place.top + frame.top, place.right - frame.right,
+                  place.bottom - frame.bottom},
+                 point);
+}
+
+// The child that takes the mouse at this point: a disabled one leaves it to what it stands in, and so does
+// one that only shows something.
+static const DeskWindow* Innermost(const DeskWindow& window, POINT point) {
+    for (const HWND handle : window.children) {
+        const DeskWindow& child = RowOf(handle);
+        if ((child.style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE && Holds(child.place, point) &&
+            !IsSeenThrough(child))
+            return Innermost(child, point);
+    }
+    return &window;
 }
 
 // Null: the input is not for this thread.
@@ -73,7 +88,8 @@ static const DeskWindow* ReceiverOf(const DeskInput& input) {
     if (Desk.capture)
         return Living(Desk.capture);
     const DeskWindow* window = Living(WindowUnder(input.at));
-    return window && window->procedure && IsOnClient(*window, input.at) ? window : nullptr;
+    return window && window->procedure && IsOnClient(*window, input.at) ? Innermost(*window, input.at)
+                                                                        : nullptr;
 }
 
 static WPARAM HeldIn(const BYTE (&keys)[256]) {

@@ -10,17 +10,21 @@ BOOL GetWindowRect(HWND window, RECT* rect) {
     return row != nullptr;
 }
 
-// A sizing frame is 4 pixels wide, a thin border 1.
-int FrameWidth(const DeskWindow& window) {
+// A sizing frame is 4 pixels wide, that of a dialog 3, a thin border 1. A title bar takes 19 more on top.
+RECT FrameOf(const DeskWindow& window) {
+    const int bTitle = (window.style & WS_CAPTION) == WS_CAPTION;
+    LONG width = window.style & WS_BORDER ? 1 : 0;
+    if (bTitle)
+        width = 3;
     if (window.style & WS_THICKFRAME)
-        return 4;
-    return window.style & WS_BORDER ? 1 : 0;
+        width = 4;
+    return {width, bTitle ? width + 19 : width, width, width};
 }
 
 RECT ClientArea(const DeskWindow& window) {
-    const LONG frames = 2 * FrameWidth(window);
-    return {0, 0, std::max(0, window.place.right - window.place.left - frames),
-            std::max(0, window.place.bottom - window.place.top - frames)};
+    const RECT frame = FrameOf(window);
+    return {0, 0, std::max(0, window.place.right - window.place.left - frame.left - frame.right),
+            std::max(0, window.place.bottom - window.place.top - frame.top - frame.bottom)};
 }
 
 BOOL GetClientRect(HWND window, RECT* rect) {
@@ -42,7 +46,7 @@ static RECT WholeScreen() {
 // What the system allows a window that does not say otherwise: room for its title bar, and the whole screen
 // with the frame outside.
 static MINMAXINFO UsualLimits(const DeskWindow& window) {
-    const LONG frames = 2 * FrameWidth(window);
+    const LONG frames = 2 * FrameOf(window).left;
     const RECT screen = WholeScreen();
     MINMAXINFO limits{};
     limits.ptMaxTrackSize = {screen.right - screen.left + frames, screen.bottom - screen.top + frames};
@@ -80,10 +84,18 @@ void TellSize(HWND window) {
     CallProcedure(window, WM_SIZE, 0, MAKELPARAM(client.right, client.bottom));
 }
 
+// What the place of a window counts from, in screen pixels: a child's from its parent's client area.
+static POINT OriginOf(const DeskWindow& window) {
+    return window.style & WS_CHILD ? OnScreen(window.owner, 0, 0) : POINT{0, 0};
+}
+
 void TellPlace(HWND window) {
     POINT origin{};
-    if (Living(window))
-        origin = OnScreen(window, 0, 0);
+    if (const DeskWindow* row = Living(window)) {
+        const POINT corner = OnScreen(window, 0, 0);
+        const POINT from = OriginOf(*row);
+        origin = {corner.x - from.x, corner.y - from.y};
+    }
     CallProcedure(window, WM_MOVE, 0, MAKELPARAM(origin.x, origin.y));
 }
 
@@ -93,6 +105,16 @@ static int IsOnScreen(const RECT& place) {
            place.bottom <= screen.bottom;
 }
 
+// What stands in a window moves with it.
+static void Shift(const DeskWindow& window, LONG dx, LONG dy) {
+    for (const HWND handle : window.children) {
+        DeskWindow& child = RowOf(handle);
+        RECT& place = child.place;
+        place = {place.left + dx, place.top + dy, place.right + dx, place.bottom + dy};
+        Shift(child, dx, dy);
+    }
+}
+
 // The picture moves with its window: it is painted again when its size is new or some of it was off the
 // screen.
 BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint) {
@@ -100,9 +122,11 @@ BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint) 
     if (!row)
         return FALSE;
     const RECT before = row->place;
-    row->place = {x, y, x + width, y + height};
+    const POINT from = OriginOf(*row);
+    row->place = {from.x + x, from.y + y, from.x + x + width, from.y + y + height};
     ApplyLimits(*row);
     const RECT now = row->place;
+    Shift(*row, now.left - before.left, now.top - before.top);
     const bool bResized = now.right - now.left != before.right - before.left ||
                           now.bottom - now.top != before.bottom - before.top;
     if (repaint && (bResized || !IsOnScreen(before)))
@@ -153,6 +177,27 @@ static void PassForeground(HWND from) {
     Desk.foreground = next == Desk.order.end() ? nullptr : *next;
 }
 
+void Hide(DeskWindow& window) {
+    window.style &= ~WS_VISIBLE;
+    PassForeground(window.handle);
+}
+
+int IsInSight(HWND window) {
+    const DeskWindow* row = Living(window);
+    while (row && (row->style & WS_VISIBLE) && (row->style & WS_CHILD))
+        row = Living(row->owner);
+    return row && (row->style & WS_VISIBLE);
+}
+
+// A child neither becomes active nor takes a place among the windows of the desktop.
+static void ShowChild(DeskWindow& child, int bVisible) {
+    child.style = bVisible ? child.style | WS_VISIBLE : child.style & ~WS_VISIBLE;
+    if (bVisible)
+        Invalidate(child, nullptr, 1);
+    else if (Desk.focus == child.handle)
+        MoveFocus(child.owner);
+}
+
 static void ChangeState(DeskWindow& window, int command) {
     switch (command) {
     case SW_MINIMIZE: Minimize(window); break;
@@ -173,9 +218,12 @@ BOOL ShowWindow(HWND window, int command) {
     if (!row)
         return FALSE;
     const BOOL wasVisible = (row->style & WS_VISIBLE) != 0;
+    if (row->style & WS_CHILD) {
+        ShowChild(*row, command != SW_HIDE);
+        return wasVisible;
+    }
     if (command == SW_HIDE) {
-        row->style &= ~WS_VISIBLE;
-        PassForeground(window);
+        Hide(*row);
         return wasVisible;
     }
     ChangeState(*row, command);
@@ -190,8 +238,7 @@ BOOL ShowWindow(HWND window, int command) {
 }
 
 BOOL IsWindowVisible(HWND window) {
-    const DeskWindow* row = Fails("IsWindowVisible") ? nullptr : Named(window);
-    return row && (row->style & WS_VISIBLE);
+    return !Fails("IsWindowVisible") && Named(window) && IsInSight(window);
 }
 
 BOOL IsIconic(HWND window) {
@@ -215,6 +262,26 @@ HWND WindowFromPoint(POINT point) {
         if ((RowOf(handle).style & WS_VISIBLE) && Contains(RowOf(handle).place, point))
             return handle;
     return nullptr;
+}
+
+// Hidden and disabled ones, too; the parent itself where no child is.
+HWND ChildWindowFromPoint(HWND parent, POINT point) {
+    const DeskWindow* row = Fails("ChildWindowFromPoint") ? nullptr : Named(parent);
+    if (!row || !Contains(ClientArea(*row), point))
+        return nullptr;
+    const POINT at = OnScreen(parent, point.x, point.y);
+    for (const HWND child : row->children)
+        if (Contains(RowOf(child).place, at))
+            return child;
+    return parent;
+}
+
+BOOL ScreenToClient(HWND window, POINT* point) {
+    if (Fails("ScreenToClient") || !Named(window))
+        return FALSE;
+    const POINT origin = OnScreen(window, 0, 0);
+    *point = {point->x - origin.x, point->y - origin.y};
+    return TRUE;
 }
 
 BOOL IntersectRect(RECT* shared, const RECT* a, const RECT* b) {

@@ -9,7 +9,7 @@ void Record(const DeskContext& on, const char* what, const RECT& rect) {
     const auto& pen = *static_cast<const DeskObject*>(on.pen);
     const auto& brush = *static_cast<const DeskObject*>(on.brush);
     Desk.strokes.push_back(
-        {what, on.window, rect, "", nullptr, 0, pen.pen, on.brush, brush.color, on.rop, on.clip});
+        {what, on.window, rect, "", nullptr, 0, pen.pen, on.brush, brush.color, on.rop, on.clip, {}});
 }
 
 int SetROP2(HDC context, int mode) {
@@ -45,6 +45,27 @@ BOOL Rectangle(HDC context, int left, int top, int right, int bottom) {
     if (on)
         Record(*on, "Rectangle", {left, top, right, bottom});
     return on != nullptr;
+}
+
+// An edge or a polygon is only remembered: no pixel of it is ever asked for.
+BOOL DrawEdge(HDC context, RECT* rect, UINT edge, UINT flags) {
+    const DeskContext* on = Fails("DrawEdge") ? nullptr : ContextOf(context);
+    if (!on)
+        return FALSE;
+    Record(*on, "DrawEdge", *rect);
+    if (Desk.bTrace)
+        Desk.strokes.back().format = edge | flags << 8;
+    return TRUE;
+}
+
+BOOL Polygon(HDC context, const POINT* points, int count) {
+    const DeskContext* on = Fails("Polygon") ? nullptr : ContextOf(context);
+    if (!on)
+        return FALSE;
+    Record(*on, "Polygon", {});
+    if (Desk.bTrace)
+        Desk.strokes.back().points.assign(points, points + count);
+    return TRUE;
 }
 
 BOOL DrawFocusRect(HDC context, const RECT* rect) {

@@ -6,6 +6,7 @@
 void WINAPI InitCommonControls();
 
 constexpr UINT LVM_FIRST = 0x1000;
+constexpr UINT LVM_GETITEMCOUNT = LVM_FIRST + 4;
 constexpr UINT LVM_DELETEALLITEMS = LVM_FIRST + 9;
 constexpr UINT LVM_INSERTITEMA = LVM_FIRST + 7;
 constexpr UINT LVM_SCROLL = LVM_FIRST + 20;

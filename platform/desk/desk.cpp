@@ -60,10 +60,13 @@ DeskWindow* Named(HWND window) {
     return row;
 }
 
+// What a topmost window owns is topmost with it.
 HWND NewWindow(DeskWindow row) {
     const HWND handle = HandleAt(Desk.windows.size());
     row.handle = handle;
     const int bChild = (row.style & WS_CHILD) != 0;
+    const DeskWindow* owner = bChild ? nullptr : Living(row.owner);
+    row.exStyle |= owner ? owner->exStyle & WS_EX_TOPMOST : 0;
     std::vector<HWND>& others = bChild ? RowOf(row.owner).children : Desk.order;
     Desk.windows.push_back(std::move(row));
     others.push_back(handle);

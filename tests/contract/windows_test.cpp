@@ -129,6 +129,15 @@ TEST_F(Windows, EnumerationGoesFromTheTopAndTellsHiddenOnesToo) {
     EXPECT_TRUE(Order({GetDesktopWindow()}).empty());
 }
 
+TEST_F(Windows, WhatATopmostWindowOwnsIsTopmostWithIt) {
+    const HWND owner = OpenOwn({40, 40, 80, 80}, WS_POPUP | WS_VISIBLE, WS_EX_TOPMOST);
+    const HWND owned = CreateWindowExA(0, "Contract", "owned", WS_POPUP | WS_VISIBLE, 50, 50, 20, 20, owner,
+                                       nullptr, Instance(), nullptr);
+    EXPECT_TRUE(GetWindowLongPtrA(owned, GWL_EXSTYLE) & WS_EX_TOPMOST);
+    EXPECT_EQ(Order({owner, owned}), (std::vector{owned, owner}));
+    DestroyWindow(owned);
+}
+
 static BOOL CALLBACK CountTwo(HWND, LPARAM count) {
     return ++*reinterpret_cast<int*>(count) < 2;
 }

@@ -6,6 +6,7 @@
 #include "actions/program_rows.h"
 #include "actions/toolwin_rows.h"
 #include "actions/view_rows.h"
+#include "dialogs/dialog_rows.h"
 #include "menus/action_menu.h"
 #include "regions/region_rows.h"
 #include "scroll/desktop_size.h"
@@ -75,8 +76,13 @@ static constexpr ActionHandlerRow ActionHandlers[] = {
     {45,  SizeToolwin,        0},
     {47,  OnSaveSettings,     0},
     {48,  OnLoadSettings,     0},
+    {49,  OpenDialogOfRow,    0},
     {50,  UnmarkRegion,       0},
     {51,  UnmarkAllRegions,   0},
+    {52,  OpenDialogOfRow,    0},
+    {53,  OpenDialogOfRow,    0},
+    {56,  OpenDialogOfRow,    0},
+    {57,  OpenDialogOfRow,    0},
     {58,  ToggleValue,        0},
     {59,  Quit,               0},
     {60,  ChangeDesktopSize,  ADD_RIGHT},
@@ -124,8 +130,10 @@ static constexpr ActionHandlerRow ActionHandlers[] = {
     {106, MoveActive,         TO_TOP},
     {107, MoveActive,         TO_BOTTOM},
     {108, StartScreenSaver,   0},
+    {111, OpenDialogOfRow,    0},
     {114, ToggleValue,        0},
     {115, ToggleValue,        0},
+    {116, OpenDialogOfRow,    0},
     {117, GoToNeighbour,      SWEEP_RIGHT},
     {118, GoToNeighbour,      SWEEP_LEFT},
     {119, GoToNeighbour,      SWEEP_UP},

@@ -39,6 +39,13 @@ int FindRegionAt(int x, int y, char* name, int* index, RECT* rect) {
     return 1;
 }
 
+int RegionAtCorner(int left, int top) {
+    int row = 0;
+    while (row < num_regions && (RegionTable[row].left != left || RegionTable[row].top != top))
+        ++row;
+    return row;
+}
+
 int RegisterRegionKeys(HWND window) {
     for (int row = 0; row < MAX_REGIONS; ++row)
         UnregisterHotKey(window, FIRST_REGION_ID + row);
@@ -52,17 +59,9 @@ int RegisterRegionKeys(HWND window) {
     return bAll;
 }
 
-// The first row in use with exactly this corner; past them if there is none.
-static int RowAtCorner(int left, int top) {
-    int row = 0;
-    while (row < num_regions && (RegionTable[row].left != left || RegionTable[row].top != top))
-        ++row;
-    return row;
-}
-
 // The rows in use stay contiguous; the last of them takes what lies behind it, where the table goes on.
 static int RemoveAtCorner(int left, int top) {
-    const int row = RowAtCorner(left, top);
+    const int row = RegionAtCorner(left, top);
     if (row >= num_regions)
         return 0;
     const int end = std::min(num_regions + 1, MAX_REGIONS);

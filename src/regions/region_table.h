@@ -23,6 +23,9 @@ extern int num_regions;
 // (a longer name is cut), `index` receives the row. 1 if found, else 0.
 int FindRegionAt(int x, int y, char* name, int* index, RECT* rect);
 
+// The first row in use whose corner is exactly this desktop point; num_regions if there is none.
+int RegionAtCorner(int left, int top);
+
 // Releases the hotkeys of all 200 rows and registers Ctrl+Alt+Shift and the first digit of its index for each
 // row in use, on `window`. Only rows 0 to 9 can get one: each other row costs a beep. 1 if none was refused.
 int RegisterRegionKeys(HWND window);

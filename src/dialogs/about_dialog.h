@@ -1,0 +1,7 @@
+// The dialog that says what this program is.
+#pragma once
+
+#include "core/platform.h"
+
+// For template 107.
+INT_PTR CALLBACK AboutDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);

@@ -1,0 +1,96 @@
+// The dialogs that find a window or a region by its name; choosing a row of the list acts at once.
+#include "dialogs/find_dialogs.h"
+
+#include "core/foreground.h"
+#include "dialogs/registry.h"
+#include "regions/region_table.h"
+#include "scroll/follow.h"
+#include "scroll/scroll_view.h"
+#include "scroll/shift.h"
+#include "scroll/window_table.h"
+
+static const int ID_LIST = 1041;
+static const int FROM_DIALOG = 0; // to ScrollView: no row of the action table asked
+
+static void AddRow(HWND listBox, const char* text, LPARAM data) {
+    const LRESULT index = SendMessageA(listBox, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+    if (index >= 0)
+        SendMessageA(listBox, LB_SETITEMDATA, static_cast<WPARAM>(index), data);
+}
+
+BOOL CALLBACK AddWindowToList(HWND window, LPARAM listBox) {
+    if (!IsManagedWindow(window))
+        return TRUE;
+    char title[256] = "";
+    GetWindowTextA(window, title, sizeof title);
+    AddRow(reinterpret_cast<HWND>(listBox), title, reinterpret_cast<LPARAM>(window));
+    return TRUE;
+}
+
+LRESULT SelectedData(HWND dialog, int listBox) {
+    const LRESULT row = SendDlgItemMessageA(dialog, listBox, LB_GETCURSEL, 0, 0);
+    if (row < 0)
+        return LB_ERR;
+    return SendDlgItemMessageA(dialog, listBox, LB_GETITEMDATA, static_cast<WPARAM>(row), 0);
+}
+
+static void OnInitWindows(HWND dialog) {
+    EnumWindows(AddWindowToList, reinterpret_cast<LPARAM>(GetDlgItem(dialog, ID_LIST)));
+    ShowWindow(dialog, SW_SHOW);
+    DialogHandles[KEYS_FIND_WINDOW] = dialog;
+}
+
+// The foreground would stay with the dialog if the window could not take it, and the view would come to that.
+static void GoToWindow(HWND window) {
+    if (!IsAlive(window))
+        return;
+    GiveForeground(window);
+    CenterOnActiveWindow(window);
+}
+
+static void OnSelectWindow(HWND dialog) {
+    const LRESULT data = SelectedData(dialog, ID_LIST);
+    if (data && data != LB_ERR)
+        GoToWindow(reinterpret_cast<HWND>(data));
+}
+
+static void OnInitRegions(HWND dialog) {
+    ShowWindow(dialog, SW_SHOW);
+    SetWindowTextA(dialog, "Find Region...");
+    DialogHandles[KEYS_FIND_REGION] = dialog;
+    for (int row = 0; row < num_regions; ++row)
+        AddRow(GetDlgItem(dialog, ID_LIST), RegionTable[row].name, row);
+}
+
+// A region that has been unmarked meanwhile leads to what its row holds now, as its hotkey does.
+static void OnSelectRegion(HWND dialog) {
+    const LRESULT row = SelectedData(dialog, ID_LIST);
+    if (row != LB_ERR)
+        ScrollView(dialog, RegionTable[row].left, RegionTable[row].top, SV_ABSOLUTE, FROM_DIALOG);
+}
+
+// What the two have in common, but for what choosing a row does.
+static void OnCommand(HWND dialog, WPARAM command, void (*OnSelect)(HWND)) {
+    if (LOWORD(command) == IDOK)
+        CloseDialog(dialog, DIALOG_FIND, 0);
+    else if (LOWORD(command) == ID_LIST && HIWORD(command) == LBN_SELCHANGE)
+        OnSelect(dialog);
+}
+
+INT_PTR CALLBACK FindWindowDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+    switch (message) {
+    case WM_INITDIALOG: OnInitWindows(dialog); return 1;
+    case WM_COMMAND: OnCommand(dialog, wParam, OnSelectWindow); break;
+    default: break;
+    }
+    return 0;
+}
+
+INT_PTR CALLBACK FindRegionDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+    switch (message) {
+    case WM_INITDIALOG: OnInitRegions(dialog); return 1;
+    case WM_COMMAND: OnCommand(dialog, wParam, OnSelectRegion); break;
+    default: break;
+    }
+    return 0;
+}

@@ -1,0 +1,43 @@
+// The dialog that sets the opacity of the Toolwin, live.
+#include "dialogs/transparency_dialog.h"
+
+#include "core/state.h"
+#include "dialogs/registry.h"
+
+static const int ID_SLIDER = 1079;
+static const int LEAST_ALPHA = 10; // below it the user would lose sight of the Toolwin
+static const int MOST_ALPHA = 255;
+
+static void OnInit(HWND dialog) {
+    if (!pSetLayeredWindowAttributes) {
+        MessageBoxA(dialog, "Transparency cannot be done on this OS.", "Blame Microsoft!", MB_OK);
+        return;
+    }
+    SendDlgItemMessageA(dialog, ID_SLIDER, TBM_SETRANGE, TRUE, MAKELPARAM(LEAST_ALPHA, MOST_ALPHA));
+    SendDlgItemMessageA(dialog, ID_SLIDER, TBM_SETPOS, TRUE, static_cast<BYTE>(Options.alpha));
+    ShowWindow(dialog, SW_SHOW);
+}
+
+static void ApplySlider(HWND dialog) {
+    const LRESULT alpha = SendDlgItemMessageA(dialog, ID_SLIDER, TBM_GETPOS, 0, 0);
+    Options.alpha = static_cast<DWORD>(alpha);
+    if (pSetLayeredWindowAttributes)
+        pSetLayeredWindowAttributes(MainWnd, 0, static_cast<BYTE>(alpha), LWA_ALPHA);
+}
+
+static void OnCommand(HWND dialog, int id) {
+    if (id != IDOK)
+        return;
+    ApplySlider(dialog);
+    CloseDialog(dialog, DIALOG_TRANSPARENCY, 0);
+}
+
+INT_PTR CALLBACK TransparencyDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+    switch (message) {
+    case WM_INITDIALOG: OnInit(dialog); break;
+    case WM_HSCROLL: ApplySlider(dialog); break;
+    case WM_COMMAND: OnCommand(dialog, LOWORD(wParam)); break;
+    default: break;
+    }
+    return 0;
+}

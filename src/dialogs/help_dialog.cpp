@@ -24,10 +24,12 @@ static void Place(HWND control, const RECT& place) {
     MoveWindow(control, place.left, place.top, place.right - place.left, place.bottom - place.top, TRUE);
 }
 
+// OK has the focus: the text would come up selected with it.
 static void OnInit(HWND dialog) {
     SetDlgItemTextA(dialog, ID_TEXT, HELP_TEXT);
     ShowWindow(dialog, SW_SHOW);
     DialogHandles[KEYS_HELP] = dialog;
+    SetFocus(GetDlgItem(dialog, IDOK));
 }
 
 static void OnSize(HWND dialog, int width, int height) {
@@ -43,7 +45,7 @@ static void OnSize(HWND dialog, int width, int height) {
 
 INT_PTR CALLBACK HelpDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    case WM_INITDIALOG: OnInit(dialog); return 1;
+    case WM_INITDIALOG: OnInit(dialog); break;
     case WM_GETMINMAXINFO: reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {400, 200}; break;
     case WM_SIZE: OnSize(dialog, LOWORD(lParam), HIWORD(lParam)); break;
     case WM_COMMAND:

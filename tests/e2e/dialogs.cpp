@@ -29,6 +29,17 @@ POINT MiddleOf(HWND window) {
     return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
 }
 
+// From another program rows come as UTF-16 whichever way they are asked for.
+std::string RowText(HWND list, WPARAM row) {
+    wchar_t wide[1024] = L"";
+    char text[1024] = "";
+    DWORD_PTR length = 0;
+    SendMessageTimeoutW(list, LB_GETTEXT, row, reinterpret_cast<LPARAM>(wide), SMTO_NORMAL, PATIENCE,
+                        &length);
+    WideCharToMultiByte(CP_ACP, 0, wide, -1, text, sizeof text, nullptr, nullptr);
+    return text;
+}
+
 } // namespace
 
 HWND OpenByRow(int row, const char* title) {
@@ -101,9 +112,7 @@ std::vector<std::string> ListTexts(HWND list) {
     const LRESULT rows = Ask(list, LB_GETCOUNT);
     std::vector<std::string> texts;
     for (LRESULT row = 0; row < rows; ++row) {
-        char text[1024] = "";
-        Ask(list, LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text));
-        texts.emplace_back(text);
+        texts.push_back(RowText(list, static_cast<WPARAM>(row)));
     }
     return texts;
 }

@@ -6,7 +6,6 @@
 #include "regions/region_table.h"
 #include "scroll/follow.h"
 #include "scroll/scroll_view.h"
-#include "scroll/shift.h"
 #include "scroll/window_table.h"
 
 static const int ID_LIST = 1041;
@@ -40,12 +39,11 @@ static void OnInitWindows(HWND dialog) {
     DialogHandles[KEYS_FIND_WINDOW] = dialog;
 }
 
-// The foreground would stay with the dialog if the window could not take it, and the view would come to that.
+// If the window could not take the foreground, that would stay with the dialog, and the view would come to
+// it.
 static void GoToWindow(HWND window) {
-    if (!IsAlive(window))
-        return;
-    GiveForeground(window);
-    CenterOnActiveWindow(window);
+    if (GiveForeground(window))
+        CenterOnActiveWindow(window);
 }
 
 static void OnSelectWindow(HWND dialog) {

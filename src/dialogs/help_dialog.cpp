@@ -8,7 +8,7 @@ static const int MARGIN = 10; // pixels, round both controls and between them
 
 static const char* const HELP_TEXT =
     "Help inside the program is still to come.\r\n"
-    "HTML documentation comes in the program's archive: open the page in its folder help.\r\n"
+    "HTML documentation comes in the program's archive: start with index.html in its help folder.\r\n"
     "There is no web site yet; the archive holds all that there is to read.";
 
 HelpLayout LayOutHelp(int width, int height, int buttonWidth, int buttonHeight) {

@@ -52,6 +52,7 @@ static const std::map<std::string, DWORD> Styles = {
     {"SS_BITMAP",            14                },
     {"SS_CENTER",            1                 },
     {"SS_LEFT",              0                 },
+    {"SS_LEFTNOWORDWRAP",    12                },
     {"SS_NOPREFIX",          0x80              },
     {"SS_RIGHT",             2                 },
     {"TBS_HORZ",             0                 },
@@ -176,13 +177,13 @@ static DeskUnits NextPlace(Script& script) {
     return {x, y, width, NextNumber(script)};
 }
 
-// The styles of the window at the end of the line are the ones that may be left out.
+// A control is in sight unless its line says NOT WS_VISIBLE. Its extended styles may be left out.
 static ControlTemplate NextControl(Script& script) {
     ControlTemplate control{};
     control.text = NextText(script);
     control.id = NextNumber(script);
     control.className = NextText(script);
-    control.style = NextStyles(script, WS_CHILD);
+    control.style = NextStyles(script, WS_CHILD | WS_VISIBLE);
     control.place = NextPlace(script);
     if (Peek(script).starts_with("WS_EX_"))
         control.exStyle = NextStyles(script, 0);

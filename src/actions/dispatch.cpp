@@ -81,6 +81,7 @@ static constexpr ActionHandlerRow ActionHandlers[] = {
     {51,  UnmarkAllRegions,   0},
     {52,  OpenDialogOfRow,    0},
     {53,  OpenDialogOfRow,    0},
+    {54,  OpenOptions,        0},
     {56,  OpenDialogOfRow,    0},
     {57,  OpenDialogOfRow,    0},
     {58,  ToggleValue,        0},

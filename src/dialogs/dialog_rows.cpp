@@ -4,6 +4,7 @@
 #include "dialogs/about_dialog.h"
 #include "dialogs/find_dialogs.h"
 #include "dialogs/help_dialog.h"
+#include "dialogs/options_dialog.h"
 #include "dialogs/registry.h"
 #include "dialogs/resize_windows_dialog.h"
 #include "dialogs/transparency_dialog.h"
@@ -34,4 +35,8 @@ int OpenDialogOfRow(const ActionCall& call) {
         if (opens.row == call.row)
             return OpenDialog(call.window, opens.resource_id, opens.procedure);
     return 0;
+}
+
+int OpenOptions(const ActionCall& call) {
+    return OpenOptionsDialog(call.window);
 }

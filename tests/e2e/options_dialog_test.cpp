@@ -1,0 +1,192 @@
+// The Options dialog by real keys and the real mouse; what it did is seen in windows and in the settings
+// file.
+#include "dialogs.h"
+#include "mouse.h"
+#include "settings_file.h"
+
+#include <algorithm>
+
+namespace {
+
+const int HEIGHT = 1000;
+const int WIDTH = 1001;
+const int DELAY_TIME = 1003;
+const int MAX_SCROLL = 1007;
+const int MOUSE_SCROLL = 1009;
+const int BY_MIN = 1074;
+const int AFTER_TIME = 1078;
+const int HEIGHT_SPINNER = 54321;
+const int WIDTH_SPINNER = 54322;
+
+HWND OpenOptions() {
+    return OpenByRow(54, "Options...");
+}
+
+// The number of the control that has the keyboard; 0: none of the dialog's.
+int Focused(HWND dialog) {
+    GUITHREADINFO state = {};
+    state.cbSize = sizeof state;
+    GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &state);
+    return state.hwndFocus && GetParent(state.hwndFocus) == dialog ? GetDlgCtrlID(state.hwndFocus) : 0;
+}
+
+// By its row; the last line is written last.
+void Save() {
+    DoRow(47);
+    EXPECT_SOON(Stored("Action122"), std::string("-1|-1|-1|-1|1"));
+}
+
+void Button(DWORD flag) {
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flag;
+    SendInput(1, &input, sizeof input);
+}
+
+// Holds a place of the spinner for a while.
+void Hold(HWND spinner, POINT at, DWORD milliseconds) {
+    ClientToScreen(spinner, &at);
+    MoveMouse(at);
+    Button(MOUSEEVENTF_LEFTDOWN);
+    Sleep(milliseconds);
+    Button(MOUSEEVENTF_LEFTUP);
+}
+
+const POINT UP = {7, 5};
+const POINT DOWN = {7, 16};
+
+} // namespace
+
+TEST(OptionsDialog, ItsSpinnersStepTheDesktopByScreensAndNothingChangesUntilOk) {
+    ASSERT_TRUE(StartQuorl());
+    const HWND options = OpenOptions();
+    ASSERT_TRUE(options);
+    const Place edit = PlaceOf(Control(options, HEIGHT));
+    const HWND height = Control(options, HEIGHT_SPINNER);
+    EXPECT_EQ(PlaceOf(height), (Place{edit.right, edit.top, edit.right + 15, edit.top + 21}));
+    EXPECT_EQ(ControlText(options, HEIGHT), "1536");
+    EXPECT_EQ(ControlText(options, WIDTH), "4096");
+
+    PressAt(height, UP);
+    EXPECT_EQ(ControlText(options, HEIGHT), "2304");
+    PressAt(height, DOWN);
+    PressAt(height, DOWN);
+    EXPECT_EQ(ControlText(options, HEIGHT), "768");
+    Hold(Control(options, WIDTH_SPINNER), UP, 1100);
+    const std::string held = ControlText(options, WIDTH);
+    EXPECT_GE(std::stoi(held), 6 * SCREEN_W) << "a held button repeats";
+    Sleep(600);
+    EXPECT_EQ(ControlText(options, WIDTH), held) << "a button let go does not";
+    EXPECT_EQ(Focused(options), HEIGHT) << "the keyboard stays in the edit box";
+
+    PressKeys({VK_ESCAPE});
+    EXPECT_TRUE(WaitForEnd(options));
+    Save();
+    EXPECT_EQ(Stored("Quorl.right"), "4096");
+    EXPECT_EQ(Stored("Quorl.bottom"), "1536");
+}
+
+TEST(OptionsDialog, NumbersTypedAreHeldInTheirLimitsAndTakenOverByEnter) {
+    ASSERT_TRUE(StartQuorl());
+    const HWND options = OpenOptions();
+    ASSERT_TRUE(options);
+    TypeOver(Control(options, HEIGHT), "40000");
+    PressKeys({VK_TAB});
+    EXPECT_SOON(ControlText(options, HEIGHT), std::string("32000"));
+    PressAt(Control(options, HEIGHT_SPINNER), UP);
+    EXPECT_EQ(ControlText(options, HEIGHT), "32000") << "there is no room for another screen";
+    TypeOver(Control(options, HEIGHT), "2000");
+    TypeOver(Control(options, MAX_SCROLL), "55");
+    TypeOver(Control(options, 1002), "99");
+    OpenOptions(); // raises what is open
+    EXPECT_EQ(ControlText(options, MAX_SCROLL), "55");
+
+    PressKeys({VK_RETURN});
+    EXPECT_TRUE(WaitForEnd(options));
+    Save();
+    EXPECT_EQ(Stored("Quorl.bottom"), "2000");
+    EXPECT_EQ(Stored("maxscroll"), "55");
+    EXPECT_EQ(Stored("border"), "11");
+    const HWND again = OpenOptions();
+    ASSERT_TRUE(again);
+    EXPECT_EQ(ControlText(again, HEIGHT), "2000");
+    EXPECT_EQ(ControlText(again, 1002), "10");
+    PressAt(Control(again, HEIGHT_SPINNER), UP);
+    EXPECT_EQ(ControlText(again, HEIGHT), "2304") << "two whole screens, and one more";
+}
+
+TEST(OptionsDialog, TabGoesThroughItDownTheColumnsAndThenThroughTheGroups) {
+    ASSERT_TRUE(StartQuorl());
+    const HWND options = OpenOptions();
+    ASSERT_TRUE(options);
+    for (const int control : {1000, 1001, 1002, 1007, 1008, 1009, 1, 2, 3, 1064, 1076, 1079}) {
+        EXPECT_SOON(Focused(options), control);
+        PressKeys({VK_TAB});
+    }
+    EXPECT_SOON(Focused(options), HEIGHT) << "the time is off, so round again";
+    PressKeys({VK_SHIFT, VK_TAB});
+    EXPECT_SOON(Focused(options), 1079);
+    PressKeys({VK_UP}); // round the group, over the one that is hidden
+    EXPECT_SOON(Focused(options), AFTER_TIME);
+    EXPECT_SOON(IsOn(options, DELAY_TIME), true);
+    PressKeys({VK_TAB});
+    EXPECT_SOON(Focused(options), DELAY_TIME);
+}
+
+TEST(OptionsDialog, TheWayOfAnEdgeScrollIsChosenByTheMouse) {
+    ASSERT_TRUE(StartQuorl());
+    const HWND options = OpenOptions();
+    ASSERT_TRUE(options);
+    EXPECT_TRUE(IsChecked(options, 1076) && IsChecked(options, 1079));
+    for (const int hidden : {1022, 1023, 1024, 1025, 1077, 1082})
+        EXPECT_FALSE(IsShown(options, hidden)) << hidden;
+    EXPECT_FALSE(IsOn(options, DELAY_TIME));
+    Press(Control(options, AFTER_TIME));
+    EXPECT_TRUE(IsOn(options, DELAY_TIME));
+    Press(Control(options, 1080));
+    EXPECT_FALSE(IsOn(options, DELAY_TIME));
+    Press(Control(options, AFTER_TIME));
+    TypeOver(Control(options, DELAY_TIME), "250");
+    Press(Control(options, BY_MIN));
+    Press(Control(options, 1));
+    EXPECT_TRUE(WaitForEnd(options));
+    Save();
+    EXPECT_EQ(Stored("mousescroll_type"), "0");
+    EXPECT_EQ(Stored("mousescroll_delay"), "3");
+    EXPECT_EQ(Stored("mousescroll_delay_time"), "250");
+}
+
+TEST(OptionsDialog, ASmallerDesktopFoldsItsWindowsBackOntoTheScreen) {
+    ASSERT_TRUE(StartQuorl());
+    const HWND editor = OpenWindow("editor", {1500, 900, 1800, 1100});
+    const HWND options = OpenOptions();
+    ASSERT_TRUE(options);
+    Press(Control(options, 1));
+    EXPECT_TRUE(WaitForEnd(options));
+    EXPECT_EQ(PlaceOf(editor), (Place{1500, 900, 1800, 1100})) << "the same size folds nothing";
+
+    const HWND again = OpenOptions();
+    ASSERT_TRUE(again);
+    PressAt(Control(again, WIDTH_SPINNER), DOWN);
+    Press(Control(again, 1));
+    EXPECT_TRUE(WaitForEnd(again));
+    EXPECT_SOON(PlaceOf(editor), (Place{476, 132, 776, 332}));
+}
+
+TEST(OptionsDialog, WithoutTheHookLibraryItsMouseOptionsAreOffAndStay) {
+    const std::string alone = ProgramFolder() + "\\alone";
+    CreateDirectoryA(alone.c_str(), nullptr);
+    ASSERT_TRUE(CopyFileA((ProgramFolder() + "\\quorl.exe").c_str(), (alone + "\\quorl.exe").c_str(), FALSE));
+    Store("mousescroll_delay", "3");
+    ASSERT_TRUE(StartQuorl(alone));
+    const HWND options = OpenOptions();
+    ASSERT_TRUE(options);
+    for (const int control : {MOUSE_SCROLL, 1073, 1074, 1075, 1076, 1078, 1079, 1080, 1082, DELAY_TIME})
+        EXPECT_FALSE(IsOn(options, control) || IsChecked(options, control)) << control;
+    EXPECT_EQ(ControlText(options, DELAY_TIME), "");
+    Press(Control(options, 1));
+    EXPECT_TRUE(WaitForEnd(options));
+    Save();
+    EXPECT_EQ(Stored("mousescroll_delay"), "3");
+    EXPECT_EQ(Stored("mousescroll_delay_time"), "100");
+}

@@ -20,7 +20,6 @@ constexpr DWORD ES_READONLY = 0x800;
 constexpr DWORD ES_NUMBER = 0x2000;
 constexpr DWORD LBS_NOTIFY = 1;
 constexpr DWORD LBS_SORT = 2;
-constexpr DWORD WS_TABSTOP = 0x00010000;
 constexpr DWORD WS_GROUP = 0x00020000;
 
 // Messages and news that only the system and its controls exchange.

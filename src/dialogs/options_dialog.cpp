@@ -105,11 +105,20 @@ static OptionNumbers NumbersShown(HWND dialog) {
     return shown;
 }
 
-// A value that no radio stands for checks none.
+// Clearing a radio takes it out of the way of Tab.
+static void KeepTabStop(HWND dialog, int radio) {
+    const HWND control = GetDlgItem(dialog, radio);
+    SetWindowLongPtrA(control, GWL_STYLE, GetWindowLongPtrA(control, GWL_STYLE) | WS_TABSTOP);
+}
+
+// A value that no radio stands for checks none. Then, and when a hidden one is checked, Tab finds the first.
 template <std::size_t count>
 static void CheckRadio(HWND dialog, const int (&radios)[count], int value) {
-    if (value >= 0 && value < static_cast<int>(count))
-        CheckDlgButton(dialog, radios[value], BST_CHECKED);
+    const int radio = value >= 0 && value < static_cast<int>(count) ? radios[value] : 0;
+    if (radio)
+        CheckDlgButton(dialog, radio, BST_CHECKED);
+    if (!radio || radio == AFTER_RIGHT_CLICK)
+        KeepTabStop(dialog, radios[0]);
 }
 
 // With none checked the value stays.
@@ -248,7 +257,7 @@ static void OnEnableDelayTime(HWND dialog, int bEnabled) {
 
 namespace {
 
-struct CommandRow {
+struct OptionsCommand {
     int id, code;
     void (*does)(HWND dialog, int with);
     int with;
@@ -258,7 +267,7 @@ struct CommandRow {
 
 static const int ANY_CODE = -1;
 
-static const CommandRow Commands[] = {
+static const OptionsCommand Commands[] = {
     {IDOK,              ANY_CODE,     OnAccept,          0 },
     {IDCANCEL,          ANY_CODE,     OnCancel,          0 },
     {HEIGHT_EDIT,       EN_KILLFOCUS, OnLimitHeight,     0 },
@@ -274,7 +283,7 @@ static const CommandRow Commands[] = {
 };
 
 static void OnOptionsCommand(HWND dialog, int id, int code) {
-    for (const CommandRow& row : Commands)
+    for (const OptionsCommand& row : Commands)
         if (row.id == id && (row.code == ANY_CODE || row.code == code)) {
             row.does(dialog, row.with);
             return;

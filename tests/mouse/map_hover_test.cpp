@@ -59,15 +59,6 @@ TEST_F(MapHover, TheTipTellsTheWindowElseTheRegionElseThePlace) {
     EXPECT_NE(TipWnd, nullptr);
 }
 
-TEST_F(MapHover, WithTipsOffNothingIsToldAndTheLastTipIsForgotten) {
-    Start();
-    MoveOnMap(10, 10);
-    ASSERT_NE(TipWnd, nullptr);
-    ActionTable[ROW_TOOLTIP].value = 0;
-    EXPECT_EQ(TipAt(200, 80), "Quorl: 160, 160") << "still the text from before";
-    EXPECT_EQ(TipWnd, nullptr);
-}
-
 TEST_F(MapHover, TheLeftButtonDragsTheToolwinAndItKeepsItsOffsetToTheCursor) {
     Start();
     const RECT before = PlaceOf(MainWnd);

@@ -94,16 +94,4 @@ TEST_F(RegionRows, APointOfTheMapJumpsToTheRegionUnderItAndNowhereWhereThereIsNo
     EXPECT_TRUE(IsView(2048, 768));
 }
 
-TEST_F(RegionRows, TheRegionAtTheViewsCornerIsUnmarked) {
-    Mark(0, 0);
-    Mark(5, 0);
-    Command(50);
-    EXPECT_EQ(num_regions, 1);
-    Command(50);
-    EXPECT_EQ(num_regions, 1) << "the view stands in the other region, but not at its corner";
-    Command(5);
-    Command(50);
-    EXPECT_EQ(num_regions, 0);
-}
-
 } // namespace

@@ -91,7 +91,7 @@ TEST_F(Regions, OnlyAViewExactlyAtACornerUnmarksAndLaterRowsMoveUp) {
     Mark("b", 0, 0);
     Mark("c", 0, 0);
     Mark("d", 9, 9);
-    EXPECT_EQ(RemoveRegion(MainWnd, -50), 1);
+    Command(50);
     EXPECT_EQ(NamesOfRegions(), "acd") << "the first of two at the same corner";
     EXPECT_EQ(RemoveRegion(MainWnd, 2), 1);
     EXPECT_EQ(NamesOfRegions(), "ac");

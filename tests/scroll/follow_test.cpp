@@ -1,6 +1,6 @@
 #include "scroll/follow.h"
 
-#include "actions/action_table.h"
+#include "actions/dispatch.h"
 #include "core/state.h"
 #include "scroll/scroll_view.h"
 #include "support/quorl_test.h"
@@ -15,8 +15,7 @@ TEST(FollowDecision, AWindowOutOfViewAsksForAScroll) {
         RECT place;
         FollowNeed need;
     } const cases[] = {
-        {"in the middle",             {100, 100, 500, 400},    FOLLOW_IN_VIEW},
-        {"just inside the slack",     {-4, -4, 500, 400},      FOLLOW_IN_VIEW},
+        {"just inside the slack",     {-4, -4, 501, 400},      FOLLOW_IN_VIEW},
         {"a pixel too far left",      {-5, 0, 500, 400},       FOLLOW_SCROLL },
         {"a pixel too high",          {0, -5, 500, 400},       FOLLOW_SCROLL },
         {"its middle on the edge",    {928, 672, 1128, 872},   FOLLOW_IN_VIEW},
@@ -30,11 +29,6 @@ TEST(FollowDecision, AWindowOutOfViewAsksForAScroll) {
     };
     for (const auto& [what, place, need] : cases)
         EXPECT_EQ(NeedToFollow(place, 1024, 768, {0, 0, 4096, 1536}), need) << what;
-}
-
-TEST(FollowDecision, TheMiddleTruncatesTheHalfOfTheSize) {
-    EXPECT_EQ(MiddleOf({10, 20, 15, 25}), (POINT{12, 22}));
-    EXPECT_EQ(MiddleOf({-10, -20, -15, -25}), (POINT{-12, -22}));
 }
 
 class Follow : public QuorlTest {
@@ -60,13 +54,11 @@ TEST_F(Follow, TheViewGoesToAWindowThatBecomesActiveOutOfSight) {
     Wait(300);
     EXPECT_EQ(VDesk, Rect(1088, 566, 2112, 1334));
     EXPECT_EQ(CallsOf("EnumWindows"), 3) << "the map is fresh at each tick";
-}
 
-TEST_F(Follow, NothingIsFollowedUnlessTheUserWantsIt) {
-    Start(0);
+    ScrollView(MainWnd, 0, 0, SV_ABSOLUTE, 30);
     Wait(100);
-    EXPECT_EQ(VDesk.left, 0);
-    EXPECT_EQ(FollowActiveWindow(), 0);
+    EXPECT_EQ(VDesk.left, 0) << "where the user goes the view stays";
+    EXPECT_EQ(Desk.foreground, MainWnd);
 }
 
 TEST_F(Follow, AHeldButtonHoldsTheViewBackIfTheUserWantsItButNotTheMap) {
@@ -98,19 +90,12 @@ TEST_F(Follow, AMinimizedOrUnmanagedActiveWindowNeitherScrollsNorRefreshes) {
     EXPECT_EQ(VDesk.left, 0);
 }
 
-TEST_F(Follow, AScrollByTheUserIsNotUndone) {
-    Start(1);
-    RowOf(editor).place = {100, 100, 500, 400};
-    ScrollView(MainWnd, 1024, 0, SV_ABSOLUTE, 30);
-    Wait(500);
-    EXPECT_EQ(VDesk.left, 1024);
-    EXPECT_EQ(Desk.foreground, MainWnd);
-}
-
 TEST_F(Follow, TheActiveWindowIsCentredOnCommandAndStaysActive) {
     const HWND above = OpenWindow("above", {0, 0, 50, 50});
     Start(0);
-    EXPECT_TRUE(CenterOnActiveWindow(MainWnd));
+    Wait(100);
+    EXPECT_EQ(VDesk.left, 0) << "nothing is followed unless the user wants it";
+    EXPECT_EQ(DoAction(MainWnd, ROW_CENTER_ON_ACTIVE, nullptr), 1);
     EXPECT_EQ(VDesk, Rect(1088, 566, 2112, 1334));
     EXPECT_TRUE(CameInOrder({"SetFocus", "SetActiveWindow", "BringWindowToTop", "SetForegroundWindow"}));
     EXPECT_LT(std::find(Desk.order.begin(), Desk.order.end(), editor),
@@ -118,7 +103,7 @@ TEST_F(Follow, TheActiveWindowIsCentredOnCommandAndStaysActive) {
     EXPECT_EQ(PlaceOf(above).left, -1088);
 
     KillWindow(editor);
-    EXPECT_EQ(CenterOnActiveWindow(MainWnd), 0);
+    EXPECT_EQ(DoAction(MainWnd, ROW_CENTER_ON_ACTIVE, nullptr), 0);
 }
 
 } // namespace

@@ -71,17 +71,6 @@ TEST_F(Settings, AllThatIsKeptComesBackInTheNextRun) {
     EXPECT_EQ(KeptActions(), actions);
 }
 
-TEST_F(Settings, QuittingWritesNothingWhenTheUserSaysNoOrSavingIsOff) {
-    StartQuorl();
-    WillAnswer({IDNO, IDYES});
-    Command(59);
-    EXPECT_TRUE(Desk.files.empty());
-    Command(72);
-    Command(59);
-    EXPECT_TRUE(Desk.files.empty());
-    EXPECT_TRUE(Desk.hotkeys.empty()) << "the rest of the way out is gone";
-}
-
 TEST_F(Settings, WhatTheFileHoldsBesidesIsKept) {
     File() = "; mine\r\n[Other]\r\nborder=1\r\n[quorl]\r\nBORDER = 9\r\nnote=keep\r\n\r\n[Last]\r\nx=y";
     StartQuorl();

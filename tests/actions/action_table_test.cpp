@@ -24,17 +24,6 @@ TEST(ActionTableRows, EachKnowsItsNumberAndHasATextOfItsOwnThatTheReportOfARefus
     EXPECT_EQ(ActionTable[NUM_ACTIONS].flags, 0U);
 }
 
-TEST(ActionTableRows, StartUnbound) {
-    const std::set<ActionId> zeroKeys{85, 86, 87, 88, 113};
-    for (ActionId row = 0; row < NUM_ACTIONS; ++row) {
-        const ActionRow& action = ActionTable[row];
-        EXPECT_EQ(action.mouse_mods, UNBOUND) << row;
-        EXPECT_EQ(action.mouse_btn, UNBOUND) << row;
-        EXPECT_EQ(action.key_mods, UNBOUND) << row;
-        EXPECT_EQ(action.vk, zeroKeys.count(row) ? 0 : UNBOUND) << row;
-    }
-}
-
 TEST(ActionTableRows, AreOfferedToKeysToTheMouseOrNowhere) {
     std::set<ActionId> mouseOnly;
     std::set<ActionId> off;

@@ -22,23 +22,4 @@ TEST_F(Dispatch, ANumberThatNothingHandlesSaysSo) {
     }
 }
 
-TEST_F(Dispatch, RowsThatDoNothingAreSilent) {
-    ASSERT_EQ(StartQuorl(), 1);
-    const int before = Desk.calls;
-    EXPECT_EQ(DoAction(MainWnd, 38, nullptr), 1);
-    EXPECT_EQ(DoAction(MainWnd, 39, nullptr), 1);
-    EXPECT_EQ(DoAction(MainWnd, 75, nullptr), 0);
-    EXPECT_EQ(DoAction(MainWnd, 76, nullptr), 0);
-    EXPECT_EQ(Desk.calls, before);
-}
-
-TEST_F(Dispatch, AHotkeyRunsItsRowAndIsHandedOn) {
-    ASSERT_EQ(StartQuorl(), 1);
-    Command(30);
-    EXPECT_EQ(VDesk.left, 1024);
-    Desk.trace.clear();
-    SendMessageA(MainWnd, WM_HOTKEY, 75, 0);
-    EXPECT_EQ(CallsOf("DefWindowProcA"), 1);
-}
-
 } // namespace

@@ -105,12 +105,4 @@ TEST_F(Life, RunsUntilTheUserQuitsAndLeavesTheDesktopAsItWasFound) {
     EXPECT_TRUE(CameInOrder({"PostQuitMessage", "UnregisterHotKey", "EnumWindows", "FreeLibrary"}));
 }
 
-TEST_F(Life, AMessageThatCannotBeFetchedEndsNothing) {
-    ASSERT_EQ(StartQuorl(), 1);
-    PressCombination(MOD_CONTROL | MOD_ALT, VK_RIGHT);
-    Desk.fault = {"GetMessageA", 1, 0, 87, 0};
-    Settle();
-    EXPECT_EQ(VDesk.left, 1024);
-}
-
 } // namespace

@@ -51,11 +51,4 @@ TEST_F(Tray, ADoubleClickHidesAndShowsTheToolwinAndASingleOneDoesNothing) {
     EXPECT_TRUE(IsWindowVisible(MainWnd));
 }
 
-TEST_F(Tray, AShellThatTakesNoIconKeepsNothingFromRunning) {
-    Desk.fault = {.call = "Shell_NotifyIconA", .callsLeft = 1, .bForGood = 1};
-    ASSERT_EQ(StartQuorl(), 1);
-    EXPECT_TRUE(Desk.tray.empty());
-    EXPECT_TRUE(IsWindowVisible(MainWnd));
-}
-
 } // namespace

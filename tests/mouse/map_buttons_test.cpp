@@ -104,15 +104,6 @@ TEST_F(MapButtons, TheFirstRowWithTheCombinationRunsAndNoOtherThoughItIsOfferedN
     EXPECT_EQ(VDesk.left, 5) << "one key more is another combination";
 }
 
-TEST_F(MapButtons, BindingsThatNoPressCanMakeNeverRun) {
-    Bind(5, KEY_WIN, LBUTTON);
-    Bind(8, UNBOUND, UNBOUND);
-    ClickOnMap(10, 10, VK_LBUTTON, {VK_LCONTROL});
-    ClickOnMap(10, 10, VK_LBUTTON, {VK_LMENU}); // rows 40 and 41 are bound to buttons "1" and "2"
-    ClickOnMap(10, 10, VK_RBUTTON, {VK_LMENU});
-    EXPECT_EQ(VDesk, Rect(0, 0, 1024, 768));
-}
-
 TEST_F(MapButtons, TheCaptureComesBeforeTheActionForAllButTheLeftButton) {
     static const struct {
         int button, flag, bCaptureFirst;
@@ -132,16 +123,6 @@ TEST_F(MapButtons, TheCaptureComesBeforeTheActionForAllButTheLeftButton) {
         ReleaseOnMap(row.button);
         EXPECT_EQ(Desk.capture, nullptr) << row.button;
     }
-}
-
-TEST_F(MapButtons, TheSecondPressOfADoubleClickDoesNothing) {
-    for (const UINT message : {WM_LBUTTONDBLCLK, WM_RBUTTONDBLCLK, WM_MBUTTONDBLCLK}) {
-        Desk.keysRead[VK_MBUTTON] = 1;
-        PostMessageA(MainWnd, message, MK_MBUTTON, MAKELPARAM(200, 75));
-        Settle();
-    }
-    EXPECT_EQ(VDesk, Rect(0, 0, 1024, 768));
-    EXPECT_EQ(Desk.capture, nullptr);
 }
 
 TEST_F(MapButtons, ALookUpRunsNothingAndForgetsTheTip) {

@@ -93,23 +93,6 @@ TEST_F(MapHover, AKeyPressedInADragEndsItAndItsOwnBindingRuns) {
     EXPECT_EQ(VDesk, Rect(3072, 768, 4096, 1536)) << "Shift and left go to the screen under the cursor";
 }
 
-TEST_F(MapHover, ADragBoundToShiftGoesOnUnderShiftAlone) {
-    Start();
-    Bind(ROW_DRAG_TOOLWIN, KEY_SHIFT, LBUTTON);
-    const RECT before = PlaceOf(MainWnd);
-    HoldKey(VK_LSHIFT, 1);
-    MoveOnMap(40, 30);
-    Bind(4, UNBOUND, UNBOUND);
-    PressOnMap(VK_LBUTTON);
-    MoveBy(10, 0);
-    ReleaseOnMap(VK_LBUTTON);
-    MoveBy(10, 0);
-    EXPECT_EQ(PlaceOf(MainWnd).left, before.left + 20);
-    HoldKey(VK_LSHIFT, 0);
-    MoveBy(10, 0);
-    EXPECT_EQ(PlaceOf(MainWnd).left, before.left + 20);
-}
-
 TEST_F(MapHover, ABoundCombinationRunsOnEachMoveAndTellsNoPlace) {
     Start();
     MoveOnMap(100, 40);
@@ -127,33 +110,6 @@ TEST_F(MapHover, ABoundCombinationRunsOnEachMoveAndTellsNoPlace) {
     MoveOnMap(131, 48);
     MoveOnMap(132, 48);
     EXPECT_EQ(VDesk.left, left + 200);
-}
-
-TEST_F(MapHover, TheMenuOpensOnARightPressAndOnEachMoveAndTheTipFollowsAllTheSame) {
-    Start();
-    Desk.choices = {0, 0};
-    MoveOnMap(100, 40);
-    PressOnMap(VK_RBUTTON);
-    EXPECT_EQ(Desk.shownMenus.size(), 1U);
-    MoveOnMap(200, 80);
-    EXPECT_EQ(Desk.shownMenus.size(), 2U);
-    EXPECT_EQ(LastTip(), "Quorl: 3200, 1280") << "row 0 cannot be told from no row";
-}
-
-TEST_F(MapHover, AMapWithoutAreaAndADesktopOfAnySizeAreHarmless) {
-    Start();
-    MoveOnMap(40, 30);
-    HoldKey(VK_MBUTTON, 1);
-    Desk.capture = MainWnd;
-    for (const RECT& quorl : {Rect(0, 0, 0, 0), Rect(0, 0, INT32_MIN, INT32_MAX), Rect(0, 0, 4096, 1536)}) {
-        Quorl = quorl;
-        MoveOnMap(-32768, 32767);
-    }
-    RowOf(MainWnd).place.right = RowOf(MainWnd).place.left;
-    RowOf(MainWnd).place.bottom = RowOf(MainWnd).place.top;
-    HoldKey(VK_MBUTTON, 0);
-    MoveOnMap(70, 60);
-    EXPECT_EQ(LastTip(), "Quorl: 0, 0");
 }
 
 } // namespace

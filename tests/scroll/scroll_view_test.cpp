@@ -69,17 +69,4 @@ TEST_F(Scroll, TheResultTellsWhetherTheCornerChangedAndTheMapIsRepainted) {
     EXPECT_FALSE(RowOf(MainWnd).bInvalid);
 }
 
-TEST_F(Scroll, TheForegroundComesToQuorlOnlyWhileTheActiveWindowIsKeptInView) {
-    const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
-    ASSERT_EQ(StartQuorl(), 1);
-    Desk.foreground = editor;
-
-    ScrollView(MainWnd, 10, 0, SV_RELATIVE, 5);
-    EXPECT_EQ(Desk.foreground, editor) << "a scroll takes the keyboard from nobody";
-
-    ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value = 1;
-    ScrollView(MainWnd, 10, 0, SV_RELATIVE, 5);
-    EXPECT_EQ(Desk.foreground, MainWnd);
-}
-
 } // namespace

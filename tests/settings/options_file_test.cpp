@@ -36,22 +36,16 @@ TEST_F(OptionsFile, WhatIsAbsentOrNegativeStaysAsItIs) {
     StartQuorl();
     Options.maxscroll = 77;
     Quorl.left = 3;
-    StoreFile("border=-3\nQuorl.left=-20\nquorl_menu_count=-1\nalpha=\nminscroll=x\n");
+    StoreFile("border=-3\nQuorl.left=-20\nquorl_menu_count=-1\nmousescroll=\nminscroll=x\nalpha=300\n");
     Command(48);
     EXPECT_EQ(Options.border, 5);
     EXPECT_EQ(Options.maxscroll, 77);
     EXPECT_EQ(Quorl.left, 3);
     EXPECT_EQ(quorl_menu_count, 10);
-    EXPECT_EQ(Options.alpha, 255u);
+    EXPECT_EQ(Options.mousescroll, 800);
     EXPECT_EQ(Options.minscroll, 0) << "what is no number reads as 0";
-}
-
-TEST_F(OptionsFile, OnlyTheLowByteOfTheOpacityIsWritten) {
-    StoreFile("alpha=300\n");
-    StartQuorl();
-    EXPECT_EQ(Options.alpha, 300u);
     Command(47);
-    EXPECT_EQ(Stored("alpha"), "44");
+    EXPECT_EQ(Stored("alpha"), "44") << "of the opacity the low byte is written";
 }
 
 TEST_F(OptionsFile, NumbersWithWhichWindowsWouldBeLostAreHeld) {

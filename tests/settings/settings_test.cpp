@@ -71,15 +71,6 @@ TEST_F(Settings, AllThatIsKeptComesBackInTheNextRun) {
     EXPECT_EQ(KeptActions(), actions);
 }
 
-TEST_F(Settings, WhatTheFileHoldsBesidesIsKept) {
-    File() = "; mine\r\n[Other]\r\nborder=1\r\n[quorl]\r\nBORDER = 9\r\nnote=keep\r\n\r\n[Last]\r\nx=y";
-    StartQuorl();
-    Options.border = 7;
-    Command(47);
-    EXPECT_EQ(File().substr(0, 57), "; mine\r\n[Other]\r\nborder=1\r\n[quorl]\r\nborder=7\r\nnote=keep\r\n");
-    EXPECT_EQ(File().substr(File().size() - 13), "[Last]\r\nx=y\r\n");
-}
-
 TEST_F(Settings, AFailedWriteLosesNothingThatWasStored) {
     StartQuorl();
     Command(47);

@@ -135,13 +135,6 @@ TEST_F(Tip, IsMadeAnewWhenSomethingClosedIt) {
     EXPECT_FALSE(IsOnShow(second)) << "its timer runs again";
 }
 
-TEST_F(Tip, ThatCannotBeMadeSaysNothing) {
-    Start();
-    Desk.fault = {"CreateWindowExA", 1, 0, 8, 0};
-    EXPECT_EQ(Say("one"), nullptr);
-    EXPECT_NE(Say("two"), nullptr);
-}
-
 TEST_F(Tip, EveryScrollTellsWhereTheViewStandsAndEverySecondOneItsNumber) {
     Start();
     ScrollView(MainWnd, 100, 0, SV_RELATIVE, 6);

@@ -7,10 +7,9 @@
 
 namespace {
 
-class Dispatch : public QuorlTest {};
+class Dispatch : public RunningQuorl {};
 
 TEST_F(Dispatch, ANumberThatNothingHandlesSaysSo) {
-    ASSERT_EQ(StartQuorl(), 1);
     for (const int id : {46, 78, 87, 88, 109, 110, 112, 113, 123, -1, INT_MIN}) {
         Desk.boxes.clear();
         WillAnswer({IDOK});

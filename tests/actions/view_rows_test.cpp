@@ -5,7 +5,7 @@
 
 namespace {
 
-class ViewRows : public QuorlTest {};
+class ViewRows : public RunningQuorl {};
 
 TEST_F(ViewRows, EachRowMovesTheViewItsWayFromWhereverItStands) {
     struct {
@@ -42,7 +42,6 @@ TEST_F(ViewRows, EachRowMovesTheViewItsWayFromWhereverItStands) {
         {2,  {300, 400},   {0, 0}      },
         {4,  {300, 400},   {0, 0}      },
     };
-    ASSERT_EQ(StartQuorl(), 1);
     Quorl.bottom = 4 * 768;
     for (const auto& [row, from, to] : cases) {
         VDesk = {from.x, from.y, from.x + 1024, from.y + 768};
@@ -56,7 +55,6 @@ TEST_F(ViewRows, EachRowMovesTheViewItsWayFromWhereverItStands) {
 }
 
 TEST_F(ViewRows, APointOnTheMapIsACornerAMiddleOrACell) {
-    ASSERT_EQ(StartQuorl(), 1);
     RECT map{};
     GetClientRect(MainWnd, &map);
     const ActionPoint half{map.right / 2, map.bottom / 2}; // the desktop's middle: (2048, 768)

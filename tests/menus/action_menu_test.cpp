@@ -13,20 +13,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-class ActionMenu : public QuorlTest {
-  protected:
-    void SetUp() override {
-        QuorlTest::SetUp();
-        ASSERT_EQ(StartQuorl(), 1);
-        Desk.beeps.clear();
-    }
-};
-
-void Mark(const std::string& name, int left) {
-    RegionTable[num_regions] = {num_regions, "", left, 0, left + 1024, 768, 0};
-    std::strncpy(RegionTable[num_regions].name, name.c_str(), REGION_NAME_ROOM - 1);
-    ++num_regions;
-}
+class ActionMenu : public RunningQuorl {};
 
 void Compose(std::initializer_list<int> entries) {
     quorl_menu_count = 0;
@@ -89,7 +76,7 @@ TEST_F(ActionMenu, AChoiceRunsItsRowAndTheMenuTellsTheNewValueNextTime) {
 
 TEST_F(ActionMenu, TheRegionsHangBelowTheEntriesAndAChoiceJumps) {
     for (int region = 0; region < 12; ++region)
-        Mark("r" + std::to_string(region), 100 * region);
+        Mark("r" + std::to_string(region), 100 * region, 0);
     Choose(FIRST_REGION_ID + 11);
 
     EXPECT_EQ(VDesk.left, 1100);
@@ -115,7 +102,7 @@ TEST_F(ActionMenu, AnEmptyListShowsTheRegionsOnlyAndWithoutThemNothing) {
     Compose({});
     Choose(0);
     EXPECT_EQ(LinesOf(Shown()), Lines{});
-    Mark("home", 0);
+    Mark("home", 0, 0);
     Choose(0);
     EXPECT_EQ(LinesOf(Shown()), Lines{"View Region >"});
 }
@@ -134,7 +121,7 @@ TEST_F(ActionMenu, TheStripGivesWayToTheMenu) {
 }
 
 TEST_F(ActionMenu, WhateverCallFailsTheRestOfTheMenuIsShownOrNothingIsAndNoMenuIsLeftBehind) {
-    Mark("home", 0);
+    Mark("home", 0, 0);
     int nth = 0;
     do {
         Desk.choices.assign({0});

@@ -6,7 +6,7 @@
 
 namespace {
 
-class Tray : public QuorlTest {};
+class Tray : public RunningQuorl {};
 
 // The user's mouse over the icon, as the shell reports it.
 void MouseOverIcon(UINT mouse) {
@@ -16,7 +16,6 @@ void MouseOverIcon(UINT mouse) {
 }
 
 TEST_F(Tray, TheIconStandsThereFromTheStartUntilTheUserQuits) {
-    ASSERT_EQ(StartQuorl(), 1);
     ASSERT_EQ(Desk.tray.size(), 1u);
     EXPECT_EQ(Desk.tray[0].window, MainWnd);
     EXPECT_EQ(Desk.tray[0].icon, TrayImage);
@@ -30,7 +29,6 @@ TEST_F(Tray, TheIconStandsThereFromTheStartUntilTheUserQuits) {
 }
 
 TEST_F(Tray, ARightPressOpensTheMenuAndItsChoiceRuns) {
-    ASSERT_EQ(StartQuorl(), 1);
     Desk.choices = {77};
     MouseOverIcon(WM_RBUTTONDOWN);
     EXPECT_EQ(Desk.shownMenus.size(), 1u);
@@ -40,7 +38,6 @@ TEST_F(Tray, ARightPressOpensTheMenuAndItsChoiceRuns) {
 }
 
 TEST_F(Tray, ADoubleClickHidesAndShowsTheToolwinAndASingleOneDoesNothing) {
-    ASSERT_EQ(StartQuorl(), 1);
     for (const UINT mouse : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP})
         MouseOverIcon(mouse);
     EXPECT_TRUE(IsWindowVisible(MainWnd));

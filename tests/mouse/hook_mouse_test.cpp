@@ -25,11 +25,10 @@ int RowValue(ActionId row, int value) {
 }
 
 // Edge scrolling is on and armed, Shift has no say, and the view stands clear of the desktop's limits.
-class MouseNews : public QuorlTest {
+class MouseNews : public RunningQuorl {
   protected:
     void SetUp() override {
-        QuorlTest::SetUp();
-        ASSERT_EQ(StartQuorl(), 1);
+        RunningQuorl::SetUp();
         Settle();
         ScrollView(MainWnd, 1024, 384, SV_ABSOLUTE, 0);
         RowValue(ROW_FOLLOW_MOUSE, 1);

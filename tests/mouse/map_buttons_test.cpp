@@ -11,20 +11,14 @@
 namespace {
 
 // A map of 400 by 150: a tenth of the desktop of 4096 by 1536, nearly.
-class MapButtons : public QuorlTest {
+class MapButtons : public RunningQuorl {
   protected:
     void SetUp() override {
-        QuorlTest::SetUp();
-        ASSERT_EQ(StartQuorl(), 1);
+        RunningQuorl::SetUp();
         ResizeMap(400, 150);
         Settle();
     }
 };
-
-void Bind(int row, int mods, int button) {
-    ActionTable[row].mouse_mods = mods;
-    ActionTable[row].mouse_btn = button;
-}
 
 // Where in the trace a call stands; the trace's length if it was not made.
 std::ptrdiff_t Turn(const char* call) {
@@ -141,8 +135,7 @@ TEST_F(MapButtons, APlaceOutsideTheMapHasItsSignAndIsNoRegionsNumber) {
     EXPECT_EQ(point.x, -3);
     EXPECT_EQ(point.y, -20000);
 
-    RegionTable[0] = {0, "far", 2048, 768, 3071, 1535, 0};
-    num_regions = 1;
+    Mark("far", 2048, 768);
     Bind(ROW_REGION, KEY_CTRL, LBUTTON);
     HoldKey(VK_LCONTROL, 1);
     MoveOnMap(0, 0);

@@ -5,8 +5,6 @@
 #include "regions/region_table.h"
 #include "support/map_mouse.h"
 
-#include <cstdio>
-
 namespace {
 
 class MapHover : public QuorlTest {
@@ -18,20 +16,6 @@ class MapHover : public QuorlTest {
         Settle();
     }
 };
-
-void Bind(int row, int mods, int button) {
-    ActionTable[row].mouse_mods = mods;
-    ActionTable[row].mouse_btn = button;
-}
-
-void MarkRegion(const char* name, const RECT& place) {
-    RegionRow& row = RegionTable[num_regions++];
-    std::snprintf(row.name, sizeof row.name, "%s", name);
-    row.left = place.left;
-    row.top = place.top;
-    row.right = place.right;
-    row.bottom = place.bottom;
-}
 
 std::string TipAt(int x, int y) {
     MoveOnMap(x, y);
@@ -49,7 +33,7 @@ TEST_F(MapHover, TheTipTellsTheWindowElseTheRegionElseThePlace) {
     OpenWindow("100%n %s%d full", {400, 0, 600, 320});
     OpenWindow("0123456789012345678901234567890123456789", {700, 0, 1000, 320});
     Start();
-    MarkRegion("50%s done, 32 characters of name", {0, 0, 1024, 768});
+    Mark("50%s done, 32 characters of name", 0, 0);
 
     EXPECT_EQ(TipAt(10, 10), "editor: [160, 160]");
     EXPECT_EQ(TipAt(30, 10), "100%n %s%d full: [480, 160]");

@@ -6,19 +6,7 @@
 
 namespace {
 
-class RegionRows : public QuorlTest {
-  protected:
-    void SetUp() override {
-        QuorlTest::SetUp();
-        ASSERT_EQ(StartQuorl(), 1);
-        Desk.beeps.clear();
-    }
-};
-
-void Mark(int left, int top) {
-    RegionTable[num_regions] = {num_regions, "region", left, top, left + 1024, top + 768, 0};
-    ++num_regions;
-}
+class RegionRows : public RunningQuorl {};
 
 POINT View() {
     return {VDesk.left, VDesk.top};
@@ -29,9 +17,9 @@ int IsView(int left, int top) {
 }
 
 TEST_F(RegionRows, SteppingGoesRoundTheRegionsBothWays) {
-    Mark(1024, 0);
-    Mark(2048, 0);
-    Mark(100, 700);
+    Mark("region", 1024, 0);
+    Mark("region", 2048, 0);
+    Mark("region", 100, 700);
     struct {
         int row, left, top;
     } const steps[] = {
@@ -56,8 +44,8 @@ TEST_F(RegionRows, SteppingWithoutRegionsBeepsAndTheViewStays) {
 }
 
 TEST_F(RegionRows, ADigitJumpsToItsRegion) {
-    Mark(0, 0);
-    Mark(2000, 300);
+    Mark("region", 0, 0);
+    Mark("region", 2000, 300);
     ASSERT_EQ(RegisterRegionKeys(MainWnd), 1);
 
     PressCombination(MOD_ALT | MOD_CONTROL | MOD_SHIFT, '1');
@@ -83,7 +71,7 @@ TEST_F(RegionRows, ANumberOutsideTheTableLeavesTheViewWhereItIs) {
 }
 
 TEST_F(RegionRows, APointOfTheMapJumpsToTheRegionUnderItAndNowhereWhereThereIsNone) {
-    Mark(2048, 768); // the map is 200 by 100 pixels of 4096 by 1536
+    Mark("region", 2048, 768); // the map is 200 by 100 pixels of 4096 by 1536
     ActionPoint inside{120, 60};
     EXPECT_EQ(DoAction(MainWnd, 3, &inside), 1);
     EXPECT_TRUE(IsView(2048, 768));

@@ -9,22 +9,7 @@
 
 namespace {
 
-class Regions : public QuorlTest {
-  protected:
-    void SetUp() override {
-        QuorlTest::SetUp();
-        ASSERT_EQ(StartQuorl(), 1);
-        EXPECT_EQ(num_regions, 0);
-    }
-};
-
-// One screen in size, as the user marks them.
-void Mark(const char* name, int left, int top) {
-    RegionRow& region = RegionTable[num_regions];
-    region = {num_regions, "", left, top, left + 1024, top + 768, 0};
-    std::strncpy(region.name, name, REGION_NAME_ROOM - 1);
-    ++num_regions;
-}
+class Regions : public RunningQuorl {};
 
 std::string NamesOfRegions() {
     std::string names;

@@ -8,10 +8,9 @@
 
 namespace {
 
-class RegionsFile : public QuorlTest {};
+class RegionsFile : public RunningQuorl {};
 
 TEST_F(RegionsFile, ANameReadsBackAsItIsShownAfterSaving) {
-    StartQuorl();
     struct {
         const char* name;
         const char* becomes;
@@ -88,7 +87,6 @@ TEST(RegionLine, MarksInARowCountAsOneAndWhatIsTooMuchIsIgnored) {
 }
 
 TEST_F(RegionsFile, TheCountStaysWithinTheTableAndRowsWithoutALineCount) {
-    StartQuorl();
     struct {
         const char* lines;
         int count;

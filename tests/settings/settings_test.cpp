@@ -11,7 +11,7 @@
 
 namespace {
 
-class Settings : public QuorlTest {};
+class Settings : public RunningQuorl {};
 
 // All that is kept between runs but the actions, as one text.
 std::string Kept() {
@@ -59,7 +59,6 @@ void ChangeAll() {
 }
 
 TEST_F(Settings, AllThatIsKeptComesBackInTheNextRun) {
-    StartQuorl();
     ChangeAll();
     const std::string kept = Kept();
     const std::string actions = KeptActions();
@@ -72,7 +71,6 @@ TEST_F(Settings, AllThatIsKeptComesBackInTheNextRun) {
 }
 
 TEST_F(Settings, AFailedWriteLosesNothingThatWasStored) {
-    StartQuorl();
     Command(47);
     const std::string before = File();
     ChangeAll();
@@ -122,7 +120,6 @@ void LoadHostile(const std::string& what, const std::string& file) {
 }
 
 TEST_F(Settings, NoFileHarms) {
-    StartQuorl();
     const std::string many(10 << 20, '7');
     const std::string marks(100000, '|');
     const std::string row = "[Quorl]\nAction5=";
@@ -145,7 +142,6 @@ TEST_F(Settings, NoFileHarms) {
 }
 
 TEST_F(Settings, NoBrokenFileHarms) {
-    StartQuorl();
     ChangeAll();
     Command(47);
     const std::string good = File();

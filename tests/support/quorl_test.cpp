@@ -1,8 +1,10 @@
 // The words of the user.
 #include "support/quorl_test.h"
 
+#include "actions/action_table.h"
 #include "core/main.h"
 #include "core/state.h"
+#include "regions/region_table.h"
 
 #include <cstring>
 #include <ostream>
@@ -37,6 +39,11 @@ void QuorlTest::TearDown() {
                                  << (Desk.boxes.empty() ? "" : ": " + Desk.boxes.back().text);
 }
 
+void RunningQuorl::SetUp() {
+    QuorlTest::SetUp();
+    ASSERT_EQ(StartQuorl(), 1);
+}
+
 int StartQuorl() {
     return StartUp(reinterpret_cast<HINSTANCE>(0x400000));
 }
@@ -58,6 +65,18 @@ void Command(int row) {
 
 void WillAnswer(std::initializer_list<int> answers) {
     Desk.answers.assign(answers.begin(), answers.end());
+}
+
+void Bind(int row, int mods, int button) {
+    ActionTable[row].mouse_mods = mods;
+    ActionTable[row].mouse_btn = button;
+}
+
+void Mark(const std::string& name, int left, int top) {
+    RegionRow& region = RegionTable[num_regions];
+    region = {num_regions, "", left, top, left + ScreenW(), top + ScreenH(), 0};
+    name.copy(region.name, sizeof region.name - 1);
+    ++num_regions;
 }
 
 std::string LastTip() {

@@ -13,6 +13,12 @@ class QuorlTest : public testing::Test {
     void TearDown() override; // no unexpected box, nothing that would have blocked
 };
 
+// The same with Quorl started before the case begins, on an empty desktop.
+class RunningQuorl : public QuorlTest {
+  protected:
+    void SetUp() override;
+};
+
 // What the hook library of the in-memory desktop was told.
 struct HookRecord {
     HWND window;          // SaveSharedData
@@ -35,6 +41,12 @@ void Command(int row);
 
 // The user answers the next boxes, in this order.
 void WillAnswer(std::initializer_list<int> answers);
+
+// Binds a row to a mouse combination.
+void Bind(int row, int mods, int button);
+
+// Marks one more region, one screen in size, with its corner there.
+void Mark(const std::string& name, int left, int top);
 
 // What the strip over the map said last, on show or not; empty if it never did.
 std::string LastTip();

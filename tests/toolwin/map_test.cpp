@@ -31,11 +31,10 @@ std::string InWords(const DeskStroke& stroke) {
     return stroke.what == "Rectangle" ? line + pen + fill : line;
 }
 
-class Map : public QuorlTest {
+class Map : public RunningQuorl {
   protected:
     void SetUp() override {
-        QuorlTest::SetUp();
-        ASSERT_EQ(StartQuorl(), 1);
+        RunningQuorl::SetUp();
         RowOf(MainWnd).place = {100, 100, 308, 183}; // the map itself is 200 by 75
         Desk.foreground = nullptr;
     }

@@ -9,13 +9,7 @@
 
 namespace {
 
-class Placement : public QuorlTest {
-  protected:
-    void SetUp() override {
-        QuorlTest::SetUp();
-        ASSERT_EQ(StartQuorl(), 1);
-    }
-};
+class Placement : public RunningQuorl {};
 
 TEST(Snapping, PullsAWindowFlushWithTheEdgesThatItComesNearOrCrosses) {
     const struct {

@@ -81,6 +81,7 @@ static LRESULT InsertColumn(DeskWindow& list, WPARAM place, LPARAM column) {
 
 // It counts, whatever the item says; the new one is told to be the last.
 static LRESULT InsertItem(DeskWindow& list, WPARAM, LPARAM) {
+    Invalidate(list, nullptr, 1);
     return list.control.count++;
 }
 
@@ -117,7 +118,19 @@ static LRESULT SelectionMark(DeskWindow& list, WPARAM, LPARAM) {
 static LRESULT RedrawItems(DeskWindow& list, WPARAM first, LPARAM last) {
     for (int row = static_cast<int>(first); row <= static_cast<int>(last); ++row)
         list.control.redrawn.push_back(row);
+    Invalidate(list, nullptr, 1);
     return TRUE;
+}
+
+// As many rows as its inside has room for; the program is asked for the text of each.
+static LRESULT PaintList(DeskWindow& list, WPARAM, LPARAM) {
+    constexpr int rowHeight = 17; // pixels
+    list.bInvalid = list.bErase = 0;
+    const int rows = std::min(list.control.count, static_cast<int>(ClientArea(list).bottom) / rowHeight);
+    for (int row = 0; row < rows; ++row)
+        for (int column = 0; column < static_cast<int>(list.control.columns.size()); ++column)
+            TextInList(list.handle, row, column);
+    return 0;
 }
 
 // Only what the mask names changes; no mask means all of it.
@@ -136,6 +149,7 @@ static const ControlMessage ListViewMessages[] = {
     {LVM_INSERTCOLUMNA,            InsertColumn    },
     {LVM_SETEXTENDEDLISTVIEWSTYLE, SetExtendedStyle},
     {LVM_GETSELECTIONMARK,         SelectionMark   },
+    {WM_PAINT,                     PaintList       },
 };
 
 LRESULT CALLBACK ListViewProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {

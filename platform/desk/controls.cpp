@@ -94,10 +94,12 @@ static std::vector<HWND> GroupOf(const DeskWindow& button) {
     return group;
 }
 
+// The others of its group lose their marks, but for those that the user cannot reach.
 static void CheckAlone(DeskWindow& button) {
     for (const HWND sibling : GroupOf(button)) {
         DeskWindow& other = RowOf(sibling);
-        if (other.procedure == ButtonProc && (other.style & BS_TYPEMASK) == BS_AUTORADIOBUTTON)
+        const int bReached = (other.style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
+        if (bReached && other.procedure == ButtonProc && (other.style & BS_TYPEMASK) == BS_AUTORADIOBUTTON)
             SetCheck(other, sibling == button.handle, 0);
     }
 }

@@ -105,6 +105,8 @@ static COLORREF After(const DeskStroke& stroke, int x, int y, COLORREF ground) {
         return IsOnLine(rect, x, y) ? Mixed(stroke.pen.color, ground, stroke.rop) : ground;
     if (stroke.what == "DrawFocusRect") // every second pixel is inverted
         return IsOnFrame(rect, x, y) && (x + y) % 2 ? ground ^ 0xffffff : ground;
+    if (stroke.what == "FillRect")
+        return IsInside(rect, x, y) ? stroke.fill : ground;
     if (stroke.what != "Rectangle" || !IsInside(rect, x, y))
         return ground;
     return Mixed(IsOnFrame(rect, x, y) ? stroke.pen.color : stroke.fill, ground, stroke.rop);

@@ -45,6 +45,13 @@ void HoldKey(int key, int bDown);
 void MoveMouse(int x, int y);
 void PressMouse(int button, int bDown);
 
+// The user clicks a button; goes to a control; clicks a row of a list or a tab, from 0; types into an edit
+// box instead of what it holds. All of it in a dialog in front, and handled when the call is back.
+void ClickControl(HWND button);
+void GoToControl(HWND control);
+void ChooseRow(HWND control, int row);
+void TypeInto(HWND edit, const char* text);
+
 // What a living menu holds, as a user would read it: "* " before a checked entry, "--" for a line, " >" after
 // what opens another menu.
 std::vector<std::string> MenuLines(HMENU menu);

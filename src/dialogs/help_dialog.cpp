@@ -1,6 +1,7 @@
 // The dialog that says where help is to be found; it can be resized.
 #include "dialogs/help_dialog.h"
 
+#include "core/coordinates.h"
 #include "dialogs/registry.h"
 
 static const int ID_TEXT = 1068;
@@ -32,12 +33,12 @@ static void OnInit(HWND dialog) {
     SetFocus(GetDlgItem(dialog, IDOK));
 }
 
-static void OnSize(HWND dialog, int width, int height) {
+static void OnSize(HWND dialog, ActionPoint size) {
     const HWND text = GetDlgItem(dialog, ID_TEXT);
     const HWND button = GetDlgItem(dialog, IDOK);
     RECT now{};
     GetWindowRect(button, &now);
-    const HelpLayout layout = LayOutHelp(width, height, now.right - now.left, now.bottom - now.top);
+    const HelpLayout layout = LayOutHelp(size.x, size.y, now.right - now.left, now.bottom - now.top);
     if (text)
         Place(text, layout.text);
     Place(button, layout.button);
@@ -47,7 +48,7 @@ INT_PTR CALLBACK HelpDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lP
     switch (message) {
     case WM_INITDIALOG: OnInit(dialog); break;
     case WM_GETMINMAXINFO: reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {400, 200}; break;
-    case WM_SIZE: OnSize(dialog, LOWORD(lParam), HIWORD(lParam)); break;
+    case WM_SIZE: OnSize(dialog, PointOf(lParam)); break;
     case WM_COMMAND:
         if (LOWORD(wParam) == IDOK)
             CloseDialog(dialog, DIALOG_HELP, 0);

@@ -40,6 +40,20 @@ std::string RowText(HWND list, WPARAM row) {
     return text;
 }
 
+bool HasFocus(HWND control) {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetWindowThreadProcessId(control, nullptr), &info) && info.hwndFocus == control;
+}
+
+// Under Wine on a busy machine a click is lost now and then: it is made again until it has come.
+template <typename Came, typename Act>
+void Until(Came came, Act act) {
+    act();
+    for (int tries = 0; tries < 4 && !came(); ++tries)
+        act();
+}
+
 } // namespace
 
 HWND OpenByRow(int row, const char* title) {
@@ -61,6 +75,11 @@ void Press(HWND window) {
     WaitUntilDone(window);
 }
 
+void CloseBy(HWND dialog, int id) {
+    Until([dialog] { return !IsWindow(dialog); }, [dialog, id] { Press(GetDlgItem(dialog, id)); });
+    EXPECT_TRUE(WaitForEnd(dialog));
+}
+
 void PressAt(HWND window, POINT at) {
     ClientToScreen(window, &at);
     ClickAt(at);
@@ -68,7 +87,7 @@ void PressAt(HWND window, POINT at) {
 }
 
 void TypeOver(HWND edit, const std::string& text) {
-    Press(edit);
+    Until([edit] { return HasFocus(edit); }, [edit] { Press(edit); });
     PressKeys({VK_HOME});
     PressKeys({VK_SHIFT, VK_END});
     PressKeys({VK_DELETE});
@@ -125,5 +144,9 @@ void PressRow(HWND list, int row) {
     Ask(list, LB_SETTOPINDEX, static_cast<WPARAM>(row));
     const int top = static_cast<int>(Ask(list, LB_GETTOPINDEX));
     const int height = static_cast<int>(Ask(list, LB_GETITEMHEIGHT));
-    PressAt(list, {20, (row - top) * height + height / 2});
+    const HWND dialog = GetAncestor(list, GA_ROOT);
+    Until([&] { return SelectedRow(list) == row || GetForegroundWindow() != dialog; },
+          [&] {
+              PressAt(list, {20, (row - top) * height + height / 2});
+          });
 }

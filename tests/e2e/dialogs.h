@@ -18,6 +18,9 @@ HWND Control(HWND dialog, int id);
 void Press(HWND window);
 void PressOnly(HWND window);
 
+// Clicks a button of the dialog that closes it, and waits for its end.
+void CloseBy(HWND dialog, int id);
+
 // Clicks at a point of a window's client area.
 void PressAt(HWND window, POINT at);
 

@@ -90,6 +90,5 @@ TEST(ResizeWindows, TheNumbersAreTheSizeOnceTheyAreApplied) {
     TypeOver(Control(dialog, 1000), "250");
     Press(Control(dialog, 2));
     EXPECT_SOON(PlaceOf(mail), (Place{500, 100, 850, 350}));
-    Press(Control(dialog, 1044));
-    EXPECT_TRUE(WaitForEnd(dialog));
+    CloseBy(dialog, 1044);
 }

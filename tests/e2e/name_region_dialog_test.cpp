@@ -16,8 +16,7 @@ void ChooseColor(HWND dialog, const char* red, const char* green, const char* bl
     TypeOver(Control(colors, 706), red);
     TypeOver(Control(colors, 707), green);
     TypeOver(Control(colors, 708), blue);
-    Press(Control(colors, IDOK));
-    EXPECT_TRUE(WaitForEnd(colors));
+    CloseBy(colors, IDOK);
 }
 
 COLORREF ColorOf(HWND swatch) {
@@ -78,8 +77,7 @@ TEST(NameRegion, WithAllRowsInUseItSaysSoAndNothingIsLost) {
     PressOnly(Control(dialog, IDOK));
     AnswerBox("No room", VK_RETURN);
     EXPECT_EQ(ControlText(dialog, NAME), "more") << "the dialog waits for the user to make room";
-    Press(Control(dialog, CANCEL));
-    EXPECT_TRUE(WaitForEnd(dialog));
+    CloseBy(dialog, CANCEL);
 
     const HWND find = OpenByRow(111, "Find Region...");
     ASSERT_TRUE(find);
@@ -90,8 +88,7 @@ TEST(NameRegion, WithAllRowsInUseItSaysSoAndNothingIsLost) {
     EXPECT_EQ(texts[2], "place 10") << "sorted by name";
     PressRow(list, 199);
     EXPECT_SOON(PlaceOf(editor), (Place{401, 293, 701, 493})) << "the view stands at 99, 7";
-    Press(Control(find, IDOK));
-    EXPECT_TRUE(WaitForEnd(find));
+    CloseBy(find, IDOK);
     DoRow(47);
     EXPECT_SOON(Stored("Region199"), std::string("place 199|199|7|1500|775|0"));
     EXPECT_EQ(Stored("num_regions"), "200");

@@ -32,8 +32,7 @@ TEST(Transparency, TheMapFollowsTheSliderAndKeepsWhatItShowed) {
     EXPECT_GT(paged, 10) << "a click beside the thumb moves it a little";
     PressKeys({VK_HOME});
     EXPECT_SOON(AlphaOf(quorl), 10);
-    Press(Control(dialog, IDOK));
-    EXPECT_TRUE(WaitForEnd(dialog));
+    CloseBy(dialog, IDOK);
     EXPECT_EQ(AlphaOf(quorl), 10);
     DoRow(47);
     EXPECT_SOON(Stored("alpha"), std::string("10"));

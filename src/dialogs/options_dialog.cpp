@@ -255,6 +255,12 @@ static void OnEnableDelayTime(HWND dialog, int bEnabled) {
     Enable(dialog, DELAY_TIME_EDIT, bEnabled);
 }
 
+// A click leaves the check of a hidden radio alone, and that would win over the user's choice.
+static void OnChooseDelay(HWND dialog, int bTime) {
+    CheckDlgButton(dialog, AFTER_RIGHT_CLICK, BST_UNCHECKED);
+    OnEnableDelayTime(dialog, bTime);
+}
+
 namespace {
 
 struct OptionsCommand {
@@ -276,9 +282,9 @@ static const OptionsCommand Commands[] = {
     {HEIGHT_LESS,       ANY_CODE,     OnStepHeight,      -1},
     {WIDTH_MORE,        ANY_CODE,     OnStepWidth,       1 },
     {WIDTH_LESS,        ANY_CODE,     OnStepWidth,       -1},
-    {AFTER_TIME,        ANY_CODE,     OnEnableDelayTime, 1 },
-    {AT_ONCE,           ANY_CODE,     OnEnableDelayTime, 0 },
-    {AFTER_LEFT_CLICK,  ANY_CODE,     OnEnableDelayTime, 0 },
+    {AFTER_TIME,        ANY_CODE,     OnChooseDelay,     1 },
+    {AT_ONCE,           ANY_CODE,     OnChooseDelay,     0 },
+    {AFTER_LEFT_CLICK,  ANY_CODE,     OnChooseDelay,     0 },
     {AFTER_RIGHT_CLICK, ANY_CODE,     OnEnableDelayTime, 0 },
 };
 

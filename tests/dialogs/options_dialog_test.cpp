@@ -175,6 +175,7 @@ TEST_F(OptionsDialog, ASmallerDesktopGathersItsWindowsAndLeavesTheView) {
 }
 
 TEST_F(OptionsDialog, ADelayIsChosenByItsRadioAndOnlyATimeNeedsANumber) {
+    Options.mousescroll_delay = 2; // its radio is hidden and cannot be chosen again
     Open();
     Click(1078);
     EXPECT_TRUE(IsWindowEnabled(Control(DELAY_TIME)));

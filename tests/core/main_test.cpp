@@ -29,12 +29,6 @@ TEST_F(Life, StartsInItsOrder) {
     EXPECT_TRUE(Desk.beeps.empty());
 }
 
-TEST_F(Life, ASecondInstanceEndsWithoutAWord) {
-    OpenWindow("Quorltop", {0, 0, 10, 10}, "Quorltop");
-    EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
-    EXPECT_EQ(Desk.trace.size(), 1U);
-}
-
 TEST_F(Life, WithoutAWindowThereIsNoLife) {
     Desk.fault = {"CreateWindowExA", 1, 0, 8, 0};
     WillAnswer({IDOK});

@@ -20,14 +20,17 @@ class MainWindow : public QuorlTest {
 
 TEST_F(MainWindow, EveryEndAsksTheSameQuestionAndDestroysNothing) {
     Start();
+    const std::size_t hotkeys = Desk.hotkeys.size();
     for (const UINT message : {WM_CLOSE, WM_DESTROY, WM_QUIT}) {
-        Desk.boxes.clear();
-        WillAnswer({IDNO});
+        WillAnswer({message == WM_CLOSE ? IDCANCEL : IDNO});
         EXPECT_EQ(Send(message), 0) << message;
-        ASSERT_EQ(Desk.boxes.size(), 1U) << message;
-        EXPECT_EQ(Desk.boxes[0].text, "QUIT?");
+        EXPECT_EQ(Desk.boxes.back().text + "/" + Desk.boxes.back().caption, "QUIT?/QUIT?");
+        EXPECT_EQ(Desk.boxes.back().type, MB_YESNO);
     }
-    EXPECT_EQ(CallsOf("DestroyWindow") + CallsOf("DefWindowProcA"), 0);
+    EXPECT_EQ(Desk.boxes.size(), 3U);
+    EXPECT_EQ(CallsOf("DestroyWindow") + CallsOf("DefWindowProcA") + CallsOf("PostQuitMessage"), 0);
+    EXPECT_EQ(Desk.hotkeys.size(), hotkeys);
+    EXPECT_TRUE(Desk.files.empty());
 }
 
 TEST_F(MainWindow, NewColoursRepaintTheMap) {

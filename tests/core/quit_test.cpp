@@ -16,22 +16,6 @@ class Quitting : public QuorlTest {
     }
 };
 
-TEST_F(Quitting, AnyAnswerButYesChangesNothing) {
-    Start();
-    const std::size_t hotkeys = Desk.hotkeys.size();
-    for (const int answer : {IDNO, IDCANCEL, 0}) {
-        WillAnswer({answer});
-        EXPECT_EQ(ConfirmQuit(MainWnd), 0);
-    }
-    EXPECT_EQ(Desk.boxes.back().text + "/" + Desk.boxes.back().caption, "QUIT?/QUIT?");
-    EXPECT_EQ(Desk.boxes.back().type, MB_YESNO);
-    EXPECT_EQ(Desk.boxes.back().owner, MainWnd);
-    EXPECT_FALSE(Desk.bQuit);
-    EXPECT_EQ(Desk.hotkeys.size(), hotkeys);
-    EXPECT_EQ(PlaceOf(far).left, 1100);
-    EXPECT_TRUE(Desk.files.empty());
-}
-
 TEST_F(Quitting, WithSavingOffItWritesNothing) {
     Start();
     Command(72);

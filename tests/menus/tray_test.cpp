@@ -37,15 +37,4 @@ TEST_F(Tray, ARightPressOpensTheMenuAndItsChoiceRuns) {
     EXPECT_EQ(Desk.shownMenus.size(), 1u) << "on the press alone";
 }
 
-TEST_F(Tray, ADoubleClickHidesAndShowsTheToolwinAndASingleOneDoesNothing) {
-    for (const UINT mouse : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP})
-        MouseOverIcon(mouse);
-    EXPECT_TRUE(IsWindowVisible(MainWnd));
-    MouseOverIcon(WM_LBUTTONDBLCLK);
-    EXPECT_FALSE(IsWindowVisible(MainWnd));
-    EXPECT_EQ(ActionTable[ROW_SHOW_TOOLWIN].value, 0);
-    MouseOverIcon(WM_LBUTTONDBLCLK);
-    EXPECT_TRUE(IsWindowVisible(MainWnd));
-}
-
 } // namespace

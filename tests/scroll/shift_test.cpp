@@ -58,16 +58,6 @@ TEST_F(Shift, EveryWindowIsAskedMovedPaintedAndShown) {
     EXPECT_TRUE(CameInOrder({"SendMessageTimeoutA", "MoveWindow", "ShowWindow"}));
 }
 
-TEST_F(Shift, AWindowThatRewritesTheRecordLandsWhereItSaid) {
-    RowOf(editor).bRewrites = 1;
-    RowOf(editor).rewritten = {-70, 5, 222, 111};
-    Start();
-
-    ShiftWindows(30, 0);
-
-    EXPECT_EQ(PlaceOf(editor), Rect(-70, 5, 152, 116));
-}
-
 TEST_F(Shift, AProgramThatDoesNotAnswerCostsItsPatienceOnceAndNothingElseSuffers) {
     const HWND list = OpenWindow("list", {10, 10, 50, 50}, "SysListView32");
     for (const HWND silent : {editor, list})
@@ -104,21 +94,6 @@ TEST_F(Shift, ALockedWindowStaysAndAListViewScrollsEvenThen) {
         EXPECT_EQ(static_cast<int>(got.wParam), 30);
         EXPECT_EQ(got.lParam, -7);
     }
-}
-
-TEST_F(Shift, AMaximizedWindowIsRestoredFirstOnlyWhenTheUserWantsIt) {
-    ShowWindow(editor, SW_MAXIMIZE);
-    Start();
-
-    ShiftWindows(-30, 0);
-    EXPECT_TRUE(RowOf(editor).style & WS_MAXIMIZE);
-    EXPECT_EQ(PlaceOf(editor), Rect(0, 0, 1024, 768)) << "held at the desktop's edge";
-
-    ActionTable[ROW_RESTORE_MAXIMIZED].value = 1;
-    ShiftWindows(30, 10);
-    EXPECT_FALSE(RowOf(editor).style & WS_MAXIMIZE);
-    EXPECT_TRUE(RowOf(editor).style & WS_VISIBLE);
-    EXPECT_EQ(PlaceOf(editor), Rect(30, 10, 1054, 778)) << "it keeps its maximized size";
 }
 
 TEST_F(Shift, AWindowMayDieBetweenAnyTwoCalls) {

@@ -23,21 +23,6 @@ int IsRegistered(int row, UINT modifiers, UINT key) {
     });
 }
 
-TEST_F(ActionsFile, ADefaultThatTheShellHoldsIsReportedAtTheFirstStartOnly) {
-    HoldElsewhere(MOD_WIN, VK_UP);
-    WillAnswer({IDOK});
-    StartQuorl();
-    ASSERT_EQ(Desk.boxes.size(), 1u);
-    EXPECT_NE(Desk.boxes[0].text.find("(41)"), std::string::npos);
-    Command(47);
-    EXPECT_EQ(Stored("Action41"), "2|2|-1|-1|0");
-
-    ClearAllActionKeys(MainWnd);
-    OnCreate(MainWnd); // as the next run does
-    EXPECT_EQ(Desk.boxes.size(), 1u);
-    EXPECT_TRUE(IsRegistered(28, MOD_CONTROL | MOD_ALT, VK_LEFT)) << "the others are back";
-}
-
 TEST_F(ActionsFile, AStoredCombinationTakesThePlaceOfTheDefault) {
     HoldElsewhere(MOD_CONTROL | MOD_ALT, VK_LEFT); // the default of row 28
     StoreFile("Action28=-1|-1|4|112|0\nAction54=1|8|0|66|1\n");

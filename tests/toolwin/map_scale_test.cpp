@@ -10,11 +10,6 @@ const RECT MAP{0, 0, 200, 75};
 const RECT QUORL{0, 0, 4096, 1536};
 const RECT VDESK{1024, 0, 2048, 768};
 
-TEST(MapScale, AWindowAndTheViewAgreeOnOneScale) {
-    EXPECT_EQ(WindowBox({100, 50, 612, 434}, MAP, VDESK, QUORL), Rect(54, 2, 79, 20));
-    EXPECT_EQ(ViewBox(MAP, VDESK, QUORL), Rect(50, 0, 100, 37));
-}
-
 TEST(MapScale, ScalesTheSizeOnItsOwn) {
     const RECT window{103, 60, 624, 445}; // its far corner by itself would come to (80, 21)
     EXPECT_EQ(WindowBox(window, MAP, {1035, 0, 2059, 768}, QUORL), Rect(55, 2, 80, 20));

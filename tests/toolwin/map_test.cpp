@@ -169,22 +169,6 @@ TEST(MapBox, ThePulseWrapsRoundAndKeepsItsPace) {
         EXPECT_EQ(NextFlashLevel(step.level), step.next);
 }
 
-TEST_F(Map, PaintsWithoutHarmWhateverSizesAnEditedFileHolds) {
-    OpenWindow("editor", {100, 50, 612, 434});
-    num_regions = 1;
-    for (const RECT& quorl : {
-             RECT{0, 0, 0,       0      },
-             RECT{0, 0, -1,      -1     },
-             RECT{0, 0, 1 << 31, 1 << 31}
-    }) {
-        Quorl = quorl;
-        Painted();
-        EXPECT_TRUE(CallsOf("EndPaint"));
-    }
-    RowOf(MainWnd).place = {100, 100, 100, 100};
-    EXPECT_EQ(Painted().front(), "Rectangle 0,0 0,0 solid1 0 background");
-}
-
 TEST_F(Map, APaintMakesThreePensAndABrushARegionAndLeavesNothingBehind) {
     num_regions = 3;
     Desk.foreground = OpenWindow("editor", {100, 50, 612, 434});

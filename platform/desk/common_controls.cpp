@@ -107,6 +107,11 @@ static LRESULT RemoveItems(DeskWindow& list, WPARAM, LPARAM) {
     return TRUE;
 }
 
+static LRESULT SetItemCount(DeskWindow& list, WPARAM count, LPARAM) {
+    list.control.count = static_cast<int>(count);
+    return TRUE;
+}
+
 static LRESULT CountItems(DeskWindow& list, WPARAM, LPARAM) {
     return list.control.count;
 }
@@ -144,6 +149,7 @@ static LRESULT SetExtendedStyle(DeskWindow& list, WPARAM mask, LPARAM style) {
 static const ControlMessage ListViewMessages[] = {
     {LVM_GETITEMCOUNT,             CountItems      },
     {LVM_INSERTITEMA,              InsertItem      },
+    {LVM_SETITEMCOUNT,             SetItemCount    },
     {LVM_DELETEALLITEMS,           RemoveItems     },
     {LVM_REDRAWITEMS,              RedrawItems     },
     {LVM_INSERTCOLUMNA,            InsertColumn    },

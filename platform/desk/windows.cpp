@@ -214,6 +214,7 @@ LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value) {
     if (!row)
         return 0;
     switch (index) {
+    case GWL_STYLE: return static_cast<LONG_PTR>(std::exchange(row->style, static_cast<DWORD>(value)));
     case GWLP_USERDATA: return std::exchange(row->userData, value);
     case GWLP_HWNDPARENT:
         return reinterpret_cast<LONG_PTR>(std::exchange(row->owner, reinterpret_cast<HWND>(value)));

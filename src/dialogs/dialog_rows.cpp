@@ -2,6 +2,8 @@
 #include "dialogs/dialog_rows.h"
 
 #include "dialogs/about_dialog.h"
+#include "dialogs/actions_dialog.h"
+#include "dialogs/customize_menu_dialog.h"
 #include "dialogs/find_dialogs.h"
 #include "dialogs/help_dialog.h"
 #include "dialogs/options_dialog.h"
@@ -24,8 +26,10 @@ static const DialogOfRow DialogsOfRows[] = {
     {49,  DIALOG_NAME_REGION,    NameRegionDlgProc   },
     {52,  DIALOG_FIND,           FindWindowDlgProc   },
     {53,  DIALOG_RESIZE_WINDOWS, ResizeWindowsDlgProc},
+    {55,  DIALOG_ACTIONS,        ActionsDlgProc      },
     {56,  DIALOG_HELP,           HelpDlgProc         },
     {57,  DIALOG_ABOUT,          AboutDlgProc        },
+    {74,  DIALOG_CUSTOMIZE_MENU, CustomizeMenuDlgProc},
     {111, DIALOG_FIND,           FindRegionDlgProc   },
     {116, DIALOG_TRANSPARENCY,   TransparencyDlgProc },
 };

@@ -3,6 +3,7 @@
 
 #include "core/arithmetic.h"
 #include "core/state.h"
+#include "dialogs/controls.h"
 #include "dialogs/options_rules.h"
 #include "dialogs/registry.h"
 #include "dialogs/spinner.h"
@@ -105,12 +106,6 @@ static OptionNumbers NumbersShown(HWND dialog) {
     return shown;
 }
 
-// Clearing a radio takes it out of the way of Tab.
-static void KeepTabStop(HWND dialog, int radio) {
-    const HWND control = GetDlgItem(dialog, radio);
-    SetWindowLongPtrA(control, GWL_STYLE, GetWindowLongPtrA(control, GWL_STYLE) | WS_TABSTOP);
-}
-
 // A value that no radio stands for checks none. Then, and when a hidden one is checked, Tab finds the first.
 template <std::size_t count>
 static void CheckRadio(HWND dialog, const int (&radios)[count], int value) {
@@ -118,7 +113,7 @@ static void CheckRadio(HWND dialog, const int (&radios)[count], int value) {
     if (radio)
         CheckDlgButton(dialog, radio, BST_CHECKED);
     if (!radio || radio == AFTER_RIGHT_CLICK)
-        KeepTabStop(dialog, radios[0]);
+        KeepTabStop(GetDlgItem(dialog, radios[0]));
 }
 
 // With none checked the value stays.

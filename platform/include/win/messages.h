@@ -21,6 +21,7 @@ constexpr UINT WM_MOVE = 3;
 constexpr UINT WM_SIZE = 5;
 constexpr UINT WM_SETFOCUS = 7;
 constexpr UINT WM_KILLFOCUS = 8;
+constexpr UINT WM_SETREDRAW = 11;
 constexpr UINT WM_SETTEXT = 12;
 constexpr UINT WM_PAINT = 15;
 constexpr UINT WM_CLOSE = 16;

@@ -101,6 +101,11 @@ void TypeOver(HWND edit, const std::string& text) {
     WaitUntilDone(edit);
 }
 
+void PressInTurn(std::initializer_list<WORD> keys) {
+    for (const WORD key : keys)
+        PressKeys({key});
+}
+
 void AnswerBox(const char* caption, WORD key) {
     const HWND box = WaitForBox(caption);
     ASSERT_TRUE(box) << caption;

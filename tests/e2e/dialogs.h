@@ -27,6 +27,9 @@ void PressAt(HWND window, POINT at);
 // Clicks into an edit box and types over what it holds; letters, digits and blanks.
 void TypeOver(HWND edit, const std::string& text);
 
+// Presses and releases one key after the other.
+void PressInTurn(std::initializer_list<WORD> keys);
+
 // Answers a box with this caption by a key, and waits for its end.
 void AnswerBox(const char* caption, WORD key);
 

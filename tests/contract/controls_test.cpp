@@ -57,6 +57,20 @@ TEST_F(Controls, AClickLeavesTheCheckOfAHiddenRadioButtonAlone) {
     EXPECT_EQ(CheckedOf(dialog, {1079, 1080, 1082, 1078}), (std::vector<int>{1080, 1082}));
 }
 
+// Tab stops at a group's checked button, or at the one that is told to be a stop.
+TEST_F(Controls, ARadioButtonThatIsClearedIsNoTabStopUntilItsStyleSaysSo) {
+    const HWND dialog = ShowTemplate(113);
+    const HWND radio = GetDlgItem(dialog, 1034);
+    const auto style = [radio] { return GetWindowLongPtrA(radio, GWL_STYLE); };
+    const LONG_PTR stop = style();
+    EXPECT_TRUE(stop & WS_TABSTOP);
+    CheckDlgButton(dialog, 1034, BST_UNCHECKED);
+    EXPECT_FALSE(style() & WS_TABSTOP);
+    const LONG_PTR cleared = style();
+    EXPECT_EQ(SetWindowLongPtrA(radio, GWL_STYLE, cleared | WS_TABSTOP), cleared);
+    EXPECT_EQ(style(), cleared | WS_TABSTOP);
+}
+
 TEST_F(Controls, ACheckBoxTurnsByItself) {
     const HWND dialog = ShowTemplate(113);
     Click(dialog, 1028);
@@ -121,8 +135,11 @@ TEST_F(Controls, ASortedListBoxTellsWhereARowWentAndKeepsItsNumber) {
     EXPECT_EQ(Ask(dialog, 1062, LB_GETCOUNT), 0);
     EXPECT_EQ(Ask(dialog, 1062, LB_GETCURSEL), LB_ERR);
 
+    Ask(dialog, 1061, WM_SETREDRAW, FALSE);
     Ask(dialog, 1061, LB_ADDSTRING, 0, "b");
     EXPECT_EQ(Ask(dialog, 1061, LB_ADDSTRING, 0, "a"), 1) << "one that does not sort appends";
+    Ask(dialog, 1061, WM_SETREDRAW, TRUE);
+    EXPECT_EQ(RowsOf(dialog, 1061), (Texts{"b", "a"})) << "painted or not";
     EXPECT_TRUE(News.empty()) << "what the program does is not told";
 }
 
@@ -203,6 +220,9 @@ TEST_F(Controls, AListViewOfTheOwnersDataCountsAndAsksForTexts) {
     };
     const HWND dialog = ShowFilledList();
     EXPECT_EQ(Ask(dialog, 1051, LVM_GETITEMCOUNT), 3);
+    EXPECT_TRUE(Ask(dialog, 1051, LVM_SETITEMCOUNT, 5));
+    EXPECT_EQ(Ask(dialog, 1051, LVM_GETITEMCOUNT), 5);
+    EXPECT_TRUE(Ask(dialog, 1051, LVM_SETITEMCOUNT, 3));
     EXPECT_EQ(Ask(dialog, 1051, LVM_GETSELECTIONMARK), -1);
     InvalidateRect(GetDlgItem(dialog, 1051), nullptr, TRUE);
     Handle(100);

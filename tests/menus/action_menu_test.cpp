@@ -2,12 +2,10 @@
 
 #include "core/state.h"
 #include "menus/menu_list.h"
-#include "regions/region_table.h"
 #include "support/quorl_test.h"
 #include "toolwin/tip.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 

@@ -4,8 +4,6 @@
 #include "core/state.h"
 #include "support/quorl_test.h"
 
-#include <climits>
-
 namespace {
 
 constexpr int W = 1024;
@@ -49,23 +47,6 @@ TEST(EdgeDecision, TheFirstEdgeDecidesAndTheCursorLandsInsideTheOppositeOne) {
         EXPECT_EQ(step.dir, wanted.dir);
         EXPECT_EQ(Rect(step.view.x, step.view.y, step.landing.x, step.landing.y),
                   Rect(wanted.view.x, wanted.view.y, wanted.landing.x, wanted.landing.y));
-    }
-}
-
-TEST(EdgeDecision, NumbersFromAHandEditedFileWrapAndNeverTrap) {
-    for (const int number : {INT_MIN, -1, 0, INT_MAX}) {
-        OptionsRecord options = DefaultOptions(2);
-        options.border = options.mousescroll = number;
-        for (const POINT cursor : {
-                 POINT{0,       0      },
-                 POINT{1023,    767    },
-                 POINT{INT_MIN, INT_MAX}
-        }) {
-            const int dir = EdgeStepAt(cursor, options, VIEW, W, H).dir;
-            EXPECT_TRUE(dir == DIR_NONE || dir == DIR_UP || dir == DIR_DOWN || dir == DIR_LEFT ||
-                        dir == DIR_RIGHT);
-            IsStillAtEdge(cursor, dir, number, W, H);
-        }
     }
 }
 

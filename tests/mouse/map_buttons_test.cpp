@@ -2,7 +2,6 @@
 
 #include "actions/hotkeys.h"
 #include "core/state.h"
-#include "regions/region_table.h"
 #include "support/map_mouse.h"
 
 #include <algorithm>
@@ -47,23 +46,21 @@ TEST_F(MapButtons, TheMiddleButtonBeatsTheRightOneAndThatTheLeftOne) {
 
 TEST_F(MapButtons, EitherKeyOfAPairIsHeldAndTheMaskChoosesTheKind) {
     static const struct {
-        int key;
-        DWORD kind;
-        int flag;
+        int key, flag;
     } cases[] = {
-        {VK_LSHIFT,  ACTION_KEY,   KEY_SHIFT},
-        {VK_RSHIFT,  ACTION_KEY,   KEY_SHIFT},
-        {VK_LMENU,   ACTION_KEY,   KEY_ALT  },
-        {VK_RMENU,   ACTION_KEY,   KEY_ALT  },
-        {VK_RBUTTON, ACTION_MOUSE, RBUTTON  },
-        {VK_MBUTTON, ACTION_MOUSE, MBUTTON  },
+        {VK_LSHIFT,   KEY_SHIFT},
+        {VK_RSHIFT,   KEY_SHIFT},
+        {VK_RCONTROL, KEY_CTRL },
+        {VK_LMENU,    KEY_ALT  },
+        {VK_RMENU,    KEY_ALT  },
+        {VK_RBUTTON,  RBUTTON  },
+        {VK_MBUTTON,  MBUTTON  },
     };
-    for (const auto& row : cases) {
-        Desk.keysRead[row.key] = 1;
-        EXPECT_EQ(GetHeldFlags(KEYS_AND_BUTTONS), row.flag) << row.key;
-        EXPECT_EQ(GetHeldFlags(row.kind), row.flag) << row.key;
-        EXPECT_EQ(GetHeldFlags(KEYS_AND_BUTTONS & ~row.kind), 0) << row.key;
-        Desk.keysRead[row.key] = 0;
+    for (const auto& [key, flag] : cases) {
+        Desk.keysRead[key] = 1;
+        EXPECT_EQ(GetHeldFlags(flag < LBUTTON ? ACTION_KEY : ACTION_MOUSE), flag) << key;
+        EXPECT_EQ(GetHeldFlags(flag < LBUTTON ? ACTION_MOUSE : ACTION_KEY), 0) << key;
+        Desk.keysRead[key] = 0;
     }
 }
 

@@ -2,7 +2,6 @@
 
 #include "actions/action_table.h"
 #include "core/state.h"
-#include "regions/region_table.h"
 #include "support/map_mouse.h"
 
 namespace {

@@ -10,23 +10,6 @@ class Scroll : public QuorlTest {};
 
 const RECT WHOLE{0, 0, 4096, 1536};
 
-TEST(ScrollDecision, EachModeAsksForItsDistance) {
-    const RECT vdesk{100, 50, 1124, 818};
-    struct {
-        int x, y, mode;
-        POINT distance;
-    } const cases[] = {
-        {300, 20,  SV_ABSOLUTE, {200, -30}  },
-        {300, 20,  SV_RELATIVE, {300, 20}   },
-        {612, 434, SV_CENTER,   {0, 0}      },
-        {0,   0,   SV_CENTER,   {-612, -434}},
-    };
-    for (const auto& [x, y, mode, distance] : cases)
-        EXPECT_EQ(AskedDistance(vdesk, x, y, mode), distance) << x << ", " << y << " in mode " << mode;
-    EXPECT_EQ(AskedDistance({0, 0, 1023, 767}, 1000, 1000, SV_CENTER), (POINT{489, 617}))
-        << "halves truncate";
-}
-
 TEST(ScrollDecision, TheViewIsHeldInsideTheDesktopAndTheWindowsGoTheSameWay) {
     struct {
         const char* what;

@@ -1,7 +1,5 @@
 #include "settings/actions_file.h"
 
-#include "actions/hotkeys.h"
-#include "core/create.h"
 #include "core/state.h"
 #include "regions/region_table.h"
 #include "settings/settings_test.h"

@@ -97,9 +97,6 @@ TEST_F(OptionsFile, TheToolwinGoesToAStoredPlaceRightOfZero) {
         Command(48);
         EXPECT_EQ(PlaceOf(MainWnd), given.place);
     }
-    StoreFile("quorl_pos.top=5\nquorl_pos.right=300\nquorl_pos.bottom=300\n");
-    Command(48);
-    EXPECT_EQ(PlaceOf(MainWnd), cases[3].place);
 }
 
 TEST_F(OptionsFile, WithoutARectangleTheStoredPlaceStays) {

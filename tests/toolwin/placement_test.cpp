@@ -5,7 +5,6 @@
 #include "support/quorl_test.h"
 
 #include <algorithm>
-#include <climits>
 
 namespace {
 
@@ -26,8 +25,6 @@ TEST(Snapping, PullsAWindowFlushWithTheEdgesThatItComesNearOrCrosses) {
     };
     for (const auto& row : cases)
         EXPECT_EQ(SnappedPlace(row.asked, 5, 1024, 768), row.snapped) << testing::PrintToString(row.asked);
-    const RECT widest{INT_MIN, INT_MIN, INT_MAX, INT_MAX}; // sizes past 32 bits wrap and harm nothing
-    SnappedPlace(widest, INT_MIN, INT_MAX, INT_MIN);
 }
 
 TEST_F(Placement, EightRowsNudgeTheMapByTheTwoSteps) {

@@ -97,13 +97,7 @@ TEST_F(Dialogs, AllControlsStandHiddenWithTheDialogWhenItIsToldToStart) {
         parameter = arrived.lParam;
         return 1;
     };
-    const HWND dialog = CreateDialogParamA(
-        Instance(), MAKEINTRESOURCEA(101), nullptr,
-        [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> INT_PTR CALLBACK {
-            return message == WM_INITDIALOG ? DialogReplies[message]({window, message, wParam, lParam, 0, {}})
-                                            : 0;
-        },
-        77);
+    const HWND dialog = CreateDialogParamA(Instance(), MAKEINTRESOURCEA(101), nullptr, KeepingDlgProc, 77);
     EXPECT_EQ(found, 6);
     EXPECT_FALSE(bVisible);
     EXPECT_EQ(parameter, 77);

@@ -3,7 +3,9 @@
 
 #include "core/arithmetic.h"
 #include "core/state.h"
+#include "dialogs/actions_dialog.h"
 #include "dialogs/controls.h"
+#include "dialogs/customize_menu_dialog.h"
 #include "dialogs/options_rules.h"
 #include "dialogs/registry.h"
 #include "dialogs/spinner.h"
@@ -16,6 +18,7 @@ namespace {
 
 // The controls, by their number in the template; the spinners are made at run time.
 enum OptionsControl {
+    ACTIONS_BUTTON = 3,
     HEIGHT_EDIT = 1000,
     WIDTH_EDIT,
     BORDER_EDIT,
@@ -27,6 +30,7 @@ enum OptionsControl {
     HEIGHT_LESS,
     WIDTH_MORE,
     WIDTH_LESS,
+    MENUS_BUTTON = 1064,
     BY_MAXSCROLL = 1073,
     BY_MINSCROLL,
     BY_MOUSESCROLL,
@@ -230,6 +234,14 @@ static void OnCancel(HWND dialog, int) {
     CloseDialog(dialog, DIALOG_OPTIONS, IDCANCEL);
 }
 
+static void OnOpenActions(HWND dialog, int) {
+    OpenDialog(dialog, DIALOG_ACTIONS, ActionsDlgProc);
+}
+
+static void OnOpenMenus(HWND dialog, int) {
+    OpenDialog(dialog, DIALOG_CUSTOMIZE_MENU, CustomizeMenuDlgProc);
+}
+
 static void OnLimitHeight(HWND dialog, int) {
     LimitSize(dialog, Height);
 }
@@ -271,6 +283,8 @@ static const int ANY_CODE = -1;
 static const OptionsCommand Commands[] = {
     {IDOK,              ANY_CODE,     OnAccept,          0 },
     {IDCANCEL,          ANY_CODE,     OnCancel,          0 },
+    {ACTIONS_BUTTON,    ANY_CODE,     OnOpenActions,     0 },
+    {MENUS_BUTTON,      ANY_CODE,     OnOpenMenus,       0 },
     {HEIGHT_EDIT,       EN_KILLFOCUS, OnLimitHeight,     0 },
     {WIDTH_EDIT,        EN_KILLFOCUS, OnLimitWidth,      0 },
     {HEIGHT_MORE,       ANY_CODE,     OnStepHeight,      1 },

@@ -244,6 +244,22 @@ TEST_F(OptionsDialog, WorksWithoutSpinners) {
     EXPECT_EQ(Quorl, Rect(0, 0, 1024, 40000));
 }
 
+TEST_F(OptionsDialog, WhatItsButtonsOpenOutlivesItWithTheMapForItsOwner) {
+    Open();
+    Click(3);
+    Click(1064);
+    const HWND opened[] = {DialogSlots[3].handle, DialogSlots[6].handle};
+    for (const HWND dialog : opened)
+        EXPECT_EQ(RowOf(dialog).owner, Dialog());
+    Click(IDOK);
+    EXPECT_FALSE(DialogHandles[2]) << "no key goes to a window that is gone";
+    for (const HWND dialog : opened) {
+        EXPECT_TRUE(IsWindowVisible(dialog));
+        EXPECT_EQ(RowOf(dialog).owner, MainWnd);
+    }
+    Open();
+}
+
 TEST_F(OptionsDialog, ASecondRequestKeepsWhatIsTyped) {
     Open();
     const HWND dialog = Dialog();

@@ -60,6 +60,7 @@ struct DeskWindow {
     WNDPROC procedure = nullptr; // null: a window of another program
     RECT restored{};             // place before it was minimized or maximized
     int bMaximizeAgain = 0;      // it was maximized when it was minimized
+    int bCloaked = 0;            // the compositor keeps it out of sight
     int alpha = -1;              // as SetLayeredWindowAttributes set it; -1: never
     std::vector<HWND> children;  // in the order of their creation
     LONG_PTR id = 0;             // of a child
@@ -256,6 +257,7 @@ struct DeskState {
     std::map<int, COLORREF> systemColors{
         {COLOR_BACKGROUND, 0xa56e3a}
     }; // all others are grey
+    std::function<void()> inBox;       // runs while a box is open, as timers and other messages do
     int surprises = 0; // boxes and menus that nobody answers, and calls that would have blocked for ever
     std::deque<UINT> choices; // from the menus that will come, by id; 0 closes the menu
     std::deque<DeskMenu> menus;
@@ -274,6 +276,7 @@ struct DeskState {
         0; // objects deleted while selected: Windows waits with them, good programs do not do it
 
     DWORD lastError = 0;
+    LPTOP_LEVEL_EXCEPTION_FILTER crashFilter = nullptr; // what runs when the process crashes
     DeskFault fault;
     int calls = 0;  // platform calls so far
     int bTrace = 1; // keep their names, what was drawn and what others received; off in benchmarks

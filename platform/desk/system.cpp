@@ -3,12 +3,24 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 DWORD GetLastError() {
     return Desk.lastError;
 }
 
 void SetLastError(DWORD error) {
     Desk.lastError = error;
+}
+
+LPTOP_LEVEL_EXCEPTION_FILTER SetUnhandledExceptionFilter(LPTOP_LEVEL_EXCEPTION_FILTER filter) {
+    return Fails("SetUnhandledExceptionFilter") ? nullptr : std::exchange(Desk.crashFilter, filter);
+}
+
+LONG InterlockedExchange(volatile LONG* target, LONG value) {
+    const LONG before = *target;
+    *target = value;
+    return before;
 }
 
 // A module's handle is the place of its record: nodes of a map never move.
@@ -83,6 +95,8 @@ BOOL GetMonitorInfoA(HMONITOR monitor, MONITORINFO* info) {
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
     if (Fails("MessageBoxA"))
         return 0;
+    if (Desk.inBox)
+        std::function<void()>(Desk.inBox)();
     int answer = type == MB_YESNO ? IDNO : IDOK;
     if (Desk.answers.empty()) {
         ++Desk.surprises;

@@ -6,6 +6,7 @@
 #include "actions/program_rows.h"
 #include "actions/toolwin_rows.h"
 #include "actions/view_rows.h"
+#include "core/quit.h"
 #include "dialogs/dialog_rows.h"
 #include "menus/action_menu.h"
 #include "regions/region_rows.h"
@@ -167,6 +168,8 @@ static int JumpToRegion(HWND window, int region) {
 }
 
 int DoAction(HWND window, int id, ActionPoint* point) {
+    if (IsQuitting())
+        return 0; // the windows are folded back by now
     if (id > NUM_ACTIONS)
         return JumpToRegion(window, id - FIRST_REGION_ID);
     if (id < 0 || id == NUM_ACTIONS)

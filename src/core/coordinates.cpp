@@ -25,6 +25,12 @@ int MonitorUnion(RECT* rect) {
     return 1;
 }
 
+void MeasureScreen() {
+    MonitorUnion(&ScreenRect);
+    Quorl.right = std::max<LONG>(Quorl.right, ScreenW());
+    Quorl.bottom = std::max<LONG>(Quorl.bottom, ScreenH());
+}
+
 ActionPoint* MapToDesktop(ActionPoint* point) {
     RECT map{};
     GetClientRect(MainWnd, &map);

@@ -19,6 +19,10 @@ inline ActionPoint PointOf(LPARAM lParam) {
 // empty.
 int MonitorUnion(RECT* rect);
 
+// Measures `ScreenRect` anew. A desktop smaller than the screen grows to it, since nothing manages what would
+// stand outside; as after a change to a larger display.
+void MeasureScreen();
+
 // Overwrites a point of the map's client area with desktop coordinates and returns it. A map without area
 // gives 0.
 ActionPoint* MapToDesktop(ActionPoint* point);

@@ -4,6 +4,7 @@
 #include "actions/action_table.h"
 #include "actions/hotkeys.h"
 #include "core/coordinates.h"
+#include "core/quit.h"
 #include "core/state.h"
 #include "menus/menu_list.h"
 #include "regions/region_table.h"
@@ -13,6 +14,8 @@
 #include "settings/actions_file.h"
 #include "settings/ini.h"
 #include "settings/settings.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -37,7 +40,8 @@ static const StartValue StartValues[] = {
 
 static void SetRectangles() {
     MonitorUnion(&ScreenRect);
-    Quorl = {ScreenRect.left, ScreenRect.top, 4 * ScreenW(), 2 * ScreenH()};
+    Quorl = {ScreenRect.left, ScreenRect.top, std::min(4 * ScreenW(), LARGEST_DESKTOP),
+             std::min(2 * ScreenH(), LARGEST_DESKTOP)};
     VDesk = ScreenRect;
 }
 
@@ -70,5 +74,6 @@ int OnCreate(HWND window) {
     if (LoadLoadSetting(window, SETTINGS_FILE))
         LoadSettings(window);
     ClearLockedWindows();
+    SavingMakesSense();
     return 1;
 }

@@ -2,7 +2,9 @@
 #include "core/main.h"
 
 #include "actions/action_table.h"
+#include "core/crash.h"
 #include "core/main_window.h"
+#include "core/quit.h"
 #include "core/state.h"
 #include "dialogs/registry.h"
 #include "menus/tray.h"
@@ -37,6 +39,11 @@ static Function Find(HMODULE module, const char* name) {
 // A row whose function the running system lacks is offered nowhere.
 static void OfferRow(ActionId row, int bOffered) {
     ActionTable[row].flags = bOffered ? ACTION_KEY | ACTION_MOUSE : ACTION_OFF;
+}
+
+static void FindCompositor() {
+    if (const HMODULE compositor = LoadLibraryA("dwmapi.dll"))
+        pDwmGetWindowAttribute = Find<decltype(pDwmGetWindowAttribute)>(compositor, "DwmGetWindowAttribute");
 }
 
 static void FindOptionalFunctions() {
@@ -83,6 +90,7 @@ int StartUp(HINSTANCE instance) {
         static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(TRAY_ICON_RESOURCE), IMAGE_ICON, 16, 16, 0));
     RegisterMainClass(instance);
     FindOptionalFunctions();
+    FindCompositor();
     RegisterTipClass(instance);
     const DWORD exStyle = pSetLayeredWindowAttributes ? BASE_STYLE | WS_EX_LAYERED : BASE_STYLE;
     MainWnd = CreateWindowExA(exStyle, MAIN_CLASS, MAIN_CLASS, WS_POPUP | WS_THICKFRAME, 100, 100, 200, 100,
@@ -91,6 +99,8 @@ int StartUp(HINSTANCE instance) {
         MessageBoxA(nullptr, "Can't start app.", "Alas!", MB_OK);
         return 0;
     }
+    if (IsQuitting())
+        return 1; // a box of the creation let the user do so; the message loop ends at once
     if (pSetLayeredWindowAttributes)
         pSetLayeredWindowAttributes(MainWnd, 0, static_cast<BYTE>(Options.alpha), LWA_ALPHA);
     TrayIcon(MainWnd, NIM_ADD);
@@ -125,6 +135,7 @@ void ShutDown() {
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
     if (!StartUp(instance))
         return 0;
+    FoldWindowsOnCrash();
     const int result = RunMessageLoop();
     ShutDown();
     return result;

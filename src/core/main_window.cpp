@@ -21,6 +21,13 @@ static LRESULT OnEndMessage(HWND window, UINT, WPARAM, LPARAM) {
     return 0;
 }
 
+// wParam 0: another program has kept the user logged on.
+static LRESULT OnSessionEnd(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
+    if (wParam)
+        EndWithSession(window, (lParam & ENDSESSION_CLOSEAPP) != 0);
+    return 0;
+}
+
 static LRESULT OnColorsChanged(HWND window, UINT, WPARAM, LPARAM) {
     BackBrush = GetSysColorBrush(COLOR_BACKGROUND);
     Repaint(window);
@@ -98,6 +105,7 @@ static const MessageRow MainMessages[] = {
     {WM_DESTROY,           OnEndMessage      },
     {WM_CLOSE,             OnEndMessage      },
     {WM_QUIT,              OnEndMessage      },
+    {WM_ENDSESSION,        OnSessionEnd      },
     {WM_SYSCOLORCHANGE,    OnColorsChanged   },
     {WM_SETTINGCHANGE,     OnColorsChanged   },
     {WM_DEVMODECHANGE,     OnColorsChanged   },

@@ -7,9 +7,27 @@
 #include "settings/settings.h"
 
 static int bQuitting;
+static int bMaySave;
 
 int IsQuitting() {
     return bQuitting;
+}
+
+void SavingMakesSense() {
+    bMaySave = 1;
+}
+
+static void SaveIfWanted(HWND window) {
+    if (bMaySave && ActionTable[ROW_SAVE_SETTINGS].value)
+        SaveSettings(window);
+}
+
+void EndWithSession(HWND window, int bOthersStay) {
+    if (bQuitting)
+        return; // all is saved and folded
+    SaveIfWanted(window);
+    if (bOthersStay)
+        GatherWindows();
 }
 
 // The process ends only when control is back in the message loop, so all steps finish first.
@@ -21,8 +39,7 @@ int ConfirmQuit(HWND window) {
     bQuitting = 1;
     PostQuitMessage(0);
     TrayIcon(window, NIM_DELETE);
-    if (ActionTable[ROW_SAVE_SETTINGS].value)
-        SaveSettings(window);
+    SaveIfWanted(window);
     ClearAllActionKeys(window);
     GatherWindows();
     return 1;

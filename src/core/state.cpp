@@ -14,6 +14,7 @@ HICON TrayImage;
 
 decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;
 decltype(&LockWorkStation) pLockWorkStation;
+HRESULT(WINAPI* pDwmGetWindowAttribute)(HWND window, DWORD attribute, void* value, DWORD size);
 
 void Repaint(HWND window) {
     InvalidateRect(window, nullptr, TRUE);

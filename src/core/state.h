@@ -47,6 +47,7 @@ extern HICON TrayImage;       // 16 by 16 pixels
 // Null where the running system lacks the function.
 extern decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;
 extern decltype(&LockWorkStation) pLockWorkStation;
+extern HRESULT(WINAPI* pDwmGetWindowAttribute)(HWND window, DWORD attribute, void* value, DWORD size);
 
 // The map, or another window, is repainted before the caller goes on.
 void Repaint(HWND window);

@@ -61,9 +61,11 @@ static void MoveByCursor(HWND target, int x, int y) {
     const int dx = Scaled(x - DragState.prev.x, Quorl.right, map.right);
     const int dy = Scaled(y - DragState.prev.y, Quorl.bottom, map.bottom);
     DragState.prev = {x, y};
-    if (GetWindowRect(target, &place) && IsAlive(target)) // else it went this moment, or hangs
-        MoveWindow(target, place.left + dx, place.top + dy, place.right - place.left,
-                   place.bottom - place.top, TRUE);
+    if (!GetWindowRect(target, &place) || !IsAlive(target))
+        return; // it went this moment, or hangs
+    // Past the desktop's far edges nothing would manage it any more, and the end not bring it back.
+    MoveWindow(target, std::min(place.left + dx, Quorl.right), std::min(place.top + dy, Quorl.bottom),
+               place.right - place.left, place.bottom - place.top, TRUE);
 }
 
 static void StartDrag(HWND target, int x, int y) {

@@ -39,7 +39,7 @@ static void FocusUnder(POINT cursor) {
 }
 
 static int OnMove(HWND window, POINT cursor, int cause) {
-    MonitorUnion(&ScreenRect); // a change of display is noticed here
+    MeasureScreen(); // a change of display is noticed here
     const int bEdge = IsOn(ROW_FOLLOW_MOUSE);
     if (bEdge && !(IsOn(ROW_SUPPRESS_WHEN_DRAGGING) && (IsHeld(VK_LBUTTON) || IsHeld(VK_RBUTTON))))
         EdgeScroll(window, &cursor, cause);
@@ -57,7 +57,7 @@ static int OnClick(HWND window, POINT cursor, int cause) {
 }
 
 static int OnRelease(HWND, POINT, int) {
-    MonitorUnion(&ScreenRect);
+    MeasureScreen();
     Repaint(MainWnd);
     return 0;
 }

@@ -8,8 +8,14 @@
 #include "scroll/scroll_view.h"
 #include "scroll/window_table.h"
 
+#include <cstring>
+
 static const int MINIMIZED = -32000; // where the platform keeps minimized windows
 static const int SLACK = 4;          // pixels: a maximized window's frame stands this far outside the screen
+
+// The last window that stayed where it was when the view went to it, as a locked or a hung one does.
+static HWND Unmoved;
+static RECT UnmovedPlace;
 
 POINT MiddleOf(const RECT& place) {
     return {(place.right - place.left) / 2 + place.left, (place.bottom - place.top) / 2 + place.top};
@@ -31,6 +37,20 @@ static int IsHeldBack() {
            (IsHeld(VK_LBUTTON) || IsHeld(VK_MBUTTON) || IsHeld(VK_RBUTTON));
 }
 
+static int IsSameRect(const RECT& a, const RECT& b) {
+    return !std::memcmp(&a, &b, sizeof a);
+}
+
+// A window that the view cannot reach by going there would draw it on, tick by tick, to the desktop's corner.
+static void GoTo(HWND active, const RECT& place) {
+    if (active == Unmoved && IsSameRect(place, UnmovedPlace))
+        return;
+    RECT now{};
+    CenterOnActiveWindow(active);
+    Unmoved = GetWindowRect(active, &now) && IsSameRect(now, place) ? active : nullptr;
+    UnmovedPlace = place;
+}
+
 int FollowActiveWindow() {
     if (!ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value)
         return 0;
@@ -40,7 +60,7 @@ int FollowActiveWindow() {
         return 0;
     const FollowNeed need = NeedToFollow(place, ScreenW(), ScreenH(), Quorl);
     if (need == FOLLOW_SCROLL && !IsHeldBack())
-        CenterOnActiveWindow(active);
+        GoTo(active, place);
     return need != FOLLOW_NOT;
 }
 

@@ -21,7 +21,11 @@ static int IsTimeout(DWORD error) {
     return error == 0 || error == ERROR_TIMEOUT;
 }
 
-static void GatherWindow(HWND window) {
+static void TellRefusal() {
+    MessageBoxA(nullptr, "Not a timeout! A window won't restore!", "ok", MB_OK);
+}
+
+static void FoldWindow(HWND window, void (*refused)()) {
     RECT before{};
     if (!GetWindowRect(window, &before))
         return;
@@ -29,13 +33,22 @@ static void GatherWindow(HWND window) {
                       before.right - before.left, before.bottom - before.top};
     if (AcceptsPlace(window, &place, GATHER_PATIENCE))
         MoveWindow(window, place.x, place.y, place.width, place.height, TRUE);
-    else if (!IsTimeout(GetLastError()))
-        MessageBoxA(nullptr, "Not a timeout! A window won't restore!", "ok", MB_OK);
+    else if (!IsTimeout(GetLastError()) && refused)
+        refused();
+}
+
+// The box over a refusal lets the refresh timer rebuild the table, so the handles are kept apart from it.
+void FoldWindows(void (*refused)()) {
+    static HWND windows[MAX_WINDOWS];
+    RebuildWindowTable();
+    const int count = num_windows;
+    for (int row = 0; row < count; ++row)
+        windows[row] = WindowTable[row].hwnd;
+    for (int row = 0; row < count; ++row)
+        if (IsManagedWindow(windows[row]))
+            FoldWindow(windows[row], refused);
 }
 
 void GatherWindows() {
-    RebuildWindowTable();
-    for (int row = 0; row < num_windows; ++row)
-        if (IsManagedWindow(WindowTable[row].hwnd))
-            GatherWindow(WindowTable[row].hwnd);
+    FoldWindows(TellRefusal);
 }

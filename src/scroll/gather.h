@@ -7,5 +7,9 @@
 // any other refusal shows a box.
 void GatherWindows();
 
+// The same, with `refused` called for a window that neither took its new place nor ran out of time; null:
+// nobody is told.
+void FoldWindows(void (*refused)());
+
 // Pure: one coordinate of a window's corner, folded onto a screen of that size. Screen pixels.
 int FoldedCorner(int corner, int screen);

@@ -27,6 +27,7 @@ WindowPlace ShiftedPlace(const RECT& window, int dx, int dy, const RECT& vdesk, 
 
 int AcceptsPlace(HWND window, WindowPlace* place, UINT patience) {
     DWORD_PTR result = 0;
+    SetLastError(0); // a send that is given up leaves the error alone on some systems
     return SendMessageTimeoutA(window, WM_MOVING, 0, reinterpret_cast<LPARAM>(place), SMTO_ABORTIFHUNG,
                                patience, &result) != 0;
 }
@@ -58,19 +59,21 @@ static int ScrollListView(HWND window, int dx, int dy) {
                                SCROLL_PATIENCE, &result) != 0;
 }
 
-static void RestoreIfZoomed(HWND window) {
-    if (!ActionTable[ROW_RESTORE_MAXIMIZED].value || !IsZoomed(window) || !IsAlive(window))
-        return;
+// 0: it should be restored and does not answer.
+static int RestoreIfZoomed(HWND window) {
+    if (!ActionTable[ROW_RESTORE_MAXIMIZED].value || !IsZoomed(window))
+        return 1;
+    if (!IsAlive(window))
+        return 0;
     ShowWindow(window, SW_HIDE);
     ShowWindow(window, SW_RESTORE);
+    return 1;
 }
 
 static void ShiftWindow(HWND window, int dx, int dy) {
     RECT before{};
-    if (!GetWindowRect(window, &before))
-        return;
-    RestoreIfZoomed(window);
-    PlaceWindow(window, ShiftedPlace(before, dx, dy, VDesk, Quorl, Options.border));
+    if (GetWindowRect(window, &before) && RestoreIfZoomed(window))
+        PlaceWindow(window, ShiftedPlace(before, dx, dy, VDesk, Quorl, Options.border));
 }
 
 void ShiftWindows(int dx, int dy) {

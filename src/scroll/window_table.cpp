@@ -10,8 +10,12 @@
 WindowRow WindowTable[MAX_WINDOWS];
 int num_windows;
 
-// Windows that belong to the desktop itself, or to Quorl: they stay in sight.
-static const char* const FixedClasses[] = {"Progman", "Shell_TrayWnd", TIP_CLASS};
+constexpr DWORD DWMWA_CLOAKED = 14; // the compositor's header is no part of the plain Windows ones
+
+// Windows that belong to the desktop itself, or to Quorl: they stay in sight. Since Windows 7 the wallpaper
+// can have a host of its own, WorkerW, and each further display has its task bar.
+static const char* const FixedClasses[] = {"Progman", "Shell_TrayWnd", TIP_CLASS, "WorkerW",
+                                           "Shell_SecondaryTrayWnd"};
 
 // Tool bars that programs keep as windows of their own.
 static const char* const ToolbarClasses[] = {"BaseBar", "ToolbarWindow32", "ReBarWindow32"};
@@ -47,6 +51,14 @@ static int HasFixedClass(HWND window) {
     return ActionTable[ROW_IGNORE_TOOLWINS].value && IsOneOf(name, ToolbarClasses);
 }
 
+// Since Windows 8 the compositor keeps windows out of sight that all calls tell to be visible, as those of
+// suspended programs and of other virtual desktops.
+static int IsCloaked(HWND window) {
+    DWORD reasons = 0;
+    return pDwmGetWindowAttribute &&
+           pDwmGetWindowAttribute(window, DWMWA_CLOAKED, &reasons, sizeof reasons) >= 0 && reasons;
+}
+
 int IsManagedPlace(const RECT& place, const RECT& quorl) {
     return place.left != place.right && place.top != place.bottom && place.left <= quorl.right &&
            place.top <= quorl.bottom;
@@ -55,7 +67,8 @@ int IsManagedPlace(const RECT& place, const RECT& quorl) {
 // The cheap tests come first; most windows of a system are invisible.
 int IsManagedWindow(HWND window) {
     if (!window || !IsWindowEnabled(window) || !IsWindowVisible(window) || window == GetDesktopWindow() ||
-        IsIconic(window) || HasFixedClass(window) || window == MainWnd || window == TipWnd)
+        IsIconic(window) || HasFixedClass(window) || window == MainWnd || window == TipWnd ||
+        IsCloaked(window))
         return 0;
     RECT place{};
     return GetWindowRect(window, &place) && IsManagedPlace(place, Quorl);

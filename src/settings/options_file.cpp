@@ -2,6 +2,7 @@
 #include "settings/options_file.h"
 
 #include "actions/action_table.h"
+#include "core/coordinates.h"
 #include "core/state.h"
 #include "menus/menu_list.h"
 #include "regions/region_table.h"
@@ -24,6 +25,7 @@ struct PlainKey {
 
 } // namespace
 
+static const int WIDEST_BORDER = 100; // pixels; with the screen's middle in the band every move would scroll
 static const int ALL_BITS = -1;
 static const int LOW_BYTE = 255;
 static const int MENU_READ_ROOM = 4048;
@@ -36,14 +38,14 @@ static RECT StoredPlace; // of the Toolwin, in screen pixels
 // them again. Types and delays mean something whatever they hold. The rows stand in the order of the file.
 static const PlainKey OptionKeys[] = {
   // key                       where                            most             kept
-    {"border",                 &Options.border,                 LARGEST_DESKTOP, ALL_BITS},
+    {"border",                 &Options.border,                 WIDEST_BORDER,   ALL_BITS},
     {"maxscroll",              &Options.maxscroll,              LARGEST_DESKTOP, ALL_BITS},
     {"minscroll",              &Options.minscroll,              LARGEST_DESKTOP, ALL_BITS},
     {"mousescroll",            &Options.mousescroll,            LARGEST_DESKTOP, ALL_BITS},
     {"alpha",                  &Options.alpha,                  INT_MAX,         LOW_BYTE},
     {"mousescroll_type",       &Options.mousescroll_type,       INT_MAX,         ALL_BITS},
     {"mousescroll_delay",      &Options.mousescroll_delay,      INT_MAX,         ALL_BITS},
-    {"mousescroll_delay_time", &Options.mousescroll_delay_time, LARGEST_DESKTOP, ALL_BITS},
+    {"mousescroll_delay_time", &Options.mousescroll_delay_time, INT_MAX,         ALL_BITS},
     {"Quorl.left",             &Quorl.left,                     LARGEST_DESKTOP, ALL_BITS},
     {"Quorl.top",              &Quorl.top,                      LARGEST_DESKTOP, ALL_BITS},
     {"Quorl.right",            &Quorl.right,                    LARGEST_DESKTOP, ALL_BITS},
@@ -81,17 +83,17 @@ static void WriteKeys(LPCSTR file, const PlainKey (&keys)[COUNT]) {
     }
 }
 
-// A desktop smaller than the screen, as in a file from a smaller display, would leave windows outside that
-// nothing manages.
-static void HoldDesktopSize() {
-    Quorl.right = std::max<LONG>(Quorl.right, ScreenW());
-    Quorl.bottom = std::max<LONG>(Quorl.bottom, ScreenH());
+// A place that shows nothing on the screens there are, as from a display that was taken away.
+static int IsInSight(const RECT& place) {
+    RECT shared{};
+    return place.left < place.right && place.top < place.bottom &&
+           IntersectRect(&shared, &place, &ScreenRect);
 }
 
 static void ReadPlace(HWND window, LPCSTR file) {
     StoredPlace = {-1, -1, -1, -1}; // what an absent key gives
     ReadKeys(file, PlaceKeys);
-    if (StoredPlace.left > 0)
+    if (StoredPlace.left > 0 && IsInSight(StoredPlace))
         MoveWindow(window, StoredPlace.left, StoredPlace.top, StoredPlace.right - StoredPlace.left,
                    StoredPlace.bottom - StoredPlace.top, TRUE);
 }
@@ -130,7 +132,7 @@ static void WriteMenu(LPCSTR file) {
 int LoadOptions(HWND window, LPCSTR file) {
     num_regions = 0;
     ReadKeys(file, OptionKeys);
-    HoldDesktopSize();
+    MeasureScreen();
     ReadPlace(window, file);
     ReadMenu(file);
     return 1;

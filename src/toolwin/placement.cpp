@@ -46,7 +46,7 @@ int MoveToolwin(HWND window, int x, int y, int flags) {
     RECT before{};
     if (!GetWindowRect(window, &before))
         return 0;
-    MonitorUnion(&ScreenRect); // a display may have come or gone since the last move
+    MeasureScreen(); // a display may have come or gone since the last move
     const LONG left = flags & MOVE_BY_DISTANCE ? before.left + x : x;
     const LONG top = flags & MOVE_BY_DISTANCE ? before.top + y : y;
     RECT place{left, top, left + before.right - before.left, top + before.bottom - before.top};

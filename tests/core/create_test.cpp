@@ -20,6 +20,14 @@ TEST_F(Creation, AMonitorLeftOfThePrimaryOneMakesTheDesktopBeginThere) {
     EXPECT_EQ(num_windows, 1) << "the first look at the desktop finds the Toolwin";
 }
 
+TEST_F(Creation, AWideScreenMakesNoDesktopPastTheLargest) {
+    Desk.monitors = {
+        {0, 0, 11520, 16001}
+    };
+    ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_EQ(Quorl, Rect(0, 0, 32000, 32000));
+}
+
 TEST_F(Creation, FillsInTheDefaultsWhateverWasThere) {
     for (const ActionId row : {58, 70, 71, 72, 73, 77})
         ActionTable[row].value = 0;

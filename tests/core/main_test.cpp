@@ -36,7 +36,8 @@ TEST_F(Life, WithoutAWindowThereIsNoLife) {
     ASSERT_EQ(Desk.boxes.size(), 1U);
     EXPECT_EQ(Desk.boxes[0].text + "/" + Desk.boxes[0].caption, "Can't start app./Alas!");
     EXPECT_EQ(Desk.boxes[0].owner, nullptr);
-    EXPECT_EQ(CallsOf("LoadLibraryA") + CallsOf("GetMessageA"), 0);
+    EXPECT_EQ(CallsOf("GetMessageA"), 0);
+    EXPECT_EQ(Hook.window, nullptr);
 }
 
 TEST_F(Life, WhatTheSystemLacksIsNotOfferedAndTheOtherIs) {
@@ -97,6 +98,25 @@ TEST_F(Life, RunsUntilTheUserQuitsAndLeavesTheDesktopAsItWasFound) {
     EXPECT_EQ(Hook.set, (std::vector<int>{1, 0}));
     EXPECT_EQ(Desk.modules["quorl.dll"].loads, 0);
     EXPECT_TRUE(CameInOrder({"PostQuitMessage", "UnregisterHotKey", "EnumWindows", "FreeLibrary"}));
+}
+
+TEST_F(Life, ACrashFoldsTheWindowsBackOnceAndAsksNothing) {
+    const HWND far = OpenWindow("far", {1100, 200, 1300, 300});
+    const HWND refusing = OpenWindow("refusing", {1100, 200, 1300, 300});
+    RowOf(refusing).answer = DeskAnswer::Fails;
+    RowOf(refusing).error = ERROR_ACCESS_DENIED;
+    LONG verdict = -1;
+    Desk.script = {
+        [&] { verdict = Desk.crashFilter(nullptr); },
+        [&] {
+            RowOf(far).place = {1100, 200, 1300, 300};
+            Desk.crashFilter(nullptr);
+        },
+    };
+    WinMain(nullptr, nullptr, nullptr, 0);
+    EXPECT_EQ(verdict, EXCEPTION_CONTINUE_SEARCH) << "the system reports the crash";
+    EXPECT_EQ(CallsOf("SendMessageTimeoutA"), 2);
+    EXPECT_EQ(PlaceOf(far).left, 1100) << "a crash inside of that does not start it again";
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "core/quit.h"
 
 #include "actions/dispatch.h"
+#include "core/main.h"
 #include "core/state.h"
 #include "support/quorl_test.h"
 
@@ -30,9 +31,27 @@ TEST_F(Quitting, NewsThatWaitsInTheQueueMovesNoWindowThatWasFoldedBack) {
     Start();
     WillAnswer({IDYES});
     PostMessageA(MainWnd, WM_CLOSE, 0, 0);
-    PostMessageA(MainWnd, WM_HOTKEY, 30, 0); // pressed while the box was open
+    Desk.foreground = far;
+    for (const WPARAM row : {30, 101}) // pressed while the box was open
+        PostMessageA(MainWnd, WM_HOTKEY, row, 0);
     Settle();
     EXPECT_EQ(PlaceOf(far).left, 76);
+}
+
+// The box over a refused combination lets the user close Quorl before it has read its settings.
+TEST_F(Quitting, DuringTheStartSavesNothingAndLeavesNoIcon) {
+    Desk.modules["quorl.dll"].bInstalled = 1;
+    Desk.fault = {"RegisterHotKey", 1, 0, ERROR_HOTKEY_ALREADY_REGISTERED, 0};
+    Desk.inBox = [] {
+        Desk.inBox = nullptr;
+        ConfirmQuit(MainWnd);
+    };
+    WillAnswer({IDYES, IDOK});
+    EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
+    EXPECT_FALSE(Desk.bRunDry);
+    EXPECT_TRUE(Desk.tray.empty());
+    EXPECT_TRUE(Desk.files.empty());
+    EXPECT_TRUE(Hook.set.empty());
 }
 
 TEST_F(Quitting, ASecondYesSavesNothingOverWhatWasSaved) {
@@ -42,6 +61,29 @@ TEST_F(Quitting, ASecondYesSavesNothingOverWhatWasSaved) {
     const auto saved = Desk.files;
     EXPECT_EQ(ConfirmQuit(MainWnd), 1);
     EXPECT_EQ(Desk.files, saved) << "the bindings are released by now";
+}
+
+TEST_F(Quitting, TheEndOfTheSessionSavesIfThatIsWantedAndFoldsIfOthersStay) {
+    struct {
+        int bSave;
+        WPARAM bEnds;
+        LPARAM why;
+        bool bSaved;
+        int left;
+    } const cases[] = {
+        {1, 0, 0,                   false, 1100},
+        {0, 1, 0,                   false, 1100},
+        {1, 1, 0,                   true,  1100},
+        {0, 1, ENDSESSION_CLOSEAPP, false, 76  },
+    };
+    Start();
+    for (const auto& [bSave, bEnds, why, bSaved, left] : cases) {
+        Desk.files.clear();
+        ActionTable[ROW_SAVE_SETTINGS].value = bSave;
+        SendMessageA(MainWnd, WM_ENDSESSION, bEnds, why);
+        EXPECT_EQ(!Desk.files.empty(), bSaved);
+        EXPECT_EQ(PlaceOf(far).left, left);
+    }
 }
 
 } // namespace

@@ -52,6 +52,16 @@ TEST_F(DragOnMap, AHungWindowStaysWhereItIsAndInTheBackground) {
     EXPECT_EQ(Desk.foreground, before);
 }
 
+TEST_F(DragOnMap, AWindowIsNotDraggedToWhereNothingManagesIt) {
+    const HWND editor = OpenWindow("editor", {3800, 100, 4400, 320});
+    Start();
+    Grab(240, 15);
+    MoveOnMap(241, 15);
+    MoveOnMap(270, 15); // outside the map
+    EXPECT_EQ(PlaceOf(editor).left, 4096);
+    EXPECT_TRUE(IsManagedWindow(editor));
+}
+
 TEST_F(DragOnMap, ADragEndsOffTheBoxAndTakesHoldAnewWhenItComesBack) {
     const HWND editor = OpenWindow("editor", {160, 160, 480, 320});
     Start();

@@ -2,6 +2,7 @@
 
 #include "actions/dispatch.h"
 #include "core/state.h"
+#include "scroll/locked_windows.h"
 #include "scroll/scroll_view.h"
 #include "support/quorl_test.h"
 
@@ -88,6 +89,17 @@ TEST_F(Follow, AMinimizedOrUnmanagedActiveWindowNeitherScrollsNorRefreshes) {
     Desk.foreground = nullptr;
     EXPECT_EQ(FollowActiveWindow(), 0);
     EXPECT_EQ(VDesk.left, 0);
+}
+
+TEST_F(Follow, AWindowThatStaysWhereItIsDoesNotDrawTheViewOnAndOn) {
+    Start(1);
+    LockWindow(editor);
+    Wait(1000);
+    EXPECT_EQ(VDesk, Rect(1088, 566, 2112, 1334)) << "once";
+
+    RowOf(editor).place = {1400, 100, 1600, 200};
+    Wait(100);
+    EXPECT_EQ(VDesk.left, 2076) << "another place is gone to";
 }
 
 TEST_F(Follow, TheActiveWindowIsCentredOnCommandAndStaysActive) {

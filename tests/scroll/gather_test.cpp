@@ -2,6 +2,7 @@
 
 #include "core/state.h"
 #include "scroll/locked_windows.h"
+#include "scroll/window_table.h"
 #include "support/quorl_test.h"
 
 namespace {
@@ -75,6 +76,10 @@ TEST_F(Gather, AnyOtherRefusalIsToldForEachWindow) {
     const HWND last = OpenWindow("last", {1030, 10, 1100, 50});
     Start();
     WillAnswer({IDOK, IDOK});
+    Desk.inBox = [] { // the box comes to stand before all others
+        OpenWindow("box", {10, 10, 20, 20});
+        RebuildWindowTable();
+    };
 
     GatherWindows();
 

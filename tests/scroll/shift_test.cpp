@@ -55,14 +55,17 @@ TEST_F(Shift, EveryWindowIsAskedMovedPaintedAndShown) {
 
 TEST_F(Shift, AProgramThatDoesNotAnswerCostsItsPatienceOnceAndNothingElseSuffers) {
     const HWND list = OpenWindow("list", {10, 10, 50, 50}, "SysListView32");
-    for (const HWND silent : {editor, list})
+    const HWND zoomed = OpenWindow("zoomed", {10, 10, 50, 50});
+    ShowWindow(zoomed, SW_MAXIMIZE);
+    for (const HWND silent : {editor, list, zoomed})
         RowOf(silent).answer = DeskAnswer::TimesOut;
     Start();
+    ActionTable[ROW_RESTORE_MAXIMIZED].value = 1;
     const DWORD before = Desk.now;
 
     ShiftWindows(30, 0);
 
-    EXPECT_EQ(Desk.now - before, 200U) << "100 ms for each of the two";
+    EXPECT_EQ(Desk.now - before, 300U) << "100 ms for each of the three";
     EXPECT_EQ(PlaceOf(editor), Rect(100, 100, 500, 400));
     EXPECT_EQ(PlaceOf(list), Rect(10, 10, 50, 50));
     EXPECT_EQ(PlaceOf(other), Rect(630, 100, 930, 400));

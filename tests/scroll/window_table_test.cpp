@@ -32,19 +32,21 @@ TEST_F(Table, AWindowIsManagedUnlessItIsOutOfUseOrPartOfTheDesktop) {
         DWORD added, taken; // styles
         int bManaged;
     } const cases[] = {
-        {"Program",         0,           0,          1},
-        {"#32770",          0,           0,          1},
-        {"Program",         WS_DISABLED, 0,          0},
-        {"Program",         WS_MINIMIZE, 0,          0},
-        {"Program",         0,           WS_VISIBLE, 0},
-        {"Progman",         0,           0,          0},
-        {"Shell_TrayWnd",   0,           0,          0},
-        {"w_ToolTip",       0,           0,          0},
-        {"progman",         0,           0,          1},
-        {"Progman2",        0,           0,          1},
-        {"BaseBar",         0,           0,          0},
-        {"ToolbarWindow32", 0,           0,          0},
-        {"ReBarWindow32",   0,           0,          0},
+        {"Program",                0,           0,          1},
+        {"#32770",                 0,           0,          1},
+        {"Program",                WS_DISABLED, 0,          0},
+        {"Program",                WS_MINIMIZE, 0,          0},
+        {"Program",                0,           WS_VISIBLE, 0},
+        {"Progman",                0,           0,          0},
+        {"Shell_TrayWnd",          0,           0,          0},
+        {"w_ToolTip",              0,           0,          0},
+        {"WorkerW",                0,           0,          0},
+        {"Shell_SecondaryTrayWnd", 0,           0,          0},
+        {"progman",                0,           0,          1},
+        {"Progman2",               0,           0,          1},
+        {"BaseBar",                0,           0,          0},
+        {"ToolbarWindow32",        0,           0,          0},
+        {"ReBarWindow32",          0,           0,          0},
     };
     ASSERT_EQ(StartQuorl(), 1);
     for (const auto& [className, added, taken, bManaged] : cases) {
@@ -55,6 +57,25 @@ TEST_F(Table, AWindowIsManagedUnlessItIsOutOfUseOrPartOfTheDesktop) {
     Command(ROW_IGNORE_TOOLWINS);
     EXPECT_TRUE(IsManagedWindow(OpenWindow("", {10, 10, 50, 50}, "BaseBar"))) << "not ignored any more";
     EXPECT_FALSE(IsManagedWindow(OpenWindow("", {10, 10, 50, 50}, "Progman")));
+}
+
+HRESULT CloakedAsTold(HWND window, DWORD attribute, void* value, DWORD size) {
+    EXPECT_EQ(attribute, 14U);
+    EXPECT_EQ(size, 4U);
+    if (!RowOf(window).handle)
+        return -1;
+    *static_cast<DWORD*>(value) = RowOf(window).bCloaked ? 2 : 0;
+    return 0;
+}
+
+TEST_F(Table, AWindowThatTheCompositorHidesIsNotManaged) {
+    Desk.modules["dwmapi.dll"].exports["DwmGetWindowAttribute"] =
+        reinterpret_cast<FARPROC>(reinterpret_cast<void*>(CloakedAsTold));
+    ASSERT_EQ(StartQuorl(), 1);
+    const HWND window = OpenWindow("", {10, 10, 50, 50});
+    EXPECT_TRUE(IsManagedWindow(window));
+    RowOf(window).bCloaked = 1;
+    EXPECT_FALSE(IsManagedWindow(window));
 }
 
 TEST_F(Table, QuorlsOwnWindowsAndThoseThatAreNoneAreNotManaged) {

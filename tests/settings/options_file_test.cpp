@@ -70,7 +70,7 @@ TEST_F(OptionsFile, NumbersWithWhichWindowsWouldBeLostAreHeld) {
     }
     StoreFile("maxscroll=2147483647\nborder=2147483647\nmousescroll_type=99\nmousescroll_delay=2147483647\n");
     Command(48);
-    EXPECT_EQ(Options.border, 32000);
+    EXPECT_EQ(Options.border, 100);
     EXPECT_EQ(Options.mousescroll_type, 99) << "any type has a meaning";
     EXPECT_EQ(Options.mousescroll_delay, INT_MAX);
     for (int time = 0; time < 3; ++time)
@@ -85,10 +85,12 @@ TEST_F(OptionsFile, TheToolwinGoesToAStoredPlaceRightOfZero) {
         int left, top, right, bottom;
         RECT place;
     } const cases[] = {
-        {10, 20, 210,     80,  stays            },
-        {0,  5,  300,     300, stays            },
-        {-9, 5,  300,     300, stays            },
-        {1,  0,  INT_MAX, 9,   {1, 0, 32001, 13}}, // as far as the window's own limits go
+        {10,   20, 210,     80,  stays            },
+        {0,    5,  300,     300, stays            },
+        {-9,   5,  300,     300, stays            },
+        {1,    0,  INT_MAX, 9,   {1, 0, 32001, 13}}, // as far as the window's own limits go
+        {1024, 5,  1200,    80,  {1, 0, 32001, 13}}, // from a display that is gone
+        {30,   5,  20,      80,  {1, 0, 32001, 13}},
     };
     for (const auto& given : cases) {
         StoreFile("quorl_pos.left=" + std::to_string(given.left) + "\nquorl_pos.top=" +

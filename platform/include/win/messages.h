@@ -28,6 +28,7 @@ constexpr UINT WM_CLOSE = 16;
 constexpr UINT WM_QUIT = 18;
 constexpr UINT WM_ERASEBKGND = 20;
 constexpr UINT WM_SYSCOLORCHANGE = 21;
+constexpr UINT WM_ENDSESSION = 22;
 constexpr UINT WM_SETTINGCHANGE = 26;
 constexpr UINT WM_DEVMODECHANGE = 27;
 constexpr UINT WM_GETMINMAXINFO = 36;
@@ -55,6 +56,7 @@ constexpr UINT WM_HOTKEY = 786;
 constexpr UINT WM_USER = 1024;
 
 constexpr WPARAM SC_SCREENSAVE = 0xF140;
+constexpr LPARAM ENDSESSION_CLOSEAPP = 1;
 
 constexpr UINT SMTO_ABORTIFHUNG = 2;
 

@@ -24,6 +24,7 @@ using ULONG_PTR = std::uintptr_t;
 using WPARAM = UINT_PTR;
 using LPARAM = LONG_PTR;
 using LRESULT = LONG_PTR;
+using HRESULT = LONG;
 using COLORREF = DWORD;
 using LPSTR = char*;
 using LPCSTR = const char*;

@@ -2,7 +2,6 @@
 #include "dialogs/binding_text.h"
 
 #include <cstdio>
-#include <cstring>
 
 namespace {
 
@@ -72,31 +71,40 @@ void KeyText(char (&text)[KEY_TEXT_ROOM], int vk) {
     std::snprintf(text, sizeof text, "%c", vk);
 }
 
-// All prefixes and buttons together are 14 characters: they fit.
+// Appends to a text of `length` characters; gives its new length. All prefixes and buttons are 14 characters
+// together: there is always room.
 template <int COUNT>
-static void AppendFlags(char (&text)[sizeof ActionRow::text], const FlagText (&rows)[COUNT], int flags) {
+static int AppendFlags(char (&text)[sizeof ActionRow::text], int length, const FlagText (&rows)[COUNT],
+                       int flags) {
     for (const FlagText& row : rows)
         if (flags & row.flag)
-            std::strcat(text, row.text);
+            length +=
+                std::snprintf(text + length, sizeof text - static_cast<std::size_t>(length), "%s", row.text);
+    return length;
 }
 
 const char* HotkeyText(ActionRow& row) {
-    if (row.key_mods < 0)
-        return std::strcpy(row.text, "<hotkey undefined>");
-    row.text[0] = 0;
-    AppendFlags(row.text, ModifierTexts, row.key_mods);
+    if (row.key_mods < 0) {
+        std::snprintf(row.text, sizeof row.text, "<hotkey undefined>");
+        return row.text;
+    }
     char key[KEY_TEXT_ROOM] = "";
     if (row.vk >= 0)
         KeyText(key, row.vk);
-    return std::strcat(row.text, key);
+    row.text[0] = 0;
+    const int length = AppendFlags(row.text, 0, ModifierTexts, row.key_mods);
+    std::snprintf(row.text + length, sizeof row.text - static_cast<std::size_t>(length), "%s", key);
+    return row.text;
 }
 
 const char* MouseText(ActionRow& row) {
-    if (row.mouse_mods < 0)
-        return std::strcpy(row.text, "<mkey undefined>");
+    if (row.mouse_mods < 0) {
+        std::snprintf(row.text, sizeof row.text, "<mkey undefined>");
+        return row.text;
+    }
     row.text[0] = 0;
-    AppendFlags(row.text, ModifierTexts, row.mouse_mods);
+    const int length = AppendFlags(row.text, 0, ModifierTexts, row.mouse_mods);
     if (row.mouse_btn >= 0)
-        AppendFlags(row.text, ButtonTexts, row.mouse_btn);
+        AppendFlags(row.text, length, ButtonTexts, row.mouse_btn);
     return row.text;
 }

@@ -142,8 +142,7 @@ TEST(ActionsDialog, EachTabListsItsActionsAndShowsTheBindingOfTheSelectedOne) {
     EXPECT_SOON(ControlText(dialog, GROUP), std::string("Keyboard"));
     EXPECT_SOON(Shown(dialog), std::string("11100"));
     EXPECT_SOON(NumItems(dialog), 103);
-    Press(Control(dialog, IDOK));
-    EXPECT_TRUE(WaitForEnd(dialog));
+    CloseBy(dialog, IDOK);
 }
 
 TEST(ActionsDialog, AnAppliedKeyWorksAtOnceAndClearReleasesIt) {

@@ -100,8 +100,7 @@ TEST(CustomizeMenuDialog, EntriesComeAndGoAndMoveAndTheFileHasThemInTheirOrder) 
     EXPECT_SOON(Selected(dialog), 0);
     const std::string edited = "54|55|74|49|56|57|-1|-2|52|59";
     EXPECT_EQ(SavedMenu(edited), edited);
-    Press(Control(dialog, IDOK));
-    EXPECT_TRUE(WaitForEnd(dialog));
+    CloseBy(dialog, IDOK);
     EXPECT_EQ(SavedMenu(edited), edited);
 }
 
@@ -117,8 +116,7 @@ TEST(CustomizeMenuDialog, CancelRestoresTheMenuAsItStoodWhenTheDialogOpened) {
     EXPECT_SOON(PlaceOf(dialog) == centered, false);
     EXPECT_EQ(NumEntries(dialog), 10);
     EXPECT_EQ(SavedMenu("54|55|-2|74|77|49|-1|56|57|-1"), "54|55|-2|74|77|49|-1|56|57|-1");
-    Press(Control(dialog, IDCANCEL));
-    EXPECT_TRUE(WaitForEnd(dialog));
+    CloseBy(dialog, IDCANCEL);
     EXPECT_EQ(SavedMenu(START_MENU), START_MENU);
 }
 

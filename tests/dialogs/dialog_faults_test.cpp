@@ -22,6 +22,9 @@ const struct {
     {116, 9, IDOK},
     {56,  1, IDOK},
     {57,  0, IDOK},
+    {54,  2, IDOK},
+    {55,  3, IDOK},
+    {74,  6, IDOK},
 };
 
 // The user opens each dialog that comes, fills in what it asks for, and closes it.

@@ -40,6 +40,8 @@ make_prefix() {
     "${ground[@]}" wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Quorl /d 1024x768 /f
     # Wine finds its symbols for the buttons of windows only here.
     "${ground[@]}" ln -sf /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+    # A program that crashes is not to leave a dialog on the desktop of the next one.
+    "${ground[@]}" wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f
     "${ground[@]}" wineserver -w
     "${ground[@]}" touch "$WINEPREFIX/ready"
 }

@@ -14,7 +14,7 @@ TEST(Crash, TheWindowsComeBackBeforeTheProcessEnds) {
     const auto nowhere = reinterpret_cast<LPTHREAD_START_ROUTINE>(static_cast<UINT_PTR>(16));
     ASSERT_TRUE(CreateRemoteThread(process, nullptr, 0, nowhere, nullptr, 0, nullptr));
 
-    EXPECT_NE(WaitForExit(process), DWORD{STILL_ACTIVE});
-    EXPECT_EQ(PlaceOf(editor), (Place{300, 200, 700, 500}));
+    EXPECT_SOON(PlaceOf(editor), (Place{300, 200, 700, 500}));
+    TerminateProcess(process, 0); // it waits for whoever reports the crash
     CloseHandle(process);
 }

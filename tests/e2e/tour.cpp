@@ -369,6 +369,37 @@ void StartAgain() {
     TakePicture("9-again");
 }
 
+struct DialogStop {
+    int row;
+    const char* title;
+    const char* picture;
+    int closeId;
+};
+
+// Each dialog by the number of its action, as a key bound to it would ask for it.
+void WalkTheDialogs() {
+    static const DialogStop stops[] = {
+        {54,  "Options...",              "10-options",        IDCANCEL},
+        {55,  "Actions...",              "11-actions",        IDOK    },
+        {74,  "Customize Menu...",       "12-customize-menu", IDCANCEL},
+        {49,  "Name Region",             "13-name-region",    IDCANCEL},
+        {52,  "Find Windows...",         "14-find-window",    IDOK    },
+        {53,  "Resize Windows...",       "15-resize-window",  1044    },
+        {116, "Toolwin Transparency...", "16-transparency",   IDOK    },
+        {56,  "Quorl Help",              "17-help",           IDOK    },
+        {57,  "About...",                "18-about",          IDOK    },
+    };
+    for (const DialogStop& stop : stops) {
+        const HWND dialog = OpenByRow(stop.row, stop.title);
+        Insist(dialog != nullptr, stop.title);
+        const Place place = PlaceOf(dialog);
+        Say("  action %d opens \"%s\" at %d, %d, %d x %d in size", stop.row, stop.title, place.left,
+            place.top, place.right - place.left, place.bottom - place.top);
+        TakePicture(stop.picture);
+        CloseBy(dialog, stop.closeId);
+    }
+}
+
 void End() {
     PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
     AnswerYes();
@@ -380,19 +411,20 @@ struct Chapter {
     void (*play)();
 };
 const Chapter Chapters[] = {
-    {"Four programs and Quorl",                             Open         },
-    {"Keys slide the view over the desktop",                PressTheKeys },
-    {"The map takes the mouse",                             PressTheMap  },
-    {"The map is dragged out of the way",                   DragTheMap   },
-    {"The menu opens at the mouse",                         UseTheMenu   },
-    {"Quitting brings every window back",                   QuitByTheMenu},
-    {"Regions and keys of one's own, from a settings file", StartWithFile},
-    {"Regions are reached by keys and by the menu",         VisitRegions },
-    {"A box on the map is a handle to its window",          DragABox     },
-    {"The mouse pushes the view at the screen's edge",      PushAtTheEdge},
-    {"The desktop grows",                                   Rearrange    },
-    {"What was saved is there again",                       StartAgain   },
-    {"The end",                                             End          },
+    {"Four programs and Quorl",                             Open          },
+    {"Keys slide the view over the desktop",                PressTheKeys  },
+    {"The map takes the mouse",                             PressTheMap   },
+    {"The map is dragged out of the way",                   DragTheMap    },
+    {"The menu opens at the mouse",                         UseTheMenu    },
+    {"Quitting brings every window back",                   QuitByTheMenu },
+    {"Regions and keys of one's own, from a settings file", StartWithFile },
+    {"Regions are reached by keys and by the menu",         VisitRegions  },
+    {"A box on the map is a handle to its window",          DragABox      },
+    {"The mouse pushes the view at the screen's edge",      PushAtTheEdge },
+    {"The desktop grows",                                   Rearrange     },
+    {"What was saved is there again",                       StartAgain    },
+    {"Everything is set in dialogs",                        WalkTheDialogs},
+    {"The end",                                             End           },
 };
 
 } // namespace

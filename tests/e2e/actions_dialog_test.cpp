@@ -26,66 +26,12 @@ enum ControlId {
 // Items of the lists: "Display Quorl menu" and "Move one desktop to the right".
 constexpr int KEY_MENU = 0, KEY_RIGHT_SCREEN = 25, MOUSE_MENU = 0, MOUSE_RIGHT_SCREEN = 21;
 
-// Sends a message that answers in a record. Lists and tabs take it only in memory of their own program.
-template <typename Record, typename Fill>
-Record Asked(HWND window, UINT message, WPARAM wParam, Fill fill) {
-    DWORD id = 0;
-    GetWindowThreadProcessId(window, &id);
-    const HANDLE program = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, id);
-    void* const there = VirtualAllocEx(program, nullptr, sizeof(Record), MEM_COMMIT, PAGE_READWRITE);
-    Record record{};
-    fill(record, static_cast<Record*>(there));
-    EXPECT_TRUE(WriteProcessMemory(program, there, &record, sizeof record, nullptr));
-    SendMessageA(window, message, wParam, reinterpret_cast<LPARAM>(there));
-    EXPECT_TRUE(ReadProcessMemory(program, there, &record, sizeof record, nullptr));
-    VirtualFreeEx(program, there, 0, MEM_RELEASE);
-    CloseHandle(program);
-    return record;
-}
-
-std::string ItemText(HWND dialog, int item, int column) {
-    struct Letter {
-        LVITEMA item;
-        char text[64];
-    };
-    return Asked<Letter>(Control(dialog, LIST), LVM_GETITEMTEXTA, static_cast<WPARAM>(item),
-                         [column](Letter& letter, Letter* there) {
-                             letter.item.iSubItem = column;
-                             letter.item.pszText = there->text;
-                             letter.item.cchTextMax = sizeof letter.text;
-                         })
-        .text;
-}
-
 std::string BindingOf(HWND dialog, int item) {
-    return ItemText(dialog, item, 0);
-}
-
-void PressItem(HWND dialog, int item) {
-    const HWND list = Control(dialog, LIST);
-    SendMessageA(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(item), FALSE);
-    const RECT place = Asked<RECT>(list, LVM_GETITEMRECT, static_cast<WPARAM>(item),
-                                   [](RECT& rect, RECT*) { rect.left = LVIR_BOUNDS; });
-    PressAt(list, {place.left + 30, (place.top + place.bottom) / 2});
-}
-
-void PressTab(HWND dialog, int tab) {
-    const HWND tabs = Control(dialog, TABS);
-    const RECT place = Asked<RECT>(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(tab), [](RECT&, RECT*) {});
-    PressAt(tabs, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+    return ItemText(Control(dialog, LIST), item, 0);
 }
 
 int NumItems(HWND dialog) {
     return static_cast<int>(SendMessageA(Control(dialog, LIST), LVM_GETITEMCOUNT, 0, 0));
-}
-
-// The first press opens the drop-down list, the second one closes it; the key then goes to the closed list.
-void ChooseKey(HWND dialog, WORD letter) {
-    const HWND keys = Control(dialog, KEYS);
-    Press(keys);
-    Press(keys);
-    PressKeys({letter});
-    EXPECT_SOON(ControlText(dialog, KEYS), std::string(1, static_cast<char>(letter)));
 }
 
 // 1 if no program holds the combination.
@@ -121,24 +67,25 @@ TEST(ActionsDialog, EachTabListsItsActionsAndShowsTheBindingOfTheSelectedOne) {
     EXPECT_SOON(NumItems(dialog), 103);
     EXPECT_SOON(Shown(dialog), std::string("11100"));
     EXPECT_SOON(BindingOf(dialog, KEY_MENU), std::string("S-C-A-Space"));
-    EXPECT_SOON(ItemText(dialog, KEY_MENU, 1), std::string("Display Quorl menu"));
+    EXPECT_SOON(ItemText(Control(dialog, LIST), KEY_MENU, 1), std::string("Display Quorl menu"));
     EXPECT_SOON(BindingOf(dialog, 102), std::string("<hotkey undefined>"));
-    EXPECT_SOON(ItemText(dialog, 102, 1), std::string("Toggle Ignore Toolwins"));
-    PressItem(dialog, KEY_RIGHT_SCREEN);
+    EXPECT_SOON(ItemText(Control(dialog, LIST), 102, 1), std::string("Toggle Ignore Toolwins"));
+    PressItem(Control(dialog, LIST), KEY_RIGHT_SCREEN);
     EXPECT_SOON(Flags(dialog), std::string("011000"));
     EXPECT_SOON(ControlText(dialog, KEYS), std::string("Right"));
 
-    PressTab(dialog, 1);
+    PressTab(Control(dialog, TABS), 1);
     EXPECT_SOON(ControlText(dialog, GROUP), std::string("Mouse"));
     EXPECT_SOON(Shown(dialog), std::string("00011"));
     EXPECT_SOON(NumItems(dialog), 79);
     EXPECT_SOON(BindingOf(dialog, MOUSE_MENU), std::string("RB"));
-    EXPECT_SOON(ItemText(dialog, MOUSE_RIGHT_SCREEN, 1), std::string("Move one desktop to the right"));
+    EXPECT_SOON(ItemText(Control(dialog, LIST), MOUSE_RIGHT_SCREEN, 1),
+                std::string("Move one desktop to the right"));
     EXPECT_TRUE(GetWindowLongA(Control(dialog, LIST), GWL_STYLE) & WS_VSCROLL) << "the mouse can scroll it";
-    PressItem(dialog, 4);
+    PressItem(Control(dialog, LIST), 4);
     EXPECT_SOON(Flags(dialog), std::string("100010")) << "Shift and the left button";
 
-    PressTab(dialog, 0);
+    PressTab(Control(dialog, TABS), 0);
     EXPECT_SOON(ControlText(dialog, GROUP), std::string("Keyboard"));
     EXPECT_SOON(Shown(dialog), std::string("11100"));
     EXPECT_SOON(NumItems(dialog), 103);
@@ -151,8 +98,8 @@ TEST(ActionsDialog, AnAppliedKeyWorksAtOnceAndClearReleasesIt) {
     const HWND dialog = OpenActions();
     ASSERT_TRUE(dialog);
     EXPECT_FALSE(IsFree(MOD_CONTROL | MOD_ALT, VK_RIGHT));
-    PressItem(dialog, KEY_RIGHT_SCREEN);
-    ChooseKey(dialog, 'Q');
+    PressItem(Control(dialog, LIST), KEY_RIGHT_SCREEN);
+    ChooseLetter(Control(dialog, KEYS), 'Q');
     Press(Control(dialog, APPLY));
     EXPECT_SOON(BindingOf(dialog, KEY_RIGHT_SCREEN), std::string("C-A-Q"));
     EXPECT_SOON(IsFree(MOD_CONTROL | MOD_ALT, VK_RIGHT), true) << "the old key is released";
@@ -174,8 +121,8 @@ TEST(ActionsDialog, AKeyThatAnotherProgramHoldsIsReportedAndTheRowStandsUnbound)
     const HWND dialog = OpenActions();
     ASSERT_TRUE(dialog);
     ASSERT_TRUE(RegisterHotKey(nullptr, 1, MOD_CONTROL | MOD_ALT, 'Q'));
-    PressItem(dialog, KEY_RIGHT_SCREEN);
-    ChooseKey(dialog, 'Q');
+    PressItem(Control(dialog, LIST), KEY_RIGHT_SCREEN);
+    ChooseLetter(Control(dialog, KEYS), 'Q');
     PressOnly(Control(dialog, APPLY));
     const HWND box = WaitForBox("Error");
     ASSERT_TRUE(box);
@@ -194,11 +141,11 @@ TEST(ActionsDialog, AMouseCombinationCountsAtTheNextClickOnTheMap) {
     const HWND editor = OpenWindow("editor", place);
     const HWND dialog = OpenActions();
     ASSERT_TRUE(dialog);
-    PressTab(dialog, 1);
-    PressItem(dialog, MOUSE_MENU);
+    PressTab(Control(dialog, TABS), 1);
+    PressItem(Control(dialog, LIST), MOUSE_MENU);
     Press(Control(dialog, CLEAR));
     EXPECT_SOON(BindingOf(dialog, MOUSE_MENU), std::string("<mkey undefined>"));
-    PressItem(dialog, MOUSE_RIGHT_SCREEN);
+    PressItem(Control(dialog, LIST), MOUSE_RIGHT_SCREEN);
     Press(Control(dialog, LEFT));
     Press(Control(dialog, RIGHT));
     Press(Control(dialog, APPLY));

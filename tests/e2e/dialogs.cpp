@@ -3,6 +3,8 @@
 
 #include "mouse.h"
 
+#include <commctrl.h>
+
 #include <cctype>
 
 namespace {
@@ -52,6 +54,23 @@ void Until(Came came, Act act) {
     act();
     for (int tries = 0; tries < 4 && !came(); ++tries)
         act();
+}
+
+// Sends a message that answers in a record. Lists and tabs take it only in memory of their own program.
+template <typename Record, typename Fill>
+Record Asked(HWND window, UINT message, WPARAM wParam, Fill fill) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    const HANDLE program = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, id);
+    void* const there = VirtualAllocEx(program, nullptr, sizeof(Record), MEM_COMMIT, PAGE_READWRITE);
+    Record record{};
+    fill(record, static_cast<Record*>(there));
+    EXPECT_TRUE(WriteProcessMemory(program, there, &record, sizeof record, nullptr));
+    SendMessageA(window, message, wParam, reinterpret_cast<LPARAM>(there));
+    EXPECT_TRUE(ReadProcessMemory(program, there, &record, sizeof record, nullptr));
+    VirtualFreeEx(program, there, 0, MEM_RELEASE);
+    CloseHandle(program);
+    return record;
 }
 
 } // namespace
@@ -154,4 +173,37 @@ void PressRow(HWND list, int row) {
           [&] {
               PressAt(list, {20, (row - top) * height + height / 2});
           });
+}
+
+std::string ItemText(HWND list, int item, int column) {
+    struct Letter {
+        LVITEMA item;
+        char text[64];
+    };
+    return Asked<Letter>(list, LVM_GETITEMTEXTA, static_cast<WPARAM>(item),
+                         [column](Letter& letter, Letter* there) {
+                             letter.item.iSubItem = column;
+                             letter.item.pszText = there->text;
+                             letter.item.cchTextMax = sizeof letter.text;
+                         })
+        .text;
+}
+
+void PressItem(HWND list, int item) {
+    SendMessageA(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(item), FALSE);
+    const RECT place = Asked<RECT>(list, LVM_GETITEMRECT, static_cast<WPARAM>(item),
+                                   [](RECT& rect, RECT*) { rect.left = LVIR_BOUNDS; });
+    PressAt(list, {place.left + 30, (place.top + place.bottom) / 2});
+}
+
+void PressTab(HWND tabs, int tab) {
+    const RECT place = Asked<RECT>(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(tab), [](RECT&, RECT*) {});
+    PressAt(tabs, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+}
+
+void ChooseLetter(HWND combo, char letter) {
+    Press(combo);
+    Press(combo);
+    PressKeys({static_cast<WORD>(letter)});
+    EXPECT_SOON(ControlText(GetParent(combo), GetDlgCtrlID(combo)), std::string(1, letter));
 }

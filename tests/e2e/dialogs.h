@@ -42,3 +42,12 @@ bool IsShown(HWND dialog, int id);
 std::vector<std::string> ListTexts(HWND list);
 int SelectedRow(HWND list);        // -1: none
 void PressRow(HWND list, int row); // scrolls it into sight and clicks it
+
+// List views and tabs, by number from 0.
+std::string ItemText(HWND list, int item, int column);
+void PressItem(HWND list, int item); // scrolls it into sight and clicks it
+void PressTab(HWND tabs, int tab);
+
+// Chooses a capital letter of a drop-down list. The first press opens it, the second one closes it; the key
+// then goes to the closed list.
+void ChooseLetter(HWND combo, char letter);

@@ -4,88 +4,17 @@
 #include "dialogs.h"
 #include "mouse.h"
 #include "settings_file.h"
-
-#include <cstdarg>
-#include <cstdio>
+#include "tour_dialogs.h"
+#include "tour_words.h"
 
 namespace {
 
-struct Exhibit {
-    const char* name;
-    const char* command;
-    const char* windowClass;
-    Place home; // where it stands while the view is at 0, 0; no width: as it comes
-    HWND window;
-};
-Exhibit Exhibits[] = {
-    {"notepad",  "notepad",  "Notepad",         {60, 250, 560, 640},    nullptr},
-    {"winemine", "winemine", "WineMine",        {640, 330, 640, 330},   nullptr},
-    {"clock",    "clock",    "CLClass",         {700, 80, 920, 300},    nullptr},
-    {"regedit",  "regedit",  "RegEdit_RegEdit", {1330, 320, 1930, 670}, nullptr},
-};
-
 HANDLE QuorlProcess;
-
-void Say(const char* format, ...) {
-    va_list values;
-    va_start(values, format);
-    vprintf(format, values);
-    va_end(values);
-    printf("\n");
-    fflush(stdout);
-}
-
-// Ends the tour where something did not come as announced.
-void Insist(bool came, const char* wanted) {
-    if (came)
-        return;
-    Say("This did not come as announced. Wanted: %s", wanted);
-    CleanDesktop();
-    exit(1);
-}
-
-void TakePicture(const char* name) {
-    char line[16];
-    Sleep(500); // the programs paint at their own pace
-    Say("picture %s", name);
-    Insist(fgets(line, sizeof line, stdin) != nullptr, "an answer from who takes the pictures");
-}
-
-std::string Standing(const Exhibit& exhibit, const Place& place) {
-    char text[64];
-    snprintf(text, sizeof text, "%s at %d, %d", exhibit.name, place.left, place.top);
-    return text;
-}
-
-// Tells where all windows stand, which should be as the view at this place of the desktop shows them.
-void SeeView(const char* act, LONG x, LONG y) {
-    std::string report;
-    std::string wanted;
-    for (const Exhibit& exhibit : Exhibits) {
-        const Place place = Moved(exhibit.home, -x, -y);
-        const Place now = Soon([&] { return PlaceOf(exhibit.window); }, place);
-        report += (report.empty() ? "" : "; ") + Standing(exhibit, now);
-        if (now != place)
-            wanted += Standing(exhibit, place) + " ";
-    }
-    Say("  %s: %s", act, report.c_str());
-    Insist(wanted.empty(), wanted.c_str());
-}
 
 bool StandAt(LONG x, LONG y) {
     return std::all_of(std::begin(Exhibits), std::end(Exhibits), [&](const Exhibit& exhibit) {
         return PlaceOf(exhibit.window) == Moved(exhibit.home, -x, -y);
     });
-}
-
-// Does it again while it has not come: a click is lost now and then under Wine on a busy machine.
-template <typename Came, typename Act>
-void Until(Came came, Act act) {
-    for (int tries = 0; tries < 5 && !came(); ++tries) {
-        act();
-        for (int wait = 0; wait < 100 && !came(); ++wait)
-            Sleep(20);
-    }
 }
 
 void ShowMap(const char* act) {
@@ -199,11 +128,6 @@ void OpenMenuByKeys(POINT at) {
     MoveMouse(at);
     PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, VK_SPACE});
     OpenMenu("Ctrl+Alt+Shift+Space");
-}
-
-void PressInTurn(std::initializer_list<WORD> keys) {
-    for (const WORD key : keys)
-        PressKeys({key});
 }
 
 void PressInMenu(std::initializer_list<WORD> keys) {
@@ -369,37 +293,6 @@ void StartAgain() {
     TakePicture("9-again");
 }
 
-struct DialogStop {
-    int row;
-    const char* title;
-    const char* picture;
-    int closeId;
-};
-
-// Each dialog by the number of its action, as a key bound to it would ask for it.
-void WalkTheDialogs() {
-    static const DialogStop stops[] = {
-        {54,  "Options...",              "10-options",        IDCANCEL},
-        {55,  "Actions...",              "11-actions",        IDOK    },
-        {74,  "Customize Menu...",       "12-customize-menu", IDCANCEL},
-        {49,  "Name Region",             "13-name-region",    IDCANCEL},
-        {52,  "Find Windows...",         "14-find-window",    IDOK    },
-        {53,  "Resize Windows...",       "15-resize-window",  1044    },
-        {116, "Toolwin Transparency...", "16-transparency",   IDOK    },
-        {56,  "Quorl Help",              "17-help",           IDOK    },
-        {57,  "About...",                "18-about",          IDOK    },
-    };
-    for (const DialogStop& stop : stops) {
-        const HWND dialog = OpenByRow(stop.row, stop.title);
-        Insist(dialog != nullptr, stop.title);
-        const Place place = PlaceOf(dialog);
-        Say("  action %d opens \"%s\" at %d, %d, %d x %d in size", stop.row, stop.title, place.left,
-            place.top, place.right - place.left, place.bottom - place.top);
-        TakePicture(stop.picture);
-        CloseBy(dialog, stop.closeId);
-    }
-}
-
 void End() {
     PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
     AnswerYes();
@@ -411,20 +304,28 @@ struct Chapter {
     void (*play)();
 };
 const Chapter Chapters[] = {
-    {"Four programs and Quorl",                             Open          },
-    {"Keys slide the view over the desktop",                PressTheKeys  },
-    {"The map takes the mouse",                             PressTheMap   },
-    {"The map is dragged out of the way",                   DragTheMap    },
-    {"The menu opens at the mouse",                         UseTheMenu    },
-    {"Quitting brings every window back",                   QuitByTheMenu },
-    {"Regions and keys of one's own, from a settings file", StartWithFile },
-    {"Regions are reached by keys and by the menu",         VisitRegions  },
-    {"A box on the map is a handle to its window",          DragABox      },
-    {"The mouse pushes the view at the screen's edge",      PushAtTheEdge },
-    {"The desktop grows",                                   Rearrange     },
-    {"What was saved is there again",                       StartAgain    },
-    {"Everything is set in dialogs",                        WalkTheDialogs},
-    {"The end",                                             End           },
+    {"Four programs and Quorl",                             Open         },
+    {"Keys slide the view over the desktop",                PressTheKeys },
+    {"The map takes the mouse",                             PressTheMap  },
+    {"The map is dragged out of the way",                   DragTheMap   },
+    {"The menu opens at the mouse",                         UseTheMenu   },
+    {"Quitting brings every window back",                   QuitByTheMenu},
+    {"Regions and keys of one's own, from a settings file", StartWithFile},
+    {"Regions are reached by keys and by the menu",         VisitRegions },
+    {"A box on the map is a handle to its window",          DragABox     },
+    {"The mouse pushes the view at the screen's edge",      PushAtTheEdge},
+    {"The desktop grows",                                   Rearrange    },
+    {"What was saved is there again",                       StartAgain   },
+    {"Options: the size of the desktop",                    SetOptions   },
+    {"Actions: a key of one's own",                         BindAKey     },
+    {"Customize Menu: one entry more",                      ComposeMenu  },
+    {"Name Region: the view gets a name",                   NameTheView  },
+    {"Find Window: the view comes to it",                   FindAWindow  },
+    {"Find Region: the view goes there",                    FindARegion  },
+    {"Resize Windows: a size in numbers",                   ResizeAWindow},
+    {"Transparency: the map lets through what is below",    SeeThrough   },
+    {"Help and About",                                      ReadHelp     },
+    {"The end",                                             End          },
 };
 
 } // namespace

@@ -16,7 +16,8 @@ HWND OpenDialogOf(int row, const char* title) {
 }
 
 HWND OpenByButton(HWND dialog, int button, const char* title) {
-    PressOnly(Control(dialog, button));
+    Until([title] { return FindWindowA(nullptr, title) != nullptr; },
+          [&] { PressOnly(Control(dialog, button)); });
     const HWND opened = WaitForBox(title);
     Insist(opened != nullptr, title);
     return opened;
@@ -83,9 +84,12 @@ void BindAKey() {
     Close(options);
     const HWND list = Control(dialog, LIST);
     const auto binding = [list] { return ItemText(list, RIGHT_BY_SCREEN, 0); };
-    PressItem(list, RIGHT_BY_SCREEN);
-    ChooseLetter(Control(dialog, KEYS), 'Q');
-    Until([&] { return binding() == "C-A-Q"; }, [&] { Press(Control(dialog, APPLY)); });
+    Until([&] { return binding() == "C-A-Q"; },
+          [&] {
+              PressItem(list, RIGHT_BY_SCREEN);
+              ChooseLetter(Control(dialog, KEYS), 'Q');
+              Press(Control(dialog, APPLY));
+          });
     Say("  Apply: the key of \"%s\" is %s", ItemText(list, RIGHT_BY_SCREEN, 1).c_str(), binding().c_str());
     Insist(binding() == "C-A-Q", "Ctrl+Alt+Q");
     TakePicture("11-actions");
@@ -114,7 +118,8 @@ void NameTheView() {
     PressKeys({VK_CONTROL, VK_MENU, 'Q'});
     SeeView("Ctrl+Alt+Q", SCREEN_W, 0);
     const HWND dialog = OpenDialogOf(49, "Name Region");
-    TypeOver(Control(dialog, NAME), "Notes");
+    Until([&] { return ControlText(dialog, NAME) == "Notes"; },
+          [&] { TypeOver(Control(dialog, NAME), "Notes"); });
     Say("  the name is typed: %s", ControlText(dialog, NAME).c_str());
     Insist(ControlText(dialog, NAME) == "Notes", "the name");
     TakePicture("13-name-region");
@@ -158,11 +163,14 @@ void ResizeAWindow() {
     Exhibit& notepad = Exhibits[NOTEPAD];
     const HWND dialog = OpenDialogOf(53, "Resize Windows...");
     Choose(Control(dialog, LIST), TextOf(notepad.window));
-    TypeOver(Control(dialog, WIDTH), "420");
-    TypeOver(Control(dialog, HEIGHT), "300");
     notepad.home.right = notepad.home.left + 420;
     notepad.home.bottom = notepad.home.top + 300;
-    Until([&] { return PlaceOf(notepad.window) == notepad.home; }, [&] { Press(Control(dialog, APPLY)); });
+    Until([&] { return PlaceOf(notepad.window) == notepad.home; },
+          [&] {
+              TypeOver(Control(dialog, WIDTH), "420");
+              TypeOver(Control(dialog, HEIGHT), "300");
+              Press(Control(dialog, APPLY));
+          });
     const Place now = PlaceOf(notepad.window);
     Say("  Apply: notepad is %d x %d in size", now.right - now.left, now.bottom - now.top);
     Insist(now == notepad.home, "420 x 300");

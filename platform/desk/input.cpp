@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 static const DeskHotkey* HolderOf(UINT modifiers, UINT key) {
     for (const DeskHotkey& hotkey : Desk.hotkeys)
@@ -100,12 +101,15 @@ HWND SetCapture(HWND window) {
         return nullptr;
     const HWND before = Desk.capture;
     Desk.capture = window;
+    if (before && before != window)
+        CallProcedure(before, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(window));
     return before;
 }
 
 BOOL ReleaseCapture() {
     if (Fails("ReleaseCapture"))
         return FALSE;
-    Desk.capture = nullptr;
+    if (const HWND before = std::exchange(Desk.capture, nullptr))
+        CallProcedure(before, WM_CAPTURECHANGED, 0, 0);
     return TRUE;
 }

@@ -110,14 +110,15 @@ static OptionNumbers NumbersShown(HWND dialog) {
     return shown;
 }
 
-// A value that no radio stands for checks none. Then, and when a hidden one is checked, Tab finds the first.
+// A value that no radio stands for checks none. Then, and when a hidden one is checked, Tab finds `first`,
+// the topmost.
 template <std::size_t count>
-static void CheckRadio(HWND dialog, const int (&radios)[count], int value) {
+static void CheckRadio(HWND dialog, const int (&radios)[count], int value, int first) {
     const int radio = value >= 0 && value < static_cast<int>(count) ? radios[value] : 0;
     if (radio)
         CheckDlgButton(dialog, radio, BST_CHECKED);
     if (!radio || radio == AFTER_RIGHT_CLICK)
-        KeepTabStop(GetDlgItem(dialog, radios[0]));
+        KeepTabStop(GetDlgItem(dialog, first));
 }
 
 // With none checked the value stays.
@@ -146,9 +147,9 @@ static void ShowMouseOptions(HWND dialog) {
     SetDlgItemTextA(dialog, MOUSE_NOTE,
                     "When mouse scroll actions are used, these items determine how to scroll.");
     ShowNumber(dialog, DELAY_TIME_EDIT, Options.mousescroll_delay_time);
-    CheckRadio(dialog, DelayRadios, Options.mousescroll_delay);
+    CheckRadio(dialog, DelayRadios, Options.mousescroll_delay, AT_ONCE);
     Enable(dialog, DELAY_TIME_EDIT, Options.mousescroll_delay == DELAY_OF_A_TIME);
-    CheckRadio(dialog, TypeRadios, Options.mousescroll_type);
+    CheckRadio(dialog, TypeRadios, Options.mousescroll_type, BY_MAXSCROLL);
 }
 
 static void ReadMouseOptions(HWND dialog) {
@@ -221,10 +222,10 @@ static void TakeNumbers(const OptionNumbers& taken) {
 static void OnAccept(HWND dialog, int) {
     const RECT before = Quorl;
     TakeNumbers(AcceptedNumbers(NumbersShown(dialog), ScreenW(), ScreenH(), Options.minscroll));
+    if (Options.hook_present)
+        ReadMouseOptions(dialog); // a box of the folding leaves the user free to close this dialog
     if (Quorl.right < before.right || Quorl.bottom < before.bottom)
         GatherWindows();
-    if (Options.hook_present)
-        ReadMouseOptions(dialog);
     Repaint(MainWnd);
     ShiftWindows(0, 0);
     CloseDialog(dialog, DIALOG_OPTIONS, IDOK);

@@ -45,7 +45,7 @@ int OpenDialog(HWND parent, int resource_id, DLGPROC procedure) {
     DialogSlot* const slot = SlotOf(resource_id);
     if (!slot)
         return 0;
-    if (slot->handle)
+    if (IsWindow(slot->handle))
         RaiseDialog(slot->handle);
     else
         slot->handle = CreateDialogParamA(AppInstance, MAKEINTRESOURCEA(resource_id), parent, procedure, 0);
@@ -73,7 +73,7 @@ int CloseDialog(HWND dialog, int resource_id, INT_PTR result) {
         MessageBeep(0);
         return 0;
     }
-    if (slot->handle != dialog)
+    if (!dialog || slot->handle != dialog)
         return 0;
     EndDialog(dialog, result);
     slot->handle = nullptr;

@@ -62,21 +62,24 @@ static void TellParent(HWND spinner, UINT_PTR id, SpinnerState& state) {
     SendMessageA(GetParent(spinner), WM_NOTIFY, id, reinterpret_cast<LPARAM>(&state));
 }
 
-static void Step(HWND spinner, UINT_PTR id, SpinnerState& state) {
-    if (state.flags & SPINNER_DOWN_HELD) {
-        state.value = state.value < 1 ? 0 : state.value - 1;
-        TellParent(spinner, id, state);
+// The state is asked for anew after each word to the parent, which may have destroyed the spinner.
+static void Step(HWND spinner, UINT_PTR id) {
+    SpinnerState* state = StateOfSpinner(spinner);
+    if (state && state->flags & SPINNER_DOWN_HELD) {
+        state->value = state->value < 1 ? 0 : state->value - 1;
+        TellParent(spinner, id, *state);
+        state = StateOfSpinner(spinner);
     }
-    if (state.flags & SPINNER_UP_HELD) {
-        state.value = state.value < state.max ? state.value + 1 : state.max;
-        TellParent(spinner, id, state);
+    if (state && state->flags & SPINNER_UP_HELD) {
+        state->value = state->value < state->max ? state->value + 1 : state->max;
+        TellParent(spinner, id, *state);
     }
 }
 
 static void CALLBACK SpinnerTick(HWND spinner, UINT, UINT_PTR id, DWORD) {
-    SpinnerState* const state = StateOfSpinner(spinner);
+    const SpinnerState* const state = StateOfSpinner(spinner);
     if (state && !state->paused)
-        Step(spinner, id, *state);
+        Step(spinner, id);
 }
 
 static UINT_PTR IdOf(HWND spinner) {
@@ -91,18 +94,34 @@ static void OnSpinnerPress(HWND spinner, int y) {
     SetCapture(spinner);
     GetClientRect(spinner, &client);
     state->flags |= y < client.bottom / 2 ? SPINNER_UP_HELD : SPINNER_DOWN_HELD;
-    Step(spinner, IdOf(spinner), *state);
+    Step(spinner, IdOf(spinner));
+    if (!StateOfSpinner(spinner))
+        return;
     SetTimer(spinner, IdOf(spinner), state->interval, SpinnerTick);
     Repaint(spinner);
+}
+
+static void LetGo(HWND spinner, SpinnerState& state) {
+    state.flags &= ~(SPINNER_UP_HELD | SPINNER_DOWN_HELD);
+    KillTimer(spinner, IdOf(spinner));
 }
 
 static void OnSpinnerRelease(HWND spinner) {
     SpinnerState* const state = StateOfSpinner(spinner);
     if (!state)
         return;
-    state->flags &= ~(SPINNER_UP_HELD | SPINNER_DOWN_HELD);
-    KillTimer(spinner, IdOf(spinner));
+    LetGo(spinner, *state);
     ReleaseCapture();
+    Repaint(spinner);
+}
+
+// Another window took the mouse, as a box that comes up does: the release will not come here. After a release
+// nothing is held any more.
+static void OnSpinnerCaptureLost(HWND spinner) {
+    SpinnerState* const state = StateOfSpinner(spinner);
+    if (!state || !state->flags)
+        return;
+    LetGo(spinner, *state);
     Repaint(spinner);
 }
 
@@ -147,6 +166,7 @@ static LRESULT CALLBACK SpinnerWndProc(HWND window, UINT message, WPARAM wParam,
     case WM_PAINT: PaintSpinner(window); return 0;
     case WM_LBUTTONDOWN: OnSpinnerPress(window, PointOf(lParam).y); return 0;
     case WM_LBUTTONUP: OnSpinnerRelease(window); return 0;
+    case WM_CAPTURECHANGED: OnSpinnerCaptureLost(window); return 0;
     case WM_RBUTTONDOWN:
     case WM_RBUTTONUP: return 0;
     default: return DefWindowProcA(window, message, wParam, lParam);

@@ -65,8 +65,9 @@ static int AskColor(HWND dialog, COLORREF* color) {
 static void OnClick(HWND dialog, ActionPoint at) {
     const HWND swatch = GetDlgItem(dialog, ID_SWATCH);
     COLORREF color = RegionColor;
-    if (ChildWindowFromPoint(dialog, {at.x, at.y}) != swatch || !AskColor(dialog, &color))
-        return;
+    if (ChildWindowFromPoint(dialog, {at.x, at.y}) != swatch || !AskColor(dialog, &color) ||
+        !IsWindow(swatch))
+        return; // the dialog can be ended from outside meanwhile
     ChangeColor(color);
     Repaint(swatch);
 }

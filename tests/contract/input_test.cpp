@@ -89,6 +89,7 @@ TEST_F(Input, TheCaptureIsHeldByOneWindowAndEndsWithIt) {
     EXPECT_EQ(SetCapture(first), nullptr);
     EXPECT_EQ(SetCapture(second), first);
     EXPECT_TRUE(ReleaseCapture());
+    EXPECT_EQ(SeenOf({WM_CAPTURECHANGED}).size(), 2U) << "each is told that it lost it";
     EXPECT_EQ(SetCapture(first), nullptr);
     DestroyWindow(first);
     EXPECT_EQ(SetCapture(second), nullptr);

@@ -141,6 +141,14 @@ TEST_F(Spinner, WithBothButtonsHeldTheLowerOneStepsFirst) {
     EXPECT_EQ(StateOfSpinner(spinner)->flags, 0);
 }
 
+TEST_F(Spinner, ABoxThatTakesTheMouseEndsTheHold) {
+    Press(UP);
+    SetCapture(parent);
+    Wait(2000);
+    EXPECT_EQ(Told, Values({1}));
+    EXPECT_EQ(Desk.capture, parent);
+}
+
 TEST_F(Spinner, TheRightButtonDoesNothing) {
     SendMessageA(spinner, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(7, UP));
     SendMessageA(spinner, WM_RBUTTONUP, 0, MAKELPARAM(7, UP));

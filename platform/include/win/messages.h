@@ -51,6 +51,7 @@ constexpr UINT WM_RBUTTONDBLCLK = 518;
 constexpr UINT WM_MBUTTONDOWN = 519;
 constexpr UINT WM_MBUTTONUP = 520;
 constexpr UINT WM_MBUTTONDBLCLK = 521;
+constexpr UINT WM_CAPTURECHANGED = 533;
 constexpr UINT WM_MOVING = 534;
 constexpr UINT WM_HOTKEY = 786;
 constexpr UINT WM_USER = 1024;

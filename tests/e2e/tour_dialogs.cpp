@@ -162,11 +162,11 @@ void ResizeAWindow() {
     constexpr int APPLY = 2, HEIGHT = 1000, WIDTH = 1001, LIST = 1041, OK = 1044;
     Exhibit& notepad = Exhibits[NOTEPAD];
     const HWND dialog = OpenDialogOf(53, "Resize Windows...");
-    Choose(Control(dialog, LIST), TextOf(notepad.window));
     notepad.home.right = notepad.home.left + 420;
     notepad.home.bottom = notepad.home.top + 300;
     Until([&] { return PlaceOf(notepad.window) == notepad.home; },
           [&] {
+              Choose(Control(dialog, LIST), TextOf(notepad.window));
               TypeOver(Control(dialog, WIDTH), "420");
               TypeOver(Control(dialog, HEIGHT), "300");
               Press(Control(dialog, APPLY));

@@ -39,11 +39,13 @@ static void OnInitWindows(HWND dialog) {
     DialogHandles[KEYS_FIND_WINDOW] = dialog;
 }
 
-// If the window could not take the foreground, that would stay with the dialog, and the view would come to
-// it.
+// A window that hangs or is gone does not take the foreground: it would stay with the dialog, and the view
+// come to that. What SetForegroundWindow answers says little.
 static void GoToWindow(HWND window) {
-    if (GiveForeground(window))
-        CenterOnActiveWindow(window);
+    if (!IsAlive(window))
+        return;
+    GiveForeground(window);
+    CenterOnActiveWindow(window);
 }
 
 static void OnSelectWindow(HWND dialog) {

@@ -32,7 +32,7 @@ TEST_F(Quitting, NewsThatWaitsInTheQueueMovesNoWindowThatWasFoldedBack) {
     WillAnswer({IDYES});
     PostMessageA(MainWnd, WM_CLOSE, 0, 0);
     Desk.foreground = far;
-    for (const WPARAM row : {30, 101}) // pressed while the box was open
+    for (const WPARAM row : {WPARAM{30}, WPARAM{101}}) // pressed while the box was open
         PostMessageA(MainWnd, WM_HOTKEY, row, 0);
     Settle();
     EXPECT_EQ(PlaceOf(far).left, 76);

@@ -34,9 +34,18 @@ void QuorlTest::SetUp() {
     hook.exports["SetMouseHook"] = Export(SetMouseHook);
 }
 
+// What a control has allocated goes with it, not with the process.
+static void EndChildren() {
+    Desk.fault = {};
+    for (const DeskWindow& window : Desk.windows)
+        if (window.handle && window.procedure && window.style & WS_CHILD)
+            DestroyWindow(window.handle);
+}
+
 void QuorlTest::TearDown() {
     EXPECT_EQ(Desk.surprises, 0) << "an unexpected box, or a call that would have blocked"
                                  << (Desk.boxes.empty() ? "" : ": " + Desk.boxes.back().text);
+    EndChildren();
 }
 
 void RunningQuorl::SetUp() {

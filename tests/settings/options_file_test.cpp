@@ -132,7 +132,7 @@ TEST_F(OptionsFile, AFullMenuSurvivesOneTooLongLosesItsEndAndAnEmptyOneIsWritten
     StartQuorl();
     struct {
         std::string entry;
-        int given, kept; // entries
+        std::size_t given, kept; // entries
     } const cases[] = {
         {"|-99",         700, 500},
         {"|122",         500, 500},
@@ -140,7 +140,7 @@ TEST_F(OptionsFile, AFullMenuSurvivesOneTooLongLosesItsEndAndAnEmptyOneIsWritten
     };
     for (const auto& given : cases) {
         std::string stored;
-        for (int place = 0; place < given.given; ++place)
+        for (std::size_t place = 0; place < given.given; ++place)
             stored += given.entry;
         StoreFile("quorl_menu_count=500\nquorl_menu=" + stored + "\n");
         Command(48);

@@ -39,13 +39,13 @@ static void OnInitWindows(HWND dialog) {
     DialogHandles[KEYS_FIND_WINDOW] = dialog;
 }
 
-// A window that hangs or is gone does not take the foreground: it would stay with the dialog, and the view
-// come to that. What SetForegroundWindow answers says little.
+// A window of another program has the foreground only once its thread has taken it, which may be later than
+// this: the view goes to the window itself. One that hangs or is gone is not gone to.
 static void GoToWindow(HWND window) {
     if (!IsAlive(window))
         return;
     GiveForeground(window);
-    CenterOnActiveWindow(window);
+    CenterOnWindow(window, window);
 }
 
 static void OnSelectWindow(HWND dialog) {

@@ -64,12 +64,15 @@ int FollowActiveWindow() {
     return need != FOLLOW_NOT;
 }
 
-int CenterOnActiveWindow(HWND window) {
-    const HWND active = GetForegroundWindow();
+int CenterOnWindow(HWND window, HWND target) {
     RECT place{};
-    if (!IsManagedWindow(active) || !GetWindowRect(active, &place))
+    if (!IsManagedWindow(target) || !GetWindowRect(target, &place))
         return 0;
     const POINT middle = MiddleOf(place);
     ScrollView(window, middle.x + VDesk.left, middle.y + VDesk.top, SV_CENTER, ROW_CENTER_ON_ACTIVE);
-    return GiveForeground(active);
+    return GiveForeground(target);
+}
+
+int CenterOnActiveWindow(HWND window) {
+    return CenterOnWindow(window, GetForegroundWindow());
 }

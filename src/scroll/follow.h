@@ -3,8 +3,11 @@
 
 #include "core/platform.h"
 
-// Brings the foreground window to the middle of the view and gives it the foreground again; `window` is what
-// the scroll repaints. 0 if it is not managed or gone, else the result of SetForegroundWindow.
+// Brings `target` to the middle of the view and gives it the foreground; `window` is what the scroll
+// repaints. 0 if it is not managed or gone, else the result of SetForegroundWindow.
+int CenterOnWindow(HWND window, HWND target);
+
+// The same for the window that has the foreground.
 int CenterOnActiveWindow(HWND window);
 
 // One tick of following, when the user has switched it on. 1 if there is an active window to follow, whether

@@ -3,6 +3,7 @@
 #include "core/state.h"
 #include "dialogs/registry.h"
 #include "regions/region_table.h"
+#include "scroll/scroll_view.h"
 #include "support/quorl_test.h"
 
 namespace {
@@ -73,8 +74,12 @@ TEST_F(FindDialogs, TheViewComesToTheChosenWindowUnlessItIsGoneOrHangs) {
         EXPECT_EQ(VDesk.left, 0) << "row " << row;
         EXPECT_EQ(Desk.foreground, dialog);
     }
-    ChooseRow(list, 0);
-    EXPECT_EQ(VDesk.left, 2200 - 512);
+    for (const int bLate : {1, 0}) {
+        ScrollView(MainWnd, 0, 0, SV_ABSOLUTE, 0);
+        Desk.fault = {"GetForegroundWindow", bLate, 1, 0, 0};
+        ChooseRow(list, 0);
+        EXPECT_EQ(VDesk.left, 2200 - 512) << (bLate ? "though it has not taken the foreground yet" : "");
+    }
     EXPECT_EQ(Desk.foreground, untitled);
     EXPECT_NE(RowOf(dialog).handle, nullptr);
 }

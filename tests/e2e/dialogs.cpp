@@ -128,8 +128,12 @@ void PressInTurn(std::initializer_list<WORD> keys) {
 void AnswerBox(const char* caption, WORD key) {
     const HWND box = WaitForBox(caption);
     ASSERT_TRUE(box) << caption;
-    Activate(box);
-    PressKeys({key});
+    Until([box] { return !IsWindow(box); },
+          [box, key] {
+              Activate(box);
+              PressKeys({key});
+              Sleep(60);
+          });
     EXPECT_TRUE(WaitForEnd(box));
 }
 

@@ -70,13 +70,14 @@ static void AddAvailableActions(HWND list) {
             AddRow(list, ActionTable[row].desc, row);
 }
 
+static int NumberOf(int entry) {
+    return entry > 0 ? entry : LINE;
+}
+
 static void AddMenuEntries(HWND list) {
     for (int place = 0; place < quorl_menu_count; ++place) {
-        const int entry = MenuList[place];
-        if (entry > 0)
-            AddRow(list, ActionTable[entry].desc, entry);
-        else
-            AddRow(list, "<---------------->", LINE);
+        const int number = NumberOf(MenuList[place]);
+        AddRow(list, number == LINE ? "<---------------->" : ActionTable[number].desc, number);
     }
 }
 
@@ -101,6 +102,25 @@ static void FillBoth(HWND dialog) {
     FillMenuListBox(dialog, ID_MENU_LIST);
 }
 
+static int IsMenuAsShown(HWND list) {
+    if (SendMessageA(list, LB_GETCOUNT, 0, 0) != quorl_menu_count)
+        return 0;
+    for (int place = 0; place < quorl_menu_count; ++place)
+        if (SendMessageA(list, LB_GETITEMDATA, static_cast<WPARAM>(place), 0) != NumberOf(MenuList[place]))
+            return 0;
+    return 1;
+}
+
+// Loading the settings may have put another menu under the open dialog. The user gets to see that one before
+// anything in it changes.
+static int ShowsOtherMenu(HWND dialog) {
+    if (IsMenuAsShown(GetDlgItem(dialog, ID_MENU_LIST)))
+        return 0;
+    MessageBeep(0);
+    FillBoth(dialog);
+    return 1;
+}
+
 static void BackUpMenu() {
     std::copy(std::begin(MenuList), std::end(MenuList), MenuBackup);
     MenuBackupCount = quorl_menu_count;
@@ -113,7 +133,7 @@ static void RestoreMenu() {
 
 static void OnIntoMenu(HWND dialog) {
     const int row = SelectedNumber(dialog, ID_ACTION_LIST);
-    if (row == NOTHING)
+    if (row == NOTHING || ShowsOtherMenu(dialog))
         return;
     AppendMenuEntry(row);
     FillBoth(dialog);
@@ -126,6 +146,8 @@ static void OnOutOfMenu(HWND dialog) {
         MessageBeep(0);
         return;
     }
+    if (ShowsOtherMenu(dialog))
+        return;
     RemoveMenuEntry(entry, Selection(dialog, ID_MENU_LIST));
     FillBoth(dialog);
     Select(dialog, ID_MENU_LIST, FindMenuEntry(entry));
@@ -134,7 +156,7 @@ static void OnOutOfMenu(HWND dialog) {
 // The row that was selected stays so: it has moved down, by one, also in a full list that takes no line.
 static void OnInsertLine(HWND dialog) {
     const int place = Selection(dialog, ID_MENU_LIST);
-    if (place < 0)
+    if (place < 0 || ShowsOtherMenu(dialog))
         return;
     InsertMenuEntry(place, LINE);
     FillMenuListBox(dialog, ID_MENU_LIST);
@@ -143,6 +165,8 @@ static void OnInsertLine(HWND dialog) {
 
 static void MoveEntry(HWND dialog, int delta) {
     const int place = Selection(dialog, ID_MENU_LIST);
+    if (ShowsOtherMenu(dialog))
+        return;
     if (!SwapMenuEntries(place, delta)) {
         MessageBeep(0);
         return;

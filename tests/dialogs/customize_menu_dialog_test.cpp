@@ -210,6 +210,23 @@ TEST_F(CustomizeMenuDialog, CancelRestoresWhatStoodAtTheOpeningAndOkKeepsTheEdit
     }
 }
 
+TEST_F(CustomizeMenuDialog, AMenuThatWasLoadedMeanwhileIsShownBeforeItIsChanged) {
+    const Entries loaded{54, 57, -1, 59};
+    for (const int id : {INTO, OUT_OF, INSERT_LINE, UP, DOWN}) {
+        Open({54, -1, 57, 59});
+        Choose(id == INTO ? ACTION_LIST : MENU_LIST, 1);
+        SetMenu(loaded);
+        Click(id);
+        EXPECT_EQ(Menu(), loaded) << id;
+        EXPECT_EQ(Kept(MENU_LIST).rows[1].data, 57);
+        EXPECT_EQ(Desk.beeps.size(), 1U);
+        Choose(id == INTO ? ACTION_LIST : MENU_LIST, 1);
+        Click(id);
+        EXPECT_NE(Menu(), loaded) << id;
+        Click(IDOK);
+    }
+}
+
 TEST_F(CustomizeMenuDialog, WithoutItsIconOrARowThatTheListRefusesItStillWorks) {
     Desk.fault = {"LoadIconA", 1, 0, 0, 0};
     WillAnswer({IDOK});

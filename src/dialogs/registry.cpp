@@ -41,15 +41,25 @@ static void RaiseDialog(HWND dialog) {
     SetForegroundWindow(dialog);
 }
 
+// A dialog that shows a message while it is created runs whatever the user asks for meanwhile.
+static int Create(DialogSlot& slot, HWND parent, DLGPROC procedure) {
+    static int bCreating;
+    if (bCreating)
+        return 0;
+    bCreating = 1;
+    slot.handle = CreateDialogParamA(AppInstance, MAKEINTRESOURCEA(slot.resource_id), parent, procedure, 0);
+    bCreating = 0;
+    return slot.handle != nullptr;
+}
+
 int OpenDialog(HWND parent, int resource_id, DLGPROC procedure) {
     DialogSlot* const slot = SlotOf(resource_id);
     if (!slot)
         return 0;
-    if (IsWindow(slot->handle))
-        RaiseDialog(slot->handle);
-    else
-        slot->handle = CreateDialogParamA(AppInstance, MAKEINTRESOURCEA(resource_id), parent, procedure, 0);
-    return slot->handle != nullptr;
+    if (!IsWindow(slot->handle))
+        return Create(*slot, parent, procedure);
+    RaiseDialog(slot->handle);
+    return 1;
 }
 
 // Windows destroys owned windows with their owner; what a dialog has opened outlives it.

@@ -99,6 +99,16 @@ TEST_F(Registry, ADialogThatCannotBeMadeIsNotOpen) {
     EXPECT_EQ(OpenDialog(MainWnd, DIALOG_HELP, CountingDlgProc), 1) << "the next try may succeed";
 }
 
+TEST_F(Registry, ADialogThatIsBeingMadeIsNotMadeTwice) {
+    const DLGPROC reopening = [](HWND, UINT message, WPARAM, LPARAM) -> INT_PTR {
+        EXPECT_TRUE(message != WM_INITDIALOG || OpenDialog(MainWnd, DIALOG_ABOUT, CountingDlgProc) == 0);
+        return 0;
+    };
+    EXPECT_EQ(OpenDialog(MainWnd, DIALOG_ABOUT, reopening), 1);
+    EXPECT_EQ(CallsOf("CreateDialogParamA"), 1);
+    EXPECT_EQ(OpenDialog(MainWnd, DIALOG_NAME_REGION, CountingDlgProc), 1);
+}
+
 TEST_F(Registry, KeysWorkOnlyInDialogsThatHaveEnteredThemselves) {
     const HWND entered = Open(DIALOG_ABOUT);
     DialogHandles[KEYS_ABOUT] = entered;

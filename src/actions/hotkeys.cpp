@@ -112,7 +112,8 @@ int SetActionKey(HWND, ActionId row, DWORD kind, int mods, int key) {
 int ClearActionKey(HWND, ActionId row, DWORD kinds) {
     ActionRow& action = ActionTable[row];
     if (kinds & ACTION_KEY) {
-        if (action.vk >= 0)
+        // A character that the keyboard does not have is registered as the key -1.
+        if (action.vk >= 0 || action.key_mods >= 0)
             UnregisterHotKey(MainWnd, row);
         action.vk = action.key_mods = UNBOUND;
     }

@@ -117,6 +117,11 @@ TEST_F(Hotkeys, EachKindOfBindingIsClearedOnItsOwn) {
     EXPECT_EQ(ActionTable[0].mouse_mods, UNBOUND);
     EXPECT_EQ(HeldBy(0), 1U);
 
+    SetActionKey(MainWnd, 6, ACTION_KEY, KEY_CTRL, 0xFE);
+    ASSERT_EQ(HeldBy(6), 1U) << "a character that the keyboard does not have";
+    ClearActionKey(MainWnd, 6, ACTION_KEY);
+    EXPECT_EQ(HeldBy(6), 0U);
+
     ClearAllActionKeys(MainWnd);
     EXPECT_TRUE(Desk.hotkeys.empty());
     for (const ActionRow& action : ActionTable)

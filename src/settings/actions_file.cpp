@@ -26,7 +26,9 @@ static int ReadAction(HWND window, LPCSTR file, ActionId row) {
     return 1;
 }
 
+// While a box tells of an earlier row the user may have given this one a hotkey, or loaded all of them.
 static void RegisterStored(HWND window, ActionId row) {
+    UnregisterHotKey(window, row);
     SetActionKey(window, row, ACTION_KEY, ActionTable[row].key_mods, ActionTable[row].vk);
 }
 

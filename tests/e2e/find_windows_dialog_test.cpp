@@ -30,10 +30,10 @@ void End(HWND window) {
 } // namespace
 
 TEST(FindWindows, TheViewComesToTheChosenWindowAndTheDialogStays) {
-    ASSERT_TRUE(StartQuorl());
     OpenWindow("mail", {100, 300, 300, 500});
     const HWND web = OpenWindow("web", {1800, 900, 2200, 1200});
     OpenWindow("", {300, 300, 500, 500});
+    ASSERT_TRUE(StartQuorl());
     const HWND dialog = OpenByRow(52, "Find Windows...");
     ASSERT_TRUE(dialog);
     // A set, since the tray's tooltip has no title either.
@@ -54,10 +54,10 @@ TEST(FindWindows, TheViewComesToTheChosenWindowAndTheDialogStays) {
 }
 
 TEST(FindWindows, AWindowThatHangsOrIsGoneIsNotGoneTo) {
-    ASSERT_TRUE(StartQuorl());
     const HWND mail = OpenWindow("mail", {100, 500, 300, 700});
     OpenWindow("hung", {1800, 300, 2000, 500}, "hung");
     const HWND gone = OpenWindow("gone", {1800, 300, 2000, 500});
+    ASSERT_TRUE(StartQuorl());
     const HWND dialog = OpenByRow(52, "Find Windows...");
     ASSERT_TRUE(dialog);
     End(gone);
@@ -69,10 +69,10 @@ TEST(FindWindows, AWindowThatHangsOrIsGoneIsNotGoneTo) {
 }
 
 TEST(ResizeWindows, TheNumbersAreTheSizeOnceTheyAreApplied) {
-    ASSERT_TRUE(StartQuorl());
     const HWND mail = OpenWindow("mail", {500, 100, 800, 300});
     OpenWindow("hung", {500, 500, 700, 700}, "hung");
     const HWND gone = OpenWindow("gone", {500, 400, 700, 500});
+    ASSERT_TRUE(StartQuorl());
     const HWND dialog = OpenByRow(53, "Resize Windows...");
     ASSERT_TRUE(dialog);
     EXPECT_EQ(ControlText(dialog, 1043), "4096x1536");

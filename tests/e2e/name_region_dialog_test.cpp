@@ -30,8 +30,8 @@ COLORREF ColorOf(HWND swatch) {
 } // namespace
 
 TEST(NameRegion, TheViewIsMarkedByNameAndColourAndItsDigitComesBackToIt) {
-    ASSERT_TRUE(StartQuorl());
     const HWND editor = OpenWindow("editor", {500, 300, 800, 500});
+    ASSERT_TRUE(StartQuorl());
     const HWND dialog = OpenByRow(49, "Name Region");
     ASSERT_TRUE(dialog);
     EXPECT_FALSE(IsOn(dialog, 3)) << "Delete";
@@ -69,8 +69,8 @@ TEST(NameRegion, WithAllRowsInUseItSaysSoAndNothingIsLost) {
         Store(("Region" + number).c_str(), ("place " + number + "|" + number + "|7|1500|775|0").c_str());
     }
     Store("num_regions", "200");
-    ASSERT_TRUE(StartQuorl());
     const HWND editor = OpenWindow("editor", {500, 300, 800, 500});
+    ASSERT_TRUE(StartQuorl());
     const HWND dialog = OpenByRow(49, "Name Region");
     ASSERT_TRUE(dialog);
     TypeOver(Control(dialog, NAME), "more");

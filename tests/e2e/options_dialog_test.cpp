@@ -224,8 +224,8 @@ TEST(OptionsDialog, WhatItsButtonsOpenOutlivesIt) {
 }
 
 TEST(OptionsDialog, ASmallerDesktopFoldsItsWindowsBackOntoTheScreen) {
-    ASSERT_TRUE(StartQuorl());
     const HWND editor = OpenWindow("editor", {1500, 900, 1800, 1100});
+    ASSERT_TRUE(StartQuorl());
     const HWND options = OpenOptions();
     ASSERT_TRUE(options);
     CloseBy(options, 1);

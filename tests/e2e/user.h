@@ -31,7 +31,8 @@ HWND StartQuorl(const std::string& folder = "");
 HWND QuorlWindow();
 std::string ProgramFolder();
 
-// Opens a window of another program which plays `part` (player.h), inactive, on top of the others.
+// Opens a window of another program which plays `part` (player.h), inactive, on top of the others. A running
+// Quorl moves it only after its next look at the desktop, up to two seconds later.
 HWND OpenWindow(const char* title, const Place& place, const char* part = "plain");
 // Starts one of the programs that the system brings along and waits for its window of the class.
 HWND OpenProgram(const char* command, const char* windowClass);

@@ -102,19 +102,12 @@ static void FillBoth(HWND dialog) {
     FillMenuListBox(dialog, ID_MENU_LIST);
 }
 
-static int IsMenuAsShown(HWND list) {
-    if (SendMessageA(list, LB_GETCOUNT, 0, 0) != quorl_menu_count)
-        return 0;
-    for (int place = 0; place < quorl_menu_count; ++place)
-        if (SendMessageA(list, LB_GETITEMDATA, static_cast<WPARAM>(place), 0) != NumberOf(MenuList[place]))
-            return 0;
-    return 1;
-}
-
 // Loading the settings may have put another menu under the open dialog. The user gets to see that one before
-// anything in it changes.
+// the selected place in it changes.
 static int ShowsOtherMenu(HWND dialog) {
-    if (IsMenuAsShown(GetDlgItem(dialog, ID_MENU_LIST)))
+    const int place = Selection(dialog, ID_MENU_LIST);
+    const int number = SelectedNumber(dialog, ID_MENU_LIST);
+    if (place < 0 || (place < quorl_menu_count && NumberOf(MenuList[place]) == number))
         return 0;
     MessageBeep(0);
     FillBoth(dialog);
@@ -133,9 +126,10 @@ static void RestoreMenu() {
 
 static void OnIntoMenu(HWND dialog) {
     const int row = SelectedNumber(dialog, ID_ACTION_LIST);
-    if (row == NOTHING || ShowsOtherMenu(dialog))
+    if (row == NOTHING)
         return;
-    AppendMenuEntry(row);
+    if (FindMenuEntry(row) < 0)
+        AppendMenuEntry(row);
     FillBoth(dialog);
     Select(dialog, ID_MENU_LIST, quorl_menu_count - 1);
 }

@@ -1,0 +1,129 @@
+#!/usr/bin/env python3
+"""Breaks src/ in one place at a time and tells which breaks the native tests do not notice.
+
+    tests/tools/mutate.py [COUNT] [SEED]     COUNT breaks (60), spread over the files; the same SEED, the same ones
+
+Works on a copy of the tree in build/mutate/. A break that does not compile is replaced by another one. The last
+line counts; the exit code is 1 when one survived that is not in SURVIVORS, with the reason why it may.
+"""
+import pathlib
+import random
+import re
+import shutil
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+COPY = ROOT / "build/mutate/tree"
+BUILD = COPY / "build/native"
+SLOW = "BadLuck|Whichever"  # every call fails in turn; the quick cases come first
+OTHERS = "NOT_BUILT"  # programs that have nothing of src/ in them
+
+# pattern: what stands there instead
+BREAKS = (
+    (r"(?<![\w.])\d+(?![\w.])", lambda found: str(int(found[0]) + 1)),
+    (r" < (?!<)", lambda _: " <= "),
+    (r" > ", lambda _: " >= "),
+    (r" <= ", lambda _: " < "),
+    (r" >= ", lambda _: " > "),
+    (r" == ", lambda _: " != "),
+    (r" != ", lambda _: " == "),
+    (r" && ", lambda _: " || "),
+    (r" \|\| ", lambda _: " && "),
+    (r" \+ ", lambda _: " - "),
+    (r" - ", lambda _: " + "),
+    (r"(?<=if \()!", lambda _: ""),
+    (r"^( +)(\w[^;{}=]*;)\n\1(\w[^;{}=]*;)$", lambda found: f"{found[1]}{found[3]}\n{found[1]}{found[2]}"),
+)
+
+# file, a part of the line as it stands: why no test can notice
+SURVIVORS = {}
+
+
+def code_of(text):
+    """The text with comments, strings and includes blanked, at the same places."""
+    blank = lambda found: re.sub(r"[^\n]", " ", found[0])
+    return re.sub(r'//[^\n]*|"(?:\\.|[^"\\\n])*"|^#[^\n]*|^.*(?:return;|break;).*$', blank, text, flags=re.M)
+
+
+def sites():
+    """(file, from, to, replacement) of every break."""
+    for file in sorted((ROOT / "src").rglob("*.cpp")):
+        if "hook" in file.relative_to(ROOT / "src").parts[:1]:
+            continue  # the library is tested on Windows
+        code = code_of(file.read_text())
+        for pattern, change in BREAKS:
+            for found in re.finditer(pattern, code, re.M):
+                yield file.relative_to(ROOT), found.start(), found.end(), change(found)
+
+
+def spread(chance):
+    """All sites in an order by chance that takes one of each file before a second of any."""
+    by_file = {}
+    for site in sites():
+        by_file.setdefault(site[0], []).append(site)
+    for of_file in by_file.values():
+        chance.shuffle(of_file)
+    while by_file:
+        files = list(by_file)
+        chance.shuffle(files)
+        for file in files:
+            yield by_file[file].pop()
+            if not by_file[file]:
+                del by_file[file]
+
+
+def run(*command):
+    return subprocess.run(command, cwd=COPY, capture_output=True, text=True).returncode == 0
+
+
+def is_noticed():
+    """None when the break does not compile."""
+    if not run("cmake", "--build", BUILD, "--target", "quorl_tests"):
+        return None
+    test = ("ctest", "--test-dir", str(BUILD), "-j2", "--stop-on-failure")
+    return not (run(*test, "-E", f"{SLOW}|{OTHERS}") and run(*test, "-R", SLOW))
+
+
+def told(site):
+    file, start, end, replacement = site
+    text = (ROOT / file).read_text()
+    line = text[text.rfind("\n", 0, start) + 1 : text.find("\n", end)].strip()
+    return f"{file}:{text.count(chr(10), 0, start) + 1}: {line}  ->  {replacement.strip() or 'nothing'}"
+
+
+def is_allowed(site):
+    return any(str(site[0]).endswith(file) and part in told(site) for file, part in SURVIVORS)
+
+
+def try_break(site):
+    file, start, end, replacement = site
+    text = (ROOT / file).read_text()
+    (COPY / file).write_text(text[:start] + replacement + text[end:])
+    noticed = is_noticed()
+    (COPY / file).write_text(text)
+    return noticed
+
+
+def main():
+    count, seed = (int(word) for word in (sys.argv[1:] + ["60", "1"][len(sys.argv) - 1 :]))
+    shutil.copytree(ROOT, COPY, ignore=shutil.ignore_patterns("build", ".git"), dirs_exist_ok=True)
+    if not run("cmake", "--preset", "native") or is_noticed() is not False:
+        sys.exit("the tests do not pass on the tree as it is")
+    tried, survived, bad = 0, 0, 0
+    for site in spread(random.Random(seed)):
+        if tried == count:
+            break
+        noticed = try_break(site)
+        if noticed is None:
+            continue
+        tried += 1
+        if not noticed:
+            survived += 1
+            bad += not is_allowed(site)
+            print("SURVIVED", "(may)" if is_allowed(site) else "", told(site), flush=True)
+    print(f"{tried} breaks, {tried - survived} noticed, {survived} survived, {bad} of them without a reason")
+    return bad > 0
+
+
+sys.exit(main())

@@ -3,6 +3,7 @@
 
 #include "actions/action_table.h"
 #include "core/coordinates.h"
+#include "core/main_window.h"
 #include "core/state.h"
 #include "menus/menu_list.h"
 #include "regions/region_table.h"
@@ -83,11 +84,12 @@ static void WriteKeys(LPCSTR file, const PlainKey (&keys)[COUNT]) {
     }
 }
 
-// A place that shows nothing on the screens there are, as from a display that was taken away.
+// Not so is a place on a display that was taken away. The map is never smaller than its least size.
 static int IsInSight(const RECT& place) {
+    const RECT map{place.left, place.top, std::max(place.right, place.left + LEAST_TOOLWIN.cx),
+                   std::max(place.bottom, place.top + LEAST_TOOLWIN.cy)};
     RECT shared{};
-    return place.left < place.right && place.top < place.bottom &&
-           IntersectRect(&shared, &place, &ScreenRect);
+    return IntersectRect(&shared, &map, &ScreenRect);
 }
 
 static void ReadPlace(HWND window, LPCSTR file) {

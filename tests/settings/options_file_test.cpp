@@ -85,12 +85,13 @@ TEST_F(OptionsFile, TheToolwinGoesToAStoredPlaceRightOfZero) {
         int left, top, right, bottom;
         RECT place;
     } const cases[] = {
-        {10,   20, 210,     80,  stays            },
-        {0,    5,  300,     300, stays            },
-        {-9,   5,  300,     300, stays            },
-        {1,    0,  INT_MAX, 9,   {1, 0, 32001, 13}}, // as far as the window's own limits go
-        {1024, 5,  1200,    80,  {1, 0, 32001, 13}}, // from a display that is gone
-        {30,   5,  20,      80,  {1, 0, 32001, 13}},
+        {10,   20,  210,     80,  stays               },
+        {0,    5,   300,     300, stays               },
+        {-9,   5,   300,     300, stays               },
+        {1,    0,   INT_MAX, 9,   {1, 0, 32001, 13}   }, // as far as the window's own limits go
+        {1024, 5,   1200,    80,  {1, 0, 32001, 13}   }, // from a display that is gone
+        {30,   5,   20,      80,  {30, 5, 70, 80}     }, // no smaller than they go
+        {300,  200, -1,      -1,  {300, 200, 340, 213}}, // only its corner is stored
     };
     for (const auto& given : cases) {
         StoreFile("quorl_pos.left=" + std::to_string(given.left) + "\nquorl_pos.top=" +

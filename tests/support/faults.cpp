@@ -14,9 +14,10 @@ enum Outcome { HELD, BROKEN, NOTHING_FAILED }; // the exit code of a story's pro
 
 } // namespace
 
+constexpr unsigned PATIENCE = 30; // seconds
+
 static Outcome Tell(const std::function<void()>& story, int nth) {
-    constexpr unsigned patience = 30; // seconds
-    alarm(patience);
+    alarm(PATIENCE);
     Desk.fault = {"", nth, 0, 87, 0};
     const std::size_t before = Desk.trace.size();
     story();
@@ -46,4 +47,15 @@ int FailEachCall(const std::function<void()>& story) {
         if (outcome != HELD)
             return nth;
     }
+}
+
+bool HoldsInItsOwnProcess(const std::function<void()>& story) {
+    const pid_t process = fork();
+    if (process == 0) {
+        alarm(PATIENCE);
+        story();
+        std::fflush(stdout);
+        _exit(testing::Test::HasFailure() ? BROKEN : HELD);
+    }
+    return Outlive(process) == HELD;
 }

@@ -8,3 +8,7 @@
 // crash and a story that does not end within half a minute fail the test and name the call. Gives the number
 // of calls that have failed.
 int FailEachCall(const std::function<void()>& story);
+
+// Runs the story in a process of its own. False when an expectation does not hold, and after a crash or half
+// a minute.
+bool HoldsInItsOwnProcess(const std::function<void()>& story);

@@ -1,0 +1,10 @@
+// A day with Quorl, made of bytes: what the user, the other programs and the system do, one act after the
+// other.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+// Lives the day in this process, which must be fresh, and expects after each act and at the end what must
+// hold whatever happens. The same bytes are the same day. Tells the acts of a day that did not hold.
+void Live(const std::uint8_t* bytes, std::size_t count);

@@ -1,0 +1,9 @@
+// One input of the fuzzer of settings files, also tried by the tests.
+#pragma once
+
+#include <string_view>
+
+// Bit 0 of the first byte: the file is there at the start, rather than loaded while Quorl runs. Bit 1: the
+// rest stands behind foreign lines, in Quorl's own section. All else is the file. Loads, saves, loads and
+// saves again. Null, or what did not hold.
+const char* TrySettings(std::string_view input);

@@ -27,7 +27,7 @@ static const DeskState& Started() {
 }
 
 static void Load(int bAtStart) {
-    Desk.answers.assign(2 * NUM_ACTIONS, IDOK); // to the boxes of refused hotkeys
+    Desk.answers.assign(std::size_t{2} * NUM_ACTIONS, IDOK); // to the boxes of refused hotkeys
     if (bAtStart)
         OnCreate(MainWnd);
     else
@@ -60,7 +60,7 @@ const char* TrySettings(std::string_view input) {
     std::string& file = Desk.files[SETTINGS_FILE];
     file.clear();
     Load(1); // every default, whatever the input before has left
-    const int flags = input[0];
+    const int flags = static_cast<unsigned char>(input[0]);
     file = flags & 2 ? FOREIGN : "";
     file += input.substr(1);
     Load(flags & 1);

@@ -91,5 +91,5 @@ TEST(NameRegion, WithAllRowsInUseItSaysSoAndNothingIsLost) {
     CloseBy(find, IDOK);
     DoRow(47);
     EXPECT_SOON(Stored("Region199"), std::string("place 199|199|7|1500|775|0"));
-    EXPECT_EQ(Stored("num_regions"), "200");
+    EXPECT_SOON(Stored("num_regions"), std::string("200")) << "though each key's write makes the file anew";
 }

@@ -1,9 +1,8 @@
 // The dialogs as a user works them.
 #include "dialogs.h"
 
+#include "asker/asker.h"
 #include "mouse.h"
-
-#include <commctrl.h>
 
 #include <cctype>
 
@@ -56,21 +55,41 @@ void Until(Came came, Act act) {
         act();
 }
 
-// Sends a message that answers in a record. Lists and tabs take it only in memory of their own program.
-template <typename Record, typename Fill>
-Record Asked(HWND window, UINT message, WPARAM wParam, Fill fill) {
-    DWORD id = 0;
-    GetWindowThreadProcessId(window, &id);
-    const HANDLE program = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, id);
-    void* const there = VirtualAllocEx(program, nullptr, sizeof(Record), MEM_COMMIT, PAGE_READWRITE);
-    Record record{};
-    fill(record, static_cast<Record*>(there));
-    EXPECT_TRUE(WriteProcessMemory(program, there, &record, sizeof record, nullptr));
-    SendMessageA(window, message, wParam, reinterpret_cast<LPARAM>(there));
-    EXPECT_TRUE(ReadProcessMemory(program, there, &record, sizeof record, nullptr));
-    VirtualFreeEx(program, there, 0, MEM_RELEASE);
-    CloseHandle(program);
-    return record;
+struct Asker {
+    Question* question; // in memory that the other program can open too
+    HMODULE library;
+    HOOKPROC goes;
+    UINT ask;
+};
+
+Asker MakeAsker() {
+    const HANDLE memory =
+        CreateFileMappingA(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(Question), QUESTION_NAME);
+    const HMODULE library = LoadLibraryA("asker.dll");
+    void* const view = MapViewOfFile(memory, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(Question));
+    const auto goes =
+        reinterpret_cast<HOOKPROC>(reinterpret_cast<void*>(GetProcAddress(library, "OnMessage")));
+    return {static_cast<Question*>(view), library, goes, RegisterWindowMessageA(ASK_NAME)};
+}
+
+// The answer stands in the record of what is given.
+Question Asked(HWND control, const Question& question) {
+    static const Asker asker = MakeAsker();
+    *asker.question = question;
+    const HHOOK hook = SetWindowsHookExA(WH_CALLWNDPROC, asker.goes, asker.library,
+                                         GetWindowThreadProcessId(control, nullptr));
+    Ask(control, asker.ask);
+    UnhookWindowsHookEx(hook);
+    EXPECT_TRUE(asker.question->bAnswered);
+    return *asker.question;
+}
+
+RECT PlaceOfPart(HWND control, UINT message, int part, LONG kind) {
+    Question question = {};
+    question.message = message;
+    question.wParam = static_cast<WPARAM>(part);
+    question.place.left = kind;
+    return Asked(control, question).place;
 }
 
 } // namespace
@@ -180,28 +199,21 @@ void PressRow(HWND list, int row) {
 }
 
 std::string ItemText(HWND list, int item, int column) {
-    struct Letter {
-        LVITEMA item;
-        char text[64];
-    };
-    return Asked<Letter>(list, LVM_GETITEMTEXTA, static_cast<WPARAM>(item),
-                         [column](Letter& letter, Letter* there) {
-                             letter.item.iSubItem = column;
-                             letter.item.pszText = there->text;
-                             letter.item.cchTextMax = sizeof letter.text;
-                         })
-        .text;
+    Question question = {};
+    question.message = LVM_GETITEMTEXTA;
+    question.wParam = static_cast<WPARAM>(item);
+    question.item.iSubItem = column;
+    return Asked(list, question).text;
 }
 
 void PressItem(HWND list, int item) {
     SendMessageA(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(item), FALSE);
-    const RECT place = Asked<RECT>(list, LVM_GETITEMRECT, static_cast<WPARAM>(item),
-                                   [](RECT& rect, RECT*) { rect.left = LVIR_BOUNDS; });
+    const RECT place = PlaceOfPart(list, LVM_GETITEMRECT, item, LVIR_BOUNDS);
     PressAt(list, {place.left + 30, (place.top + place.bottom) / 2});
 }
 
 void PressTab(HWND tabs, int tab) {
-    const RECT place = Asked<RECT>(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(tab), [](RECT&, RECT*) {});
+    const RECT place = PlaceOfPart(tabs, TCM_GETITEMRECT, tab, 0);
     PressAt(tabs, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
 }
 

@@ -33,6 +33,12 @@ TEST_F(MainWindow, EveryEndAsksTheSameQuestionAndDestroysNothing) {
     EXPECT_TRUE(Desk.files.empty());
 }
 
+TEST_F(MainWindow, WhatTheMouseDoesOnTheMapIsAnsweredBy0) {
+    Start();
+    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONUP, WM_MBUTTONDOWN})
+        EXPECT_EQ(Send(message), 0) << message;
+}
+
 TEST_F(MainWindow, NewColoursRepaintTheMap) {
     Start();
     for (const UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_DEVMODECHANGE}) {

@@ -130,8 +130,9 @@ TEST_F(FindDialogs, ARowThatDoesNotFitIsLeftOut) {
 
 TEST_F(FindDialogs, ASizeIsAppliedAtTheWindowsCorner) {
     const HWND mail = OpenWindow("mail", {500, 100, 800, 300});
+    Quorl.left = -1000;
     HWND dialog = OpenByRow(53);
-    EXPECT_EQ(RowOf(ControlOf(dialog, 1043)).title, "4096x1536");
+    EXPECT_EQ(RowOf(ControlOf(dialog, 1043)).title, "5096x1536");
     Type(dialog, "400", "400");
     ClickControl(ControlOf(dialog, APPLY));
     EXPECT_EQ(PlaceOf(mail), Rect(500, 100, 800, 300)) << "none is chosen yet";

@@ -21,7 +21,7 @@ OTHERS = "NOT_BUILT"  # programs that have nothing of src/ in them
 
 # pattern: what stands there instead
 BREAKS = (
-    (r"(?<![\w.])\d+(?![\w.])", lambda found: str(int(found[0]) + 1)),
+    (r"(?<![\w.])\d+(?![\w.])", lambda found: "0" if found[0] == "1" else str(int(found[0]) + 1)),
     (r" < (?!<)", lambda _: " <= "),
     (r" > ", lambda _: " >= "),
     (r" <= ", lambda _: " < "),
@@ -37,7 +37,11 @@ BREAKS = (
 )
 
 # file, a part of the line as it stands: why no test can notice
-SURVIVORS = {}
+SURVIVORS = {
+    ("src/actions/dispatch.cpp", "CycleInView,"): "an argument that the handler does not read",
+    ("src/regions/name_region_dialog.cpp", "End(dialog, IDOK)"): "a key that cannot be had beeps before or after",
+    ("src/scroll/shift.cpp", "row < num_windows"): "the row behind the last one holds no window, or one that has ended",
+}
 
 
 def code_of(text):

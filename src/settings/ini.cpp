@@ -10,6 +10,8 @@
 static const int KEY_ROOM = 32;
 static const char FIELD_MARKS[] = {FIELD_MARK, 0};
 
+int bWriteFailed;
+
 const char* FirstField(const char* line) {
     return line + std::strspn(line, FIELD_MARKS);
 }
@@ -55,7 +57,8 @@ int ReadIniText(LPCSTR file, LPCSTR key, char* text, int room) {
 }
 
 void WriteIniText(LPCSTR file, LPCSTR key, LPCSTR text) {
-    WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file);
+    if (!WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file))
+        bWriteFailed = 1;
 }
 
 int ReadIniLine(LPCSTR file, LPCSTR format, int row, char (&line)[LINE_ROOM]) {

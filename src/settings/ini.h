@@ -19,6 +19,8 @@ constexpr int LINE_ROOM = 64;
 // negative result and leaves `target` alone. A value that is no number counts as 0.
 int ReadIniInt(LPCSTR file, LPCSTR key, int* target);
 
+extern int bWriteFailed; // set to 1 by a write that fails, which leaves what was stored
+
 void WriteIniInt(LPCSTR file, LPCSTR key, int number);
 
 // Reads a value into `text`, at most `room` bytes with the zero. The characters stored; 0 when it is absent

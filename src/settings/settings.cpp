@@ -5,6 +5,7 @@
 #include "settings/ini.h"
 #include "settings/options_file.h"
 #include "settings/regions_file.h"
+#include "settings/whole_file.h"
 
 void LoadSettings(HWND window) {
     LoadOptions(window, SETTINGS_FILE);
@@ -12,10 +13,14 @@ void LoadSettings(HWND window) {
     LoadActions(window, SETTINGS_FILE);
 }
 
+static void SaveTo(HWND window, LPCSTR file) {
+    SaveOptions(window, file);
+    SaveRegions(window, file);
+    SaveActions(window, file);
+}
+
 void SaveSettings(HWND window) {
-    SaveOptions(window, SETTINGS_FILE);
-    SaveRegions(window, SETTINGS_FILE);
-    SaveActions(window, SETTINGS_FILE);
+    SaveWhole(window, SETTINGS_FILE, SaveTo);
 }
 
 int OnSaveSettings(const ActionCall& call) {

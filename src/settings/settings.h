@@ -3,7 +3,8 @@
 
 #include "actions/dispatch.h"
 
-// Options, regions, actions, in this order, from and to the settings file. `window` is the Toolwin.
+// Options, regions, actions, in this order, from and to the settings file. `window` is the Toolwin. What is
+// saved is all in the file, or none of it.
 void LoadSettings(HWND window);
 void SaveSettings(HWND window);
 

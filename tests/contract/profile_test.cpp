@@ -143,4 +143,34 @@ TEST_F(Profile, ANumberIsReadWithItsSignUpToTheFirstOtherCharacter) {
     }
 }
 
+std::string PathInWindowsFolder(const char* file) {
+    char folder[MAX_PATH] = "";
+    const UINT length = GetWindowsDirectoryA(folder, MAX_PATH);
+    EXPECT_EQ(length, std::string(folder).size());
+    return std::string(folder) + '\\' + file;
+}
+
+TEST_F(Profile, ACopyCanTakeTheFilesPlace) {
+    constexpr char COPY_NAME[] = "contract.new";
+    const std::string file = PathInWindowsFolder(FILE_NAME);
+    const std::string copy = PathInWindowsFolder(COPY_NAME);
+    RemoveProfile(COPY_NAME);
+    EXPECT_FALSE(CopyFileA(file.c_str(), copy.c_str(), FALSE));
+    EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
+    EXPECT_FALSE(DeleteFileA(copy.c_str()));
+    EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
+    for (const char* value : {"1", "2", "3"}) {
+        Write("a", value);
+        EXPECT_TRUE(CopyFileA(file.c_str(), copy.c_str(), FALSE));
+        EXPECT_TRUE(WritePrivateProfileStringA("Quorl", "b", value, COPY_NAME));
+        EXPECT_EQ(Number("b"), *value == '1' ? -1 : *value - '1') << "the file is untouched";
+        EXPECT_TRUE(
+            MoveFileExA(copy.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+        EXPECT_EQ(ProfileLines(FILE_NAME),
+                  (Lines{"[Quorl]", std::string("a=") + value, std::string("b=") + value}));
+        EXPECT_EQ(Read("b"), value);
+    }
+    EXPECT_FALSE(MoveFileExA(copy.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING)) << "it is gone";
+}
+
 } // namespace

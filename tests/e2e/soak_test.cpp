@@ -299,8 +299,9 @@ void OpenSome() {
                             "plain"});
 }
 
-// What the system keeps of a dialog for the next one is kept once.
-void OpenEachDialog() {
+// What the system keeps of a dialog, or of a menu, for the next one is kept once.
+void OpenAllOnce() {
+    ChooseFromMenu();
     for (const int row : {49, 52, 53, 54, 55, 56, 57, 74, 111, 116}) {
         DoRow(row);
         EXPECT_SOON(DialogsOfQuorl().size(), std::size_t{1}) << row;
@@ -322,7 +323,7 @@ TEST(Soak, QuorlGoesOnAnsweringAndKeepsNothingOfWhatItUsed) {
     Chance.seed(length.seed);
     OpenSome();
     const HANDLE quorl = Start();
-    OpenEachDialog();
+    OpenAllOnce();
     const ULONGLONG start = GetTickCount64();
     int done = 0;
     for (; done < length.acts && GetTickCount64() < start + FIRST_MINUTE; ++done)

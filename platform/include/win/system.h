@@ -28,6 +28,7 @@ constexpr int IDCANCEL = 2;
 constexpr int IDYES = 6;
 constexpr int IDNO = 7;
 
+constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
 constexpr DWORD ERROR_ACCESS_DENIED = 5;
 constexpr DWORD ERROR_INVALID_WINDOW_HANDLE = 1400;
 constexpr DWORD ERROR_CLASS_ALREADY_EXISTS = 1410;
@@ -60,3 +61,12 @@ UINT WINAPI GetPrivateProfileIntA(LPCSTR section, LPCSTR key, int absent, LPCSTR
 DWORD WINAPI GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR absent, LPSTR text, DWORD size,
                                       LPCSTR file);
 BOOL WINAPI WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file);
+
+// Files of the Windows folder, where the profile functions look for a bare name.
+constexpr int MAX_PATH = 260;
+constexpr DWORD MOVEFILE_REPLACE_EXISTING = 1;
+constexpr DWORD MOVEFILE_WRITE_THROUGH = 8;
+UINT WINAPI GetWindowsDirectoryA(LPSTR folder, UINT size);
+BOOL WINAPI CopyFileA(LPCSTR from, LPCSTR to, BOOL bOnlyIfNew);
+BOOL WINAPI MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags);
+BOOL WINAPI DeleteFileA(LPCSTR file);

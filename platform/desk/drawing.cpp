@@ -239,12 +239,12 @@ BOOL GetTextExtentPoint32A(HDC context, LPCSTR, int length, SIZE* extent) {
     return TRUE;
 }
 
-// A text too long for its place ends in three points when the format asks for it.
-static std::string Shortened(const std::string& text, const RECT& rect, UINT format) {
+// A text too long for its place ends in three points when the format asks for that in the text itself.
+static void Shorten(LPSTR text, int length, const RECT& rect, UINT format) {
+    constexpr UINT inPlace = DT_END_ELLIPSIS | DT_MODIFYSTRING;
     const LONG room = std::max(1, (rect.right - rect.left) / CHARACTER.cx);
-    if (!(format & DT_END_ELLIPSIS) || static_cast<LONG>(text.size()) <= room)
-        return text;
-    return text.substr(0, static_cast<std::size_t>(std::max(1, room - 3))) + "...";
+    if ((format & inPlace) == inPlace && length > room)
+        std::memcpy(text + std::max(1, room - 3), "...", 4);
 }
 
 // What is kept is the text as it was handed over, since its place in a test is seldom as wide as on a screen.
@@ -252,12 +252,12 @@ int DrawTextExA(HDC context, LPSTR text, int length, RECT* rect, UINT format, DR
     const DeskContext* on = Fails("DrawTextExA") ? nullptr : ContextOf(context);
     if (!on)
         return 0;
-    const std::string asked(text, static_cast<std::size_t>(length));
-    if (Desk.bTrace)
-        Desk.strokes.push_back(
-            {"DrawTextExA", on->window, *rect, asked, on->font, format, {}, nullptr, 0, R2_COPYPEN, {}, {}});
-    const std::string drawn = Shortened(asked, *rect, format);
-    if (format & DT_MODIFYSTRING && drawn != asked)
-        std::memcpy(text, drawn.c_str(), drawn.size() + 1);
+    if (Desk.bTrace) {
+        Record(*on, "DrawTextExA", *rect);
+        Desk.strokes.back().text.assign(text, static_cast<std::size_t>(length));
+        Desk.strokes.back().font = on->font;
+        Desk.strokes.back().format = format;
+    }
+    Shorten(text, length, *rect, format);
     return CHARACTER.cy;
 }

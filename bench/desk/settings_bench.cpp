@@ -1,5 +1,6 @@
 // What loading and saving the settings costs beyond the disk, by the number of regions.
-#include "core/main.h"
+#include "running.h"
+
 #include "core/state.h"
 #include "regions/region_table.h"
 #include "settings/settings.h"
@@ -10,11 +11,9 @@
 
 namespace {
 
-// A running Quorl with a saved file. The process is shared, so it starts once.
+// A running Quorl with a saved file.
 void SaveWithRegions(int count) {
-    Desk.bTrace = 0;
-    if (!MainWnd)
-        StartUp(reinterpret_cast<HINSTANCE>(0x400000));
+    RunQuorl();
     for (int index = 0; index < count; ++index)
         RegionTable[index] = {index, "some region", 1024, 768, 2048, 1536, 0x00ff00};
     num_regions = count;
@@ -35,7 +34,9 @@ void Save(benchmark::State& state) {
         SaveSettings(MainWnd);
 }
 
-BENCHMARK(Load)->Arg(0)->Arg(10)->Arg(MAX_REGIONS)->Unit(benchmark::kMicrosecond);
-BENCHMARK(Save)->Arg(0)->Arg(10)->Arg(MAX_REGIONS)->Unit(benchmark::kMicrosecond);
-
 } // namespace
+
+void EnrollSettings() {
+    benchmark::RegisterBenchmark("load", Load)->Arg(0)->Arg(10)->Arg(MAX_REGIONS);
+    benchmark::RegisterBenchmark("save", Save)->Arg(0)->Arg(10)->Arg(MAX_REGIONS);
+}

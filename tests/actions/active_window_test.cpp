@@ -57,6 +57,7 @@ TEST_F(ActiveWindow, StaysOnTheDesktopNotOnTheScreen) {
     Command(96);
     EXPECT_EQ(PlaceOf(active).left, -1024);
     EXPECT_EQ(KeptOnDesktop({0, 0, 5000, 10}, VDesk, Quorl).x, 4096 - 1024 - 5000) << "the far edge wins";
+    EXPECT_EQ(KeptOnDesktop({3000, 0, 200, 10}, VDesk, Quorl).x, 4096 - 1024 - 200);
 }
 
 TEST_F(ActiveWindow, ThatHangsOrIsGoneHarmsNothing) {

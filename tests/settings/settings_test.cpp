@@ -71,7 +71,7 @@ TEST_F(Settings, AllThatIsKeptComesBackInTheNextRun) {
 }
 
 TEST_F(Settings, AreSavedAsAWholeOrNotAtAll) {
-    Command(47);
+    EXPECT_EQ(DoAction(MainWnd, 47, nullptr), 0);
     const std::string before = File();
     ChangeAll();
     Command(47);

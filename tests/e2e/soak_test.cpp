@@ -299,10 +299,11 @@ void OpenSome() {
                             "plain"});
 }
 
-// What the system keeps of a dialog, or of a menu, for the next one is kept once.
+// What the system keeps of a dialog, or of a menu, for the next one is kept once; so are up to 64 contexts,
+// as they are needed, and Options with its many controls needs most.
 void OpenAllOnce() {
     ChooseFromMenu();
-    for (const int row : {49, 52, 53, 54, 55, 56, 57, 74, 111, 116}) {
+    for (const int row : {54, 54, 54, 54, 54, 49, 52, 53, 55, 56, 57, 74, 111, 116}) {
         DoRow(row);
         EXPECT_SOON(DialogsOfQuorl().size(), std::size_t{1}) << row;
         CloseDialogs();

@@ -24,7 +24,7 @@ static FARPROC Export(Function* function) {
     return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(function));
 }
 
-void QuorlTest::SetUp() {
+void PrepareDesk() {
     DeskModule& user = Desk.modules["user32.dll"];
     user.loads = 1;
     user.exports["SetLayeredWindowAttributes"] = Export(SetLayeredWindowAttributes);
@@ -32,6 +32,10 @@ void QuorlTest::SetUp() {
     DeskModule& hook = Desk.modules["quorl.dll"];
     hook.exports["SaveSharedData"] = Export(SaveSharedData);
     hook.exports["SetMouseHook"] = Export(SetMouseHook);
+}
+
+void QuorlTest::SetUp() {
+    PrepareDesk();
 }
 
 // What a control has allocated goes with it, not with the process.

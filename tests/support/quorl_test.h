@@ -7,9 +7,12 @@
 #include <gtest/gtest.h>
 
 // Each case runs in a process of its own, so nothing is ever set back.
+// A screen of 1024 by 768, the optional functions, a hook library that records.
+void PrepareDesk();
+
 class QuorlTest : public testing::Test {
   protected:
-    void SetUp() override;    // a screen of 1024 by 768, the optional functions, a hook library that records
+    void SetUp() override;    // PrepareDesk
     void TearDown() override; // no unexpected box, nothing that would have blocked
 };
 

@@ -310,7 +310,9 @@ void OpenAllOnce() {
     }
 }
 
+// A row that was only posted may open a dialog yet.
 ResourcesInUse ResourcesAtRest(HANDLE quorl) {
+    Sleep(2000);
     CloseDialogs();
     EXPECT_TRUE(Answers());
     Sleep(500);

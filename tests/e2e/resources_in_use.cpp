@@ -80,7 +80,7 @@ ResourcesInUse ResourcesOf(HANDLE process) {
 
 std::string Told(const ResourcesInUse& resources) {
     char text[160];
-    std::snprintf(text, sizeof text, "%d windows, %d graphics objects, %zu KB", resources.windows,
-                  resources.gdi, resources.memory / 1024);
+    std::snprintf(text, sizeof text, "%d windows, %d graphics objects, %lu KB", resources.windows,
+                  resources.gdi, static_cast<unsigned long>(resources.memory / 1024));
     return text;
 }

@@ -13,24 +13,25 @@
 
 static int Allocations;
 
-extern "C" {
-void* __libc_malloc(std::size_t size);
-void* __libc_calloc(std::size_t count, std::size_t size);
-void* __libc_realloc(void* block, std::size_t size);
+// The C library's own, under names that a program may use.
+void* SystemMalloc(std::size_t size) __asm__("__libc_malloc");
+void* SystemCalloc(std::size_t count, std::size_t size) __asm__("__libc_calloc");
+void* SystemRealloc(void* block, std::size_t size) __asm__("__libc_realloc");
 
+extern "C" {
 void* malloc(std::size_t size) {
     ++Allocations;
-    return __libc_malloc(size);
+    return SystemMalloc(size);
 }
 
 void* calloc(std::size_t count, std::size_t size) {
     ++Allocations;
-    return __libc_calloc(count, size);
+    return SystemCalloc(count, size);
 }
 
 void* realloc(void* block, std::size_t size) {
     ++Allocations;
-    return __libc_realloc(block, size);
+    return SystemRealloc(block, size);
 }
 }
 

@@ -1,12 +1,7 @@
-#include "dialogs/actions_dialog.h"
-
-#include "actions/hotkeys.h"
+#include "actions/action_table.h"
 #include "actions/key_names.h"
 #include "core/state.h"
-#include "dialogs/registry.h"
-#include "support/quorl_test.h"
-
-#include <initializer_list>
+#include "dialogs/dialog_test.h"
 
 namespace {
 
@@ -27,25 +22,16 @@ enum ControlId {
     WARNING = 1069,
 };
 
-constexpr int KEY_RIGHT_SCREEN = 25, MOUSE_RIGHT_SCREEN = 21; // items: row 30
 constexpr ActionId RIGHT_SCREEN = 30;
+constexpr int KEY_RIGHT_SCREEN = 25, MOUSE_RIGHT_SCREEN = 21; // its item in each list
 
-class ActionsDialog : public QuorlTest {
+class ActionsDialog : public DialogTest {
   protected:
-    HWND dialog = nullptr;
-
     void SetUp() override {
-        QuorlTest::SetUp();
-        ASSERT_EQ(StartQuorl(), 1);
-        Command(55);
-        dialog = DialogHandles[KEYS_ACTIONS];
-        ASSERT_NE(dialog, nullptr);
+        DialogTest::SetUp();
+        Open(55);
+        Desk.beeps.clear();
     }
-
-    HWND At(int id) const { return ControlOf(dialog, id); }
-    DeskControl& Kept(int id) const { return RowOf(At(id)).control; }
-    void Click(int id) const { ClickControl(At(id)); }
-    void Choose(int id, int row) const { ChooseRow(At(id), row); }
 
     // Which of the controls are checked, or on show, a digit each.
     std::string Checked() const {
@@ -67,47 +53,28 @@ class ActionsDialog : public QuorlTest {
     }
 };
 
-int IsHeldByQuorl(ActionId row) {
-    for (const DeskHotkey& hotkey : Desk.hotkeys)
-        if (hotkey.window == MainWnd && hotkey.id == row)
-            return 1;
-    return 0;
-}
-
-TEST_F(ActionsDialog, OpensOnTheKeyboardTabWithNothingSelected) {
+TEST_F(ActionsDialog, EachTabShowsItsRowsAndItsOwnBindingOfOneThatStandsInBoth) {
+    Bind(RIGHT_SCREEN, KEY_WIN | KEY_SHIFT, RBUTTON);
     EXPECT_TRUE(IsWindowVisible(dialog));
-    ASSERT_EQ(Kept(TABS).rows.size(), 2U);
-    EXPECT_EQ(Kept(TABS).rows[0].text, "Keyboard Actions");
-    EXPECT_EQ(Kept(TABS).rows[1].text, "Mouse Actions");
-    EXPECT_EQ(Kept(TABS).chosen, 0);
-    ASSERT_EQ(Kept(LIST).columns.size(), 2U);
-    EXPECT_EQ(Kept(LIST).columns[0].text, "ActionKeys");
-    EXPECT_EQ(Kept(LIST).columns[0].data, 120);
-    EXPECT_EQ(Kept(LIST).columns[1].text, "Description");
-    EXPECT_EQ(Kept(LIST).columns[1].data, 250);
+    EXPECT_EQ(Kept(TABS).rows, (Rows{{"Keyboard Actions"}, {"Mouse Actions"}}));
+    EXPECT_EQ(Kept(LIST).columns, (Rows{
+                                      {"ActionKeys",  120},
+                                      {"Description", 250}
+    }));
     EXPECT_EQ(Kept(LIST).extendedStyle, LVS_EX_FULLROWSELECT);
-    EXPECT_EQ(Kept(LIST).count, 103);
-    EXPECT_EQ(Kept(LIST).chosen, -1);
-    ASSERT_EQ(Kept(KEYS).rows.size(), static_cast<std::size_t>(NUM_KEY_NAMES));
-    EXPECT_EQ(Kept(KEYS).rows[65].text, "F24");
-    EXPECT_EQ(Kept(KEYS).rows[65].data, VK_F1 + 23);
+    EXPECT_EQ(Kept(KEYS).rows.size(), static_cast<std::size_t>(NUM_KEY_NAMES));
+    EXPECT_EQ(Kept(KEYS).rows.back(), (DeskRow{"F24", VK_F1 + 23}));
     EXPECT_EQ(KeyShown(), "");
     EXPECT_EQ(Shown(), "000111");
-    EXPECT_EQ(RowOf(At(GROUP)).title, "Keyboard");
-}
-
-TEST_F(ActionsDialog, EachTabShowsItsOwnBindingOfARowThatStandsInBoth) {
-    ActionTable[RIGHT_SCREEN].mouse_mods = KEY_WIN | KEY_SHIFT;
-    ActionTable[RIGHT_SCREEN].mouse_btn = RBUTTON;
-    EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "C-A-Right");
     EXPECT_EQ(TextInList(At(LIST), KEY_RIGHT_SCREEN, 1), "Move one desktop to the right");
+    EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "C-A-Right");
     Choose(LIST, KEY_RIGHT_SCREEN);
     EXPECT_EQ(Checked(), "0110000");
     EXPECT_EQ(KeyShown(), "Right");
 
     Choose(TABS, 1);
     EXPECT_EQ(Shown(), "111000");
-    EXPECT_EQ(RowOf(At(GROUP)).title, "Mouse");
+    EXPECT_EQ(TextOf(GROUP), "Mouse");
     EXPECT_EQ(Kept(LIST).count, 79);
     EXPECT_EQ(Kept(LIST).chosen, -1);
     EXPECT_EQ(Checked(), "0110000") << "flags keep their state over a change of tab";
@@ -117,6 +84,7 @@ TEST_F(ActionsDialog, EachTabShowsItsOwnBindingOfARowThatStandsInBoth) {
 
     Choose(TABS, 0);
     EXPECT_EQ(Shown(), "000111");
+    EXPECT_EQ(TextOf(GROUP), "Keyboard");
     EXPECT_EQ(Kept(LIST).count, 103);
 }
 
@@ -125,7 +93,6 @@ TEST_F(ActionsDialog, AnUnboundRowClearsTheControlsAndAKeyWithoutANameLeavesTheL
     ActionTable[6].vk = 0;
     ActionTable[6].key_mods = 0;
     Choose(LIST, KEY_RIGHT_SCREEN);
-    Desk.beeps.clear();
     Choose(LIST, 1);
     EXPECT_EQ(Desk.beeps.size(), 1U);
     EXPECT_EQ(KeyShown(), "Right");
@@ -142,70 +109,55 @@ TEST_F(ActionsDialog, AnUnboundRowClearsTheControlsAndAKeyWithoutANameLeavesTheL
     EXPECT_EQ(Desk.beeps.size(), 1U);
 }
 
-TEST_F(ActionsDialog, AnAppliedKeyReplacesTheOldOneAtOnceAndClearReleasesIt) {
+TEST_F(ActionsDialog, AnAppliedKeyReplacesTheOldOneAtOnceEvenIfItIsRefusedAndClearReleasesIt) {
+    Desk.hotkeys.push_back({nullptr, 1, MOD_CONTROL | MOD_ALT, 'Q'});
     Choose(LIST, KEY_RIGHT_SCREEN);
+    Choose(KEYS, 44); // Q
+    WillAnswer({IDOK});
+    Click(APPLY);
+    EXPECT_EQ(Desk.boxes.size(), 1U);
+    EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "<hotkey undefined>");
+    PressCombination(MOD_CONTROL | MOD_ALT, VK_RIGHT);
+    Settle();
+    EXPECT_EQ(VDesk.left, 0);
+
     Choose(KEYS, 10); // F5
     Click(SHIFT);
     Click(CTRL);
     Click(APPLY);
     EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "S-A-F5");
-    EXPECT_EQ(Kept(LIST).redrawn, std::vector<int>{KEY_RIGHT_SCREEN});
-    PressCombination(MOD_CONTROL | MOD_ALT, VK_RIGHT);
-    Settle();
-    EXPECT_EQ(VDesk.left, 0);
     PressCombination(MOD_SHIFT | MOD_ALT, VK_F1 + 4);
     Settle();
     EXPECT_EQ(VDesk.left, 1024);
 
     Click(CLEAR);
     EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "<hotkey undefined>");
-    EXPECT_FALSE(IsHeldByQuorl(RIGHT_SCREEN));
-    EXPECT_EQ(Kept(LIST).redrawn.size(), 2U);
-}
-
-TEST_F(ActionsDialog, ARefusedKeyLeavesTheRowUnbound) {
-    Desk.hotkeys.push_back({nullptr, 1, MOD_CONTROL | MOD_ALT, 'Q'});
-    Choose(LIST, KEY_RIGHT_SCREEN);
-    Choose(KEYS, 44); // Q
-    WillAnswer({IDOK});
-    Click(APPLY);
-    ASSERT_EQ(Desk.boxes.size(), 1U);
-    EXPECT_EQ(Desk.boxes[0].caption, "Error");
-    EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "<hotkey undefined>");
-    EXPECT_FALSE(IsHeldByQuorl(RIGHT_SCREEN));
+    EXPECT_EQ(Kept(LIST).redrawn, std::vector<int>(3, KEY_RIGHT_SCREEN));
+    PressCombination(MOD_SHIFT | MOD_ALT, VK_F1 + 4);
+    Settle();
+    EXPECT_EQ(VDesk.left, 1024);
 }
 
 TEST_F(ActionsDialog, AMouseCombinationIsStoredAsItIsCheckedAlsoWithoutAButton) {
-    Click(WIN); // hidden on the mouse tab, and counts there
+    Click(WIN); // hidden on the mouse tab, and counts there until a row is selected
     Choose(TABS, 1);
     Choose(LIST, MOUSE_RIGHT_SCREEN);
     Click(CTRL);
     Click(LEFT);
     Click(MIDDLE);
     Click(APPLY);
-    EXPECT_EQ(ActionTable[RIGHT_SCREEN].mouse_mods, KEY_CTRL);
-    EXPECT_EQ(ActionTable[RIGHT_SCREEN].mouse_btn, MBUTTON);
     EXPECT_EQ(Binding(MOUSE_RIGHT_SCREEN), "C-MB");
-    EXPECT_TRUE(IsHeldByQuorl(RIGHT_SCREEN)) << "its key stays";
     Click(CLEAR);
     EXPECT_EQ(Binding(MOUSE_RIGHT_SCREEN), "<mkey undefined>");
-    EXPECT_TRUE(IsHeldByQuorl(RIGHT_SCREEN));
+    EXPECT_EQ(ActionTable[RIGHT_SCREEN].vk, VK_RIGHT) << "its key stays";
 
-    Choose(LIST, 0);
-    Choose(LIST, MOUSE_RIGHT_SCREEN);
-    Choose(TABS, 0);
-    Click(WIN);
-    Choose(TABS, 1);
     Choose(LIST, MOUSE_RIGHT_SCREEN - 1);
     Click(APPLY);
-    EXPECT_EQ(ActionTable[29].mouse_mods, 0) << "selecting a row has taken the hidden flag off";
-    EXPECT_EQ(ActionTable[29].mouse_btn, 0);
-    EXPECT_EQ(Binding(MOUSE_RIGHT_SCREEN - 1), "");
+    EXPECT_EQ(ActionTable[RIGHT_SCREEN - 1].mouse_mods, 0);
+    EXPECT_EQ(ActionTable[RIGHT_SCREEN - 1].mouse_btn, 0);
 }
 
 TEST_F(ActionsDialog, WithoutARowOrAKeyAButtonBeepsAndChangesNothing) {
-    const std::size_t held = Desk.hotkeys.size();
-    Desk.beeps.clear();
     Choose(KEYS, 3);
     Click(APPLY);
     Click(CLEAR);
@@ -215,16 +167,13 @@ TEST_F(ActionsDialog, WithoutARowOrAKeyAButtonBeepsAndChangesNothing) {
     Click(APPLY);
     EXPECT_EQ(Desk.beeps.size(), 3U) << "no key";
     EXPECT_EQ(Binding(1), "S-C-A-Right");
-    EXPECT_EQ(Desk.hotkeys.size(), held);
 }
 
-TEST_F(ActionsDialog, OkAndEscapeCloseItAndItOpensAnew) {
-    for (const int id : {IDOK, IDCANCEL}) {
-        SendMessageA(dialog, WM_COMMAND, static_cast<WPARAM>(id), 0);
-        EXPECT_EQ(RowOf(dialog).handle, nullptr);
-        EXPECT_EQ(OpenDialog(MainWnd, DIALOG_ACTIONS, ActionsDlgProc), 1);
-        dialog = DialogHandles[KEYS_ACTIONS];
-        EXPECT_EQ(Kept(LIST).chosen, -1);
+TEST_F(ActionsDialog, EnterAndEscapeCloseIt) {
+    for (const int key : {VK_RETURN, VK_ESCAPE}) {
+        Press(key);
+        EXPECT_FALSE(IsOpen()) << key;
+        Open(55);
     }
 }
 

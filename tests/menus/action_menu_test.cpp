@@ -28,19 +28,12 @@ Lines LinesOf(HMENU menu) {
     return lines;
 }
 
-// The user opens the menu and chooses.
-void Choose(UINT id) {
+// The user opens the menu and chooses; 0 is nothing. The menu that was on show.
+HMENU Choose(UINT id) {
     Desk.choices = {id};
     PressCombination(MOD_CONTROL | MOD_ALT | MOD_SHIFT, VK_SPACE);
     Settle();
-}
-
-HMENU Shown() {
     return Desk.shownMenus.back().menu;
-}
-
-HMENU ShownRegions() {
-    return MenuOf(Shown()).items.back().submenu;
 }
 
 int LivingMenus() {
@@ -50,13 +43,10 @@ int LivingMenus() {
 
 TEST_F(ActionMenu, ANewUserFindsTenEntriesAtTheCursor) {
     Desk.cursor = {300, 200};
-    Choose(0);
-
-    EXPECT_EQ(LinesOf(Shown()),
+    EXPECT_EQ(LinesOf(Choose(0)),
               (Lines{"Options...", "Define Actions...", "Customize Menu...", "* Show Quorl Toolwin",
                      "Mark Current Region...", "--", "Help...", "About...", "--", "Exit"}));
-    EXPECT_EQ(Desk.shownMenus.back().at.x, 300);
-    EXPECT_EQ(Desk.shownMenus.back().at.y, 200);
+    EXPECT_EQ(Desk.shownMenus.back().at, (POINT{300, 200}));
     EXPECT_EQ(GetForegroundWindow(), MainWnd) << "else a click elsewhere would not close it";
     EXPECT_EQ(LivingMenus(), 0);
 }
@@ -65,84 +55,57 @@ TEST_F(ActionMenu, AChoiceRunsItsRowAndTheMenuTellsTheNewValueNextTime) {
     Compose({30, 70, -2});
     Choose(30);
     EXPECT_EQ(VDesk.left, 1024);
-    Choose(70);
-    EXPECT_EQ(LinesOf(Shown())[1], "* Toggle Tooltip");
-    Choose(0);
-    EXPECT_EQ(LinesOf(Shown()), (Lines{"Move one desktop to the right", "Toggle Tooltip", "--"}));
+    ASSERT_TRUE(IsWindowVisible(TipWnd));
+    EXPECT_EQ(LinesOf(Choose(70))[1], "* Toggle Tooltip");
+    EXPECT_FALSE(IsWindowVisible(TipWnd)) << "the strip gives way to the menu";
+    EXPECT_EQ(LinesOf(Choose(0)), (Lines{"Move one desktop to the right", "Toggle Tooltip", "--"}));
     EXPECT_EQ(VDesk.left, 1024) << "nothing was chosen";
 }
 
 TEST_F(ActionMenu, TheRegionsHangBelowTheEntriesAndAChoiceJumps) {
-    for (int region = 0; region < 12; ++region)
+    for (int region = 0; region < 11; ++region)
         Mark("r" + std::to_string(region), 100 * region, 0);
-    Choose(FIRST_REGION_ID + 11);
-
-    EXPECT_EQ(VDesk.left, 1100);
-    EXPECT_EQ(LinesOf(Shown()).back(), "View Region >");
-    EXPECT_EQ(LinesOf(ShownRegions()), (Lines{"&0 r0", "&1 r1", "&2 r2", "&3 r3", "&4 r4", "&5 r5", "&6 r6",
-                                              "&7 r7", "&8 r8", "&9 r9", "&0 r10", "&0 r11"}));
-    EXPECT_EQ(LivingMenus(), 0);
+    const HMENU menu = Choose(FIRST_REGION_ID + 10);
+    EXPECT_EQ(VDesk.left, 1000);
+    EXPECT_EQ(LinesOf(menu).back(), "View Region >");
+    EXPECT_EQ(LinesOf(MenuOf(menu).items.back().submenu),
+              (Lines{"&0 r0", "&1 r1", "&2 r2", "&3 r3", "&4 r4", "&5 r5", "&6 r6", "&7 r7", "&8 r8", "&9 r9",
+                     "&0 r10"}));
 }
 
 TEST_F(ActionMenu, AnAmpersandInARegionsNameIsSeenAndMarksNoKey) {
-    const auto text = [](int region, const std::string& name) {
-        char entry[MENU_TEXT_ROOM];
-        RegionEntryText(entry, region, name.c_str());
-        return std::string(entry);
-    };
-    EXPECT_EQ(text(2, "R&D"), "&2 R&&D");
-    EXPECT_EQ(text(10, "&"), "&0 &&");
-    EXPECT_EQ(text(3, ""), "&3 ");
-    EXPECT_EQ(text(4, std::string(50, '&')), "&4 " + std::string(70, '&')) << "no name is that long";
+    char text[MENU_TEXT_ROOM];
+    RegionEntryText(text, 2, "R&D");
+    EXPECT_STREQ(text, "&2 R&&D");
+    RegionEntryText(text, 4, std::string(50, '&').c_str());
+    EXPECT_EQ(text, "&4 " + std::string(70, '&')) << "no name is that long";
 }
 
-TEST_F(ActionMenu, AnEmptyListShowsTheRegionsOnlyAndWithoutThemNothing) {
+TEST_F(ActionMenu, WhatIsNoActionShowsAsALineOrNotAtAll) {
+    Compose({0, NUM_ACTIONS, 0x7fffffff, -0x7fffffff}); // a file edited by hand
+    EXPECT_EQ(LinesOf(Choose(0)), (Lines{"Display Quorl menu", "--"}));
     Compose({});
-    Choose(0);
-    EXPECT_EQ(LinesOf(Shown()), Lines{});
+    EXPECT_EQ(LinesOf(Choose(0)), Lines{});
     Mark("home", 0, 0);
-    Choose(0);
-    EXPECT_EQ(LinesOf(Shown()), Lines{"View Region >"});
-}
-
-TEST_F(ActionMenu, EntriesOfAHandEditedFileDoNoHarm) {
-    Compose({0, NUM_ACTIONS, 0x7fffffff, -0x7fffffff});
-    Choose(0);
-    EXPECT_EQ(LinesOf(Shown()), (Lines{"Display Quorl menu", "--"}));
-}
-
-TEST_F(ActionMenu, TheStripGivesWayToTheMenu) {
-    Command(30);
-    ASSERT_TRUE(IsWindowVisible(TipWnd));
-    Choose(0);
-    EXPECT_FALSE(IsWindowVisible(TipWnd));
+    EXPECT_EQ(LinesOf(Choose(0)), Lines{"View Region >"});
 }
 
 TEST_F(ActionMenu, WhateverCallFailsTheRestOfTheMenuIsShownOrNothingIsAndNoMenuIsLeftBehind) {
     Mark("home", 0, 0);
-    int nth = 0;
-    do {
-        Desk.choices.assign({0});
-        Desk.shownMenus.clear();
-        Desk.fault = {.call = "InsertMenuItemA", .callsLeft = ++nth};
+    for (int nth = 1; nth <= 12; ++nth) { // ten entries, the region, what it hangs from
         Desk.beeps.clear();
-        ShowActionMenu(MainWnd);
-        const int bEntry = nth <= quorl_menu_count;
-        EXPECT_EQ(Desk.beeps.size(), bEntry ? 1u : 0u) << "insert " << nth;
-        EXPECT_EQ(LinesOf(Shown()).size(), bEntry || nth == 12 ? 10u : 11u);
-        EXPECT_EQ(LivingMenus(), 0);
-    } while (Desk.fault.hits > 0);
-    EXPECT_EQ(nth, 13); // ten entries, the region, what it hangs from
+        Desk.fault = {"InsertMenuItemA", nth};
+        EXPECT_EQ(LinesOf(Choose(0)).size(), nth == 11 ? 11u : 10u) << "insert " << nth;
+        EXPECT_EQ(Desk.fault.hits, 1);
+        EXPECT_EQ(Desk.beeps.size(), nth <= 10 ? 1u : 0u) << "insert " << nth;
+    }
+    Desk.fault = {"CreatePopupMenu", 2};
+    EXPECT_EQ(LinesOf(Choose(0)).size(), 10u) << "without the regions";
 
-    Desk.choices.assign({0});
-    Desk.fault = {.call = "CreatePopupMenu", .callsLeft = 2};
+    const std::size_t shown = Desk.shownMenus.size();
+    Desk.fault = {"CreatePopupMenu", 1};
     EXPECT_EQ(ShowActionMenu(MainWnd), 0);
-    EXPECT_EQ(LinesOf(Shown()).size(), 10u) << "without the regions";
-
-    Desk.shownMenus.clear();
-    Desk.fault = {.call = "CreatePopupMenu", .callsLeft = 1};
-    EXPECT_EQ(ShowActionMenu(MainWnd), 0);
-    EXPECT_TRUE(Desk.shownMenus.empty());
+    EXPECT_EQ(Desk.shownMenus.size(), shown);
     EXPECT_EQ(LivingMenus(), 0);
 }
 

@@ -1,6 +1,3 @@
-#include "menus/tray.h"
-
-#include "actions/action_table.h"
 #include "core/state.h"
 #include "support/quorl_test.h"
 
@@ -15,26 +12,16 @@ void MouseOverIcon(UINT mouse) {
     Settle();
 }
 
-TEST_F(Tray, TheIconStandsThereFromTheStartUntilTheUserQuits) {
-    ASSERT_EQ(Desk.tray.size(), 1u);
-    EXPECT_EQ(Desk.tray[0].window, MainWnd);
-    EXPECT_EQ(Desk.tray[0].icon, TrayImage);
-    EXPECT_EQ(Desk.tray[0].tip, "Quorl");
-
-    WillAnswer({IDNO, IDYES});
-    Command(59);
-    EXPECT_EQ(Desk.tray.size(), 1u);
-    Command(59);
-    EXPECT_TRUE(Desk.tray.empty());
-}
-
-TEST_F(Tray, ARightPressOpensTheMenuAndItsChoiceRuns) {
+TEST_F(Tray, TheIconOpensTheMenuOnARightPressAndTurnsTheMapOnADoubleClick) {
+    EXPECT_EQ(Desk.tray.at(0).icon, TrayImage);
+    EXPECT_EQ(Desk.tray.at(0).tip, "Quorl");
     Desk.choices = {77};
     MouseOverIcon(WM_RBUTTONDOWN);
-    EXPECT_EQ(Desk.shownMenus.size(), 1u);
     EXPECT_FALSE(IsWindowVisible(MainWnd));
     MouseOverIcon(WM_RBUTTONUP);
     EXPECT_EQ(Desk.shownMenus.size(), 1u) << "on the press alone";
+    MouseOverIcon(WM_LBUTTONDBLCLK);
+    EXPECT_TRUE(IsWindowVisible(MainWnd));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "core/quit.h"
 
-#include "actions/dispatch.h"
+#include "actions/action_table.h"
 #include "core/main.h"
 #include "core/state.h"
 #include "support/quorl_test.h"
@@ -10,22 +10,7 @@ namespace {
 class Quitting : public QuorlTest {
   protected:
     HWND far = OpenWindow("far", {1100, 200, 1300, 300});
-
-    void Start() {
-        ASSERT_EQ(StartQuorl(), 1);
-        Settle();
-    }
 };
-
-TEST_F(Quitting, WithSavingOffItWritesNothing) {
-    Start();
-    Command(72);
-    WillAnswer({IDYES});
-    EXPECT_EQ(DoAction(MainWnd, 59, nullptr), 1);
-    EXPECT_TRUE(Desk.files.empty());
-    EXPECT_TRUE(Desk.hotkeys.empty());
-    EXPECT_EQ(PlaceOf(far).left, 76);
-}
 
 TEST_F(Quitting, NewsThatWaitsInTheQueueMovesNoWindowThatWasFoldedBack) {
     Start();
@@ -40,7 +25,6 @@ TEST_F(Quitting, NewsThatWaitsInTheQueueMovesNoWindowThatWasFoldedBack) {
 
 // The box over a refused combination lets the user close Quorl before it has read its settings.
 TEST_F(Quitting, DuringTheStartSavesNothingAndLeavesNoIcon) {
-    Desk.modules["quorl.dll"].bInstalled = 1;
     Desk.fault = {"RegisterHotKey", 1, 0, ERROR_HOTKEY_ALREADY_REGISTERED, 0};
     Desk.inBox = [] {
         Desk.inBox = nullptr;

@@ -52,6 +52,12 @@ void QuorlTest::TearDown() {
     EndChildren();
 }
 
+void QuorlTest::Start() {
+    ASSERT_EQ(StartQuorl(), 1);
+    Settle();
+    Desk.trace.clear();
+}
+
 void RunningQuorl::SetUp() {
     QuorlTest::SetUp();
     ASSERT_EQ(StartQuorl(), 1);

@@ -14,6 +14,9 @@ class QuorlTest : public testing::Test {
   protected:
     void SetUp() override;    // PrepareDesk
     void TearDown() override; // no unexpected box, nothing that would have blocked
+
+    // Starts Quorl and handles what that leaves waiting; the trace begins after it.
+    static void Start();
 };
 
 // The same with Quorl started before the case begins, on an empty desktop.

@@ -9,38 +9,30 @@
 
 namespace {
 
-TEST(ActionTableRows, EachKnowsItsNumberAndHasATextOfItsOwnThatTheReportOfARefusalCanHold) {
-    std::set<std::string> texts;
-    for (ActionId row = 0; row < NUM_ACTIONS; ++row) {
-        const std::string desc = ActionTable[row].desc;
-        EXPECT_EQ(ActionTable[row].id, row);
-        EXPECT_FALSE(desc.empty()) << row;
-        EXPECT_LT(desc.size(), 100U) << row;
-        texts.insert(desc);
-    }
-    EXPECT_EQ(texts.size(), static_cast<std::size_t>(NUM_ACTIONS));
-    EXPECT_STREQ(ActionTable[NUM_ACTIONS].desc, "");
-    EXPECT_EQ(ActionTable[NUM_ACTIONS].flags, 0U);
-}
+using Rows = std::set<ActionId>;
 
-TEST(ActionTableRows, AreOfferedToKeysToTheMouseOrNowhere) {
-    std::set<ActionId> mouseOnly;
-    std::set<ActionId> off;
-    std::set<ActionId> on;
-    for (ActionId row = 0; row < NUM_ACTIONS; ++row) {
-        const DWORD flags = ActionTable[row].flags;
-        if (flags == ACTION_MOUSE)
-            mouseOnly.insert(row);
-        else if (flags == ACTION_OFF)
-            off.insert(row);
+TEST(ActionTableRows, HaveTextsOfTheirOwnThatAReportCanHoldAndAreOfferedToKeysToTheMouseOrNowhere) {
+    std::set<std::string> texts;
+    Rows mouseOnly, off, on;
+    for (const ActionRow& row : ActionTable) {
+        if (row.id == NUM_ACTIONS)
+            break;
+        EXPECT_EQ(row.id, &row - ActionTable);
+        EXPECT_LT(std::string(row.desc).size(), 100U) << row.id;
+        texts.insert(row.desc);
+        if (row.flags == ACTION_MOUSE)
+            mouseOnly.insert(row.id);
+        else if (row.flags == ACTION_OFF)
+            off.insert(row.id);
         else
-            EXPECT_EQ(flags & ~ACTION_MOUSE, ACTION_KEY) << row;
-        if (ActionTable[row].value)
-            on.insert(row);
+            EXPECT_EQ(row.flags & ~ACTION_MOUSE, ACTION_KEY) << row.id;
+        if (row.value)
+            on.insert(row.id);
     }
-    EXPECT_EQ(mouseOnly, (std::set<ActionId>{1, 2, 3, 4, 38, 39}));
-    EXPECT_EQ(off, (std::set<ActionId>{23, 46, 75, 76, 78, 83, 86, 87, 88, 109, 110, 112, 113, 115}));
-    EXPECT_EQ(on, (std::set<ActionId>{58, 70, 71, 72, 73, 77, 89, 114, 122}));
+    EXPECT_EQ(texts.size(), 123U);
+    EXPECT_EQ(mouseOnly, (Rows{1, 2, 3, 4, 38, 39}));
+    EXPECT_EQ(off, (Rows{23, 46, 75, 76, 78, 83, 86, 87, 88, 109, 110, 112, 113, 115}));
+    EXPECT_EQ(on, (Rows{58, 70, 71, 72, 73, 77, 89, 114, 122}));
 }
 
 TEST(KeyNameTable, NamesEachKeyOnceAndEndsWithARowThatIsNone) {

@@ -8,111 +8,102 @@ namespace {
 
 class ActiveWindow : public QuorlTest {
   protected:
-    HWND active = nullptr;
+    HWND active = OpenWindow("editor", {300, 300, 500, 400});
 
-    void Start(const RECT& place) {
-        active = OpenWindow("editor", place);
-        StartQuorl();
+    void SetUp() override {
+        QuorlTest::SetUp();
+        Start();
         Desk.foreground = active;
     }
 };
 
-TEST_F(ActiveWindow, MovesByItsRowsStepOrToTheScreensEdge) {
-    Start({300, 300, 500, 400});
-    struct Case {
+TEST_F(ActiveWindow, MovesByItsRowsStep) {
+    const int steps[] = {-5, 5, -5, 5, -100, 100, -100, 100, -1024, 1024, -768, 768};
+    VDesk = {1024, 768, 2048, 1536};
+    Quorl.bottom = 4000;
+    for (int row = 92; row <= 103; ++row) {
+        RowOf(active).place = {300, 300, 500, 400};
+        const int step = steps[row - 92];
+        const POINT way = row % 4 < 2 ? POINT{step, 0} : POINT{0, step};
+        Command(row);
+        EXPECT_EQ(PlaceOf(active), Rect(300 + way.x, 300 + way.y, 500 + way.x, 400 + way.y)) << "row " << row;
+    }
+}
+
+TEST_F(ActiveWindow, GoesToTheScreensEdgesAndMiddle) {
+    const struct {
         int row;
         RECT place;
+    } cases[] = {
+        {104, {0, 300, 200, 400}   },
+        {105, {824, 300, 1024, 400}},
+        {106, {824, 0, 1024, 100}  },
+        {107, {824, 668, 1024, 768}},
+        {22,  {412, 334, 612, 434} },
     };
-    const Case cases[] = {
-        {92,  {295, 300, 495, 400}  },
-        {93,  {300, 300, 500, 400}  },
-        {94,  {300, 295, 500, 395}  },
-        {95,  {300, 300, 500, 400}  },
-        {96,  {200, 300, 400, 400}  },
-        {97,  {300, 300, 500, 400}  },
-        {98,  {300, 200, 500, 300}  },
-        {99,  {300, 300, 500, 400}  },
-        {101, {1324, 300, 1524, 400}},
-        {100, {300, 300, 500, 400}  },
-        {103, {300, 1068, 500, 1168}},
-        {102, {300, 300, 500, 400}  },
-        {104, {0, 300, 200, 400}    },
-        {105, {824, 300, 1024, 400} },
-        {106, {824, 0, 1024, 100}   },
-        {107, {824, 668, 1024, 768} },
-        {22,  {412, 334, 612, 434}  },
-    };
-    for (const Case& each : cases) {
-        Command(each.row);
-        EXPECT_EQ(PlaceOf(active), each.place) << "row " << each.row;
+    for (const auto& [row, place] : cases) {
+        Command(row);
+        EXPECT_EQ(PlaceOf(active), place) << "row " << row;
     }
 }
 
 TEST_F(ActiveWindow, StaysOnTheDesktopNotOnTheScreen) {
-    Start({50, 50, 250, 150});
-    Command(96);
-    EXPECT_EQ(PlaceOf(active), Rect(0, 50, 200, 150)) << "the desktop begins here";
-
-    Command(30); // one screen to the right; the window is off the screen now
-    Command(96);
-    EXPECT_EQ(PlaceOf(active).left, -1024);
-    EXPECT_EQ(KeptOnDesktop({0, 0, 5000, 10}, VDesk, Quorl).x, 4096 - 1024 - 5000) << "the far edge wins";
-    EXPECT_EQ(KeptOnDesktop({3000, 0, 200, 10}, VDesk, Quorl).x, 4096 - 1024 - 200);
+    const struct {
+        RECT asked, kept; // corner and size
+    } cases[] = {
+        {{-1000, -10, 200, 10},  {-1000, -10, 200, 10}     },
+        {{-1025, -769, 200, 10}, {-1024, -768, 200, 10}    },
+        {{3000, 1500, 200, 10},  {2872, 758, 200, 10}      },
+        {{0, 0, 5000, 3000},     {-1928, -2232, 5000, 3000}}, // the far edge wins
+    };
+    for (const auto& [asked, kept] : cases) {
+        const auto place = KeptOnDesktop({asked.left, asked.top, asked.right, asked.bottom},
+                                         {1024, 768, 2048, 1536}, {0, 0, 4096, 1536});
+        EXPECT_EQ(Rect(place.x, place.y, place.width, place.height), kept);
+    }
 }
 
 TEST_F(ActiveWindow, ThatHangsOrIsGoneHarmsNothing) {
-    Start({300, 300, 500, 400});
     RowOf(active).answer = DeskAnswer::Hung;
     Command(22);
     Command(121);
     EXPECT_EQ(PlaceOf(active), Rect(300, 300, 500, 400));
     EXPECT_FALSE(RowOf(active).exStyle & WS_EX_TOPMOST);
-
     KillWindow(active);
-    Command(22);
-    Command(92);
-    Command(121);
-    Command(40);
+    for (const int row : {22, 40, 92, 121})
+        Command(row);
 }
 
 TEST_F(ActiveWindow, GoesTopmostAndBack) {
-    Start({300, 300, 500, 400});
     Command(121);
     EXPECT_TRUE(RowOf(active).exStyle & WS_EX_TOPMOST);
     Command(121);
     EXPECT_FALSE(RowOf(active).exStyle & WS_EX_TOPMOST);
-    EXPECT_TRUE(RowOf(active).style & WS_VISIBLE);
+    EXPECT_TRUE(IsWindowVisible(active));
 }
 
-TEST_F(ActiveWindow, LockedStaysThroughScrollsAndIsGatheredAtTheEnd) {
-    Start({300, 300, 500, 400});
-    const HWND other = OpenWindow("other", {0, 0, 100, 100});
-    Wait(1300);
-
+TEST_F(ActiveWindow, LockedStaysThroughScrollsUntilItIsUnlocked) {
     Command(40);
-    EXPECT_EQ(Desk.tones,
-              (std::vector<DWORD>{0, 1000, 2000, 3000, 4000, 5000, 6000, 7000, 8000, 9000, 10000, 11000}));
+    EXPECT_EQ(Desk.tones.size(), 12U);
+    EXPECT_EQ(Desk.tones.back(), 11000U);
     Command(30);
     EXPECT_EQ(PlaceOf(active).left, 300);
-    EXPECT_EQ(PlaceOf(other).left, -1024);
 
     Desk.tones.clear();
     Command(41);
-    EXPECT_EQ(Desk.tones.size(), 13u);
-    EXPECT_EQ(Desk.tones.front(), 12000u);
-    EXPECT_EQ(Desk.tones.back(), 0u);
+    EXPECT_EQ(Desk.tones.size(), 13U);
+    EXPECT_EQ(Desk.tones.front(), 12000U);
     Command(28);
     EXPECT_EQ(PlaceOf(active).left, 1324);
 }
 
 TEST_F(ActiveWindow, ThatQuorlMayNotTouchCannotBeLocked) {
-    Start({300, 300, 500, 400});
-    Desk.foreground = MainWnd;
-    Command(40);
-    Desk.foreground = OpenWindow("not in the table yet", {0, 0, 10, 10});
-    Command(40);
-    EXPECT_TRUE(Desk.tones.empty());
-    EXPECT_EQ(LockedWindows[0], nullptr);
+    const HWND opened = OpenWindow("not in the table yet", {0, 0, 10, 10});
+    for (const HWND window : {MainWnd, opened}) {
+        Desk.foreground = window;
+        Command(40);
+        EXPECT_EQ(LockedWindows[0], nullptr);
+    }
 }
 
 } // namespace

@@ -12,34 +12,32 @@ TEST_F(Navigation, TheNeighbourIsActivatedAndTheViewStays) {
     const HWND left = OpenWindow("left", {0, 100, 200, 300});
     const HWND right = OpenWindow("right", {1500, 100, 1700, 300}); // off the screen
     const HWND middle = OpenWindow("middle", {400, 100, 600, 300});
-    const HWND nameless = OpenWindow("", {400, 500, 600, 600});
-    StartQuorl();
-    Desk.foreground = middle;
-
-    Command(117);
-    EXPECT_EQ(Desk.foreground, right);
+    OpenWindow("", {400, 500, 600, 600}); // found below, and refused
+    const struct {
+        int row;
+        HWND reached;
+        std::size_t beeps;
+    } cases[] = {
+        {117, right,  0},
+        {118, left,   0},
+        {120, middle, 1},
+        {119, middle, 2},
+    };
+    Start();
+    for (const auto& [row, reached, beeps] : cases) {
+        Desk.foreground = middle;
+        Command(row);
+        EXPECT_EQ(Desk.foreground, reached) << "row " << row;
+        EXPECT_EQ(Desk.beeps.size(), beeps) << "row " << row;
+    }
     EXPECT_EQ(VDesk, Rect(0, 0, 1024, 768));
-
-    Desk.foreground = middle;
-    Command(118);
-    EXPECT_EQ(Desk.foreground, left);
-
-    Desk.foreground = middle;
-    Command(120);
-    EXPECT_EQ(Desk.foreground, middle) << "a window without a title is found, and refused";
-    EXPECT_EQ(Desk.beeps.size(), 1u);
-    Command(119);
-    EXPECT_EQ(Desk.beeps.size(), 2u) << "nothing lies above";
-    EXPECT_NE(RowOf(nameless).handle, nullptr);
 }
 
 TEST_F(Navigation, WithoutAnActiveWindowTheOneUnderTheCursorCounts) {
     const HWND under = OpenWindow("under", {400, 300, 600, 500});
     const HWND beside = OpenWindow("beside", {700, 300, 800, 500});
-    StartQuorl();
-    Desk.foreground = nullptr;
+    Start();
     Desk.cursor = {500, 400};
-
     Command(117);
     EXPECT_EQ(Desk.foreground, beside);
 
@@ -53,14 +51,10 @@ TEST_F(Navigation, CyclingTakesWindowsThatLieWhollyInView) {
     const HWND bottom = OpenWindow("bottom", {0, 0, 100, 100});
     const HWND second = OpenWindow("second", {924, 668, 1024, 768});
     OpenWindow("partly", {1000, 0, 1100, 100});
-    StartQuorl();
-    const HWND top = OpenWindow("top", {200, 200, 300, 300});
-    Wait(1300);
-
+    OpenWindow("top", {200, 200, 300, 300});
+    Start();
     Command(24);
     EXPECT_EQ(Desk.foreground, second);
-
-    Wait(1300); // the snapshot follows: second, top, bottom
     Command(25);
     EXPECT_EQ(Desk.foreground, bottom);
 
@@ -69,35 +63,34 @@ TEST_F(Navigation, CyclingTakesWindowsThatLieWhollyInView) {
     Wait(200);
     Desk.foreground = nullptr;
     Command(24);
-    EXPECT_EQ(Desk.foreground, nullptr) << "one window alone has nowhere to go: " << RowOf(top).title;
+    EXPECT_EQ(Desk.foreground, nullptr) << "one window alone has nowhere to go";
 }
 
 TEST_F(Navigation, ACornerInTheRectangleCountsAndBothEndsOfASideDo) {
-    const RECT screen{0, 0, 1024, 768};
-    struct Case {
+    const struct {
         RECT window;
         int within, corner;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {{0, 0, 1024, 768},      1, 1},
         {{-1, 0, 1024, 768},     0, 1},
+        {{0, -1, 1024, 768},     0, 1},
         {{1024, 768, 1100, 800}, 0, 1},
         {{1025, 0, 1100, 800},   0, 0},
-        {{-10, -10, 1100, 800},  0, 0}, // covers the screen: no corner in it
-        {{-10, 100, 1100, 200},  0, 0},
+        {{-10, 100, 1100, 200},  0, 0}, // goes all the way across: no corner in it
+        {{100, -10, 200, 800},   0, 0},
     };
-    for (const Case& each : cases) {
-        EXPECT_EQ(LiesWithin(each.window, screen), each.within) << testing::PrintToString(each.window);
-        EXPECT_EQ(HasCornerIn(each.window, screen), each.corner) << testing::PrintToString(each.window);
+    for (const auto& [window, within, corner] : cases) {
+        EXPECT_EQ(LiesWithin(window, {0, 0, 1024, 768}), within) << testing::PrintToString(window);
+        EXPECT_EQ(HasCornerIn(window, {0, 0, 1024, 768}), corner) << testing::PrintToString(window);
     }
 }
 
 TEST_F(Navigation, TilingHandsOverWhatSharesAPixelWithTheScreen) {
     const HWND partly = OpenWindow("partly", {1000, 700, 1200, 900});
     const HWND hidden = OpenWindow("hidden", {0, 0, 10, 10});
-    RowOf(hidden).style &= ~WS_VISIBLE;
+    ShowWindow(hidden, SW_HIDE);
     OpenWindow("beside", {1024, 0, 1100, 100});
-    StartQuorl();
+    Start();
     RebuildWindowTable();
     Command(80);
     Command(81);

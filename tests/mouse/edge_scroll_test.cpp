@@ -6,47 +6,36 @@
 
 namespace {
 
-constexpr int W = 1024;
-constexpr int H = 768;
-constexpr RECT VIEW{2048, 800, 3072, 1568};
-
-OptionsRecord DefaultOptions(int type) {
-    OptionsRecord options{};
-    options.border = 5;
-    options.minscroll = 5;
-    options.maxscroll = 100;
-    options.mousescroll = 800;
-    options.mousescroll_type = type;
-    return options;
-}
-
 TEST(EdgeDecision, TheFirstEdgeDecidesAndTheCursorLandsInsideTheOppositeOne) {
     const struct {
         POINT cursor;
         int type, dir;
         POINT view, landing;
     } cases[] = {
-        {{1022, 300}, 3,  DIR_RIGHT, {3072, 800},  {15, 300}  },
-        {{2, 300},    3,  DIR_LEFT,  {1024, 800},  {1009, 300}},
-        {{500, 766},  3,  DIR_DOWN,  {2048, 1568}, {500, 15}  },
-        {{500, 2},    3,  DIR_UP,    {2048, 32},   {500, 753} },
+        {{1020, 300}, 3,  DIR_RIGHT, {3072, 800},  {15, 300}  },
+        {{4, 300},    3,  DIR_LEFT,  {1024, 800},  {1009, 300}},
+        {{500, 764},  3,  DIR_DOWN,  {2048, 1568}, {500, 15}  },
+        {{500, 4},    3,  DIR_UP,    {2048, 32},   {500, 753} },
         {{1022, 766}, 3,  DIR_RIGHT, {3072, 800},  {15, 766}  }, // corners: sideways goes first
-        {{0, 0},      3,  DIR_LEFT,  {1024, 800},  {1009, 0}  },
         {{1022, 300}, 0,  DIR_RIGHT, {2053, 800},  {1034, 300}}, // lands off the screen
-        {{500, 764},  1,  DIR_DOWN,  {2048, 900},  {500, 683} },
-        {{500, 4},    2,  DIR_UP,    {2048, 0},    {500, 785} },
-        {{1020, 300}, -1, DIR_RIGHT, {2058, 800},  {1029, 300}}, // an unknown type goes by 10
+        {{500, 766},  1,  DIR_DOWN,  {2048, 900},  {500, 683} },
+        {{500, 2},    2,  DIR_UP,    {2048, 0},    {500, 785} },
+        {{1022, 300}, -1, DIR_RIGHT, {2058, 800},  {1029, 300}}, // an unknown type goes by 10
         {{1019, 763}, 3,  DIR_NONE,  {2048, 800},  {1019, 763}}, // just not at any edge
         {{5, 5},      3,  DIR_NONE,  {2048, 800},  {5, 5}     },
-        {{-300, 300}, 3,  DIR_LEFT,  {1024, 800},  {1009, 300}}, // a monitor left of the primary one
     };
-    for (const auto& wanted : cases) {
-        const EdgeStep step = EdgeStepAt(wanted.cursor, DefaultOptions(wanted.type), VIEW, W, H);
-        SCOPED_TRACE(testing::Message()
-                     << wanted.cursor.x << ", " << wanted.cursor.y << " type " << wanted.type);
-        EXPECT_EQ(step.dir, wanted.dir);
-        EXPECT_EQ(Rect(step.view.x, step.view.y, step.landing.x, step.landing.y),
-                  Rect(wanted.view.x, wanted.view.y, wanted.landing.x, wanted.landing.y));
+    OptionsRecord options{};
+    options.border = 5;
+    options.minscroll = 5;
+    options.maxscroll = 100;
+    options.mousescroll = 800;
+    for (const auto& [cursor, type, dir, view, landing] : cases) {
+        SCOPED_TRACE(testing::PrintToString(cursor) + " type " + std::to_string(type));
+        options.mousescroll_type = type;
+        const EdgeStep step = EdgeStepAt(cursor, options, {2048, 800, 3072, 1568}, 1024, 768);
+        EXPECT_EQ(step.dir, dir);
+        EXPECT_EQ(step.view, view);
+        EXPECT_EQ(step.landing, landing);
     }
 }
 
@@ -60,11 +49,11 @@ TEST(EdgeDecision, TheTimersTestReachesOnePixelFurther) {
         {DIR_DOWN,  {500, 763},  {500, 762} },
         {DIR_UP,    {500, 5},    {500, 6}   },
     };
-    for (const auto& edge : cases) {
-        EXPECT_TRUE(IsStillAtEdge(edge.last, edge.dir, 5, W, H)) << edge.dir;
-        EXPECT_FALSE(IsStillAtEdge(edge.first, edge.dir, 5, W, H)) << edge.dir;
+    for (const auto& [dir, last, first] : cases) {
+        EXPECT_TRUE(IsStillAtEdge(last, dir, 5, 1024, 768)) << dir;
+        EXPECT_FALSE(IsStillAtEdge(first, dir, 5, 1024, 768)) << dir;
     }
-    EXPECT_FALSE(IsStillAtEdge({0, 0}, DIR_NONE, 5, W, H));
+    EXPECT_FALSE(IsStillAtEdge({0, 0}, DIR_NONE, 5, 1024, 768));
 }
 
 } // namespace

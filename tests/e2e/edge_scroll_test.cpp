@@ -4,14 +4,12 @@
 
 namespace {
 
-const Place EDITOR = {300, 200, 600, 450};
 constexpr int FOLLOW_MOUSE = 85;
 constexpr int SHIFT_STEERS_CURSOR = 114; // on at the first start
 constexpr int LANDING = 15;              // three borders inside the opposite edge
 
 // Quorl scrolls at the edge at once and takes the cursor along, and has seen the mouse once.
-void StartFollowing() {
-    ASSERT_TRUE(StartQuorl());
+void FollowMouse() {
     DoRow(FOLLOW_MOUSE);
     DoRow(SHIFT_STEERS_CURSOR);
     MoveMouse({500, 600});
@@ -19,9 +17,16 @@ void StartFollowing() {
 
 } // namespace
 
-TEST(EdgeScroll, TheViewFollowsTheMouseOverTheEdgeAndBack) {
-    const HWND editor = OpenWindow("editor", EDITOR);
-    StartFollowing();
+TEST(EdgeScroll, TheViewFollowsTheMouseOnceTheUserAsksForIt) {
+    const HWND editor = OpenWindow("editor", EDITOR); // undermost: moved last
+    OpenWindow("hung", {100, 100, 300, 300}, "hung");
+    StartQuorl();
+    MoveMouse({500, 600});
+    PushMouseTo({SCREEN_W - 1, 600});
+    Sleep(300);
+    EXPECT_EQ(PlaceOf(editor), EDITOR);
+
+    FollowMouse();
     PushMouseTo({SCREEN_W - 1, 600});
     EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0));
     EXPECT_SOON(MousePlace().x, LANDING);
@@ -30,37 +35,24 @@ TEST(EdgeScroll, TheViewFollowsTheMouseOverTheEdgeAndBack) {
     PushMouseTo({0, 600});
     EXPECT_SOON(PlaceOf(editor), EDITOR);
     EXPECT_SOON(MousePlace().x, SCREEN_W - LANDING);
-}
 
-TEST(EdgeScroll, IsOffUntilTheUserAsksForIt) {
-    const HWND editor = OpenWindow("editor", EDITOR);
-    ASSERT_TRUE(StartQuorl());
-    MoveMouse({500, 600});
-    PushMouseTo({SCREEN_W - 1, 600});
-    Sleep(300);
-    EXPECT_EQ(PlaceOf(editor), EDITOR);
+    StartShakingMouse({500, 600});
+    DoRow(30);
+    EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0));
+    StopShakingMouse(); // the hung program has not held the mouse up
+    PushMouseTo({0, 600});
+    EXPECT_SOON(PlaceOf(editor), EDITOR);
 }
 
 TEST(EdgeScroll, WaitsForTheButtonThatTheUserChose) {
     Store("mousescroll_delay", "1");
     const HWND editor = OpenWindow("editor", EDITOR);
-    StartFollowing();
+    StartQuorl();
+    FollowMouse();
     MoveMouse({SCREEN_W - 1, 600});
     Click(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
     Sleep(300);
     EXPECT_EQ(PlaceOf(editor), EDITOR);
     Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
     EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0));
-}
-
-TEST(EdgeScroll, TheMouseStaysFreeWhileQuorlWaitsForAHungProgram) {
-    OpenWindow("hung", {100, 100, 300, 300}, "hung");
-    const HWND editor = OpenWindow("editor", EDITOR);
-    StartFollowing();
-    StartShakingMouse({500, 600});
-    DoRow(30);
-    EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, -SCREEN_W, 0));
-    StopShakingMouse();
-    PushMouseTo({0, 600});
-    EXPECT_SOON(PlaceOf(editor), EDITOR);
 }

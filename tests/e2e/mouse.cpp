@@ -72,21 +72,10 @@ void PressButton(DWORD flag) {
     Send(0, 0, 0, flag);
 }
 
-void HoldKeys(std::initializer_list<WORD> keys, DWORD flags) {
-    for (const WORD key : keys) {
-        INPUT input = {};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = key;
-        input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
-        input.ki.dwFlags = flags;
-        SendInput(1, &input, sizeof input);
-    }
-}
-
-void ClickHolding(std::initializer_list<WORD> keys, DWORD press, DWORD release) {
-    HoldKeys(keys, 0);
+void ClickHolding(WORD key, DWORD press, DWORD release) {
+    SendKey(key, 0);
     Click(press, release);
-    HoldKeys(keys, KEYEVENTF_KEYUP);
+    SendKey(key, KEYEVENTF_KEYUP);
 }
 
 POINT OnMap(LONG x, LONG y, LONG screensWide) {

@@ -22,10 +22,9 @@ POINT MousePlace();
 // Presses and releases a button where the mouse is; MOUSEEVENTF_ values. For the wheel, two notches.
 void Click(DWORD press, DWORD release);
 
-// The same with keys held. One half of it: MOUSEEVENTF_ values, and KEYEVENTF_KEYUP or 0.
-void ClickHolding(std::initializer_list<WORD> keys, DWORD press, DWORD release);
+// The same while a key is held; and one half of a click.
+void ClickHolding(WORD key, DWORD press, DWORD release);
 void PressButton(DWORD flag);
-void HoldKeys(std::initializer_list<WORD> keys, DWORD flags);
 
 // The place on the screen where Quorl's map shows this point of the desktop, and the desktop point that the
 // map gives for a place on the screen. The desktop is two screens high.

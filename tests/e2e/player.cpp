@@ -1,14 +1,10 @@
 // Plays the windows of other programs, the well-behaved and the difficult ones.
 #include "player.h"
 
-#include <commctrl.h>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
 namespace {
-
-WNDPROC ListViewProc;
 
 LRESULT CALLBACK PlainProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_DESTROY)
@@ -37,29 +33,15 @@ LRESULT CALLBACK DyingProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     return PlainProc(window, message, wParam, lParam);
 }
 
-LRESULT CALLBACK ListProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == LVM_SCROLL) {
-        char title[64];
-        snprintf(title, sizeof title, "scrolled by %d, %d", static_cast<int>(wParam),
-                 static_cast<int>(lParam));
-        SetWindowTextA(window, title);
-    }
-    if (message == WM_DESTROY)
-        PostQuitMessage(0);
-    return CallWindowProcA(ListViewProc, window, message, wParam, lParam);
-}
-
 struct Part {
     const char* name;
-    const char* baseClass; // null: a class of our own
     WNDPROC procedure;
 };
 const Part Parts[] = {
-    {"plain",    nullptr,      PlainProc    },
-    {"hung",     nullptr,      HungProc     },
-    {"rewrites", nullptr,      RewritingProc},
-    {"dies",     nullptr,      DyingProc    },
-    {"list",     WC_LISTVIEWA, ListProc     },
+    {"plain",    PlainProc    },
+    {"hung",     HungProc     },
+    {"rewrites", RewritingProc},
+    {"dies",     DyingProc    },
 };
 
 const Part* FindPart(const char* name) {
@@ -69,16 +51,13 @@ const Part* FindPart(const char* name) {
     return nullptr;
 }
 
-const char* ClassOf(const Part& part) {
-    if (part.baseClass)
-        return part.baseClass;
+void RegisterPlayer(const Part& part) {
     WNDCLASSA type = {};
     type.lpfnWndProc = part.procedure;
     type.lpszClassName = "Player";
     type.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
     type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
     RegisterClassA(&type);
-    return type.lpszClassName;
 }
 
 } // namespace
@@ -87,13 +66,10 @@ int Play(int count, char** arguments) {
     const Part* const part = count == 6 ? FindPart(arguments[0]) : nullptr;
     if (!part)
         return 2;
-    InitCommonControls();
-    const HWND window = CreateWindowExA(0, ClassOf(*part), arguments[1], WS_OVERLAPPEDWINDOW,
-                                        atoi(arguments[2]), atoi(arguments[3]), atoi(arguments[4]),
-                                        atoi(arguments[5]), nullptr, nullptr, nullptr, nullptr);
-    if (part->baseClass)
-        ListViewProc = reinterpret_cast<WNDPROC>(
-            SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(part->procedure)));
+    RegisterPlayer(*part);
+    const HWND window = CreateWindowExA(0, "Player", arguments[1], WS_OVERLAPPEDWINDOW, atoi(arguments[2]),
+                                        atoi(arguments[3]), atoi(arguments[4]), atoi(arguments[5]), nullptr,
+                                        nullptr, nullptr, nullptr);
     ShowWindow(window, SW_SHOWNOACTIVATE);
     UpdateWindow(window);
     PostMessageA(window, WM_APP, 0, 0);

@@ -5,6 +5,5 @@
 
 // Plays a part until the window is closed: `--play PART TITLE LEFT TOP WIDTH HEIGHT`. Parts: "plain"; "hung"
 // (answers nothing once it is on show); "rewrites" (asks in WM_MOVING for 7 pixels more to the right and 9
-// down); "dies" (ends in WM_MOVING); "list" (a top-level list view which tells in its title how far it was
-// asked to scroll). Returns the exit code; 2 for a part that it does not know.
+// down); "dies" (ends in WM_MOVING). Returns the exit code; 2 for a part that it does not know.
 int Play(int count, char** arguments);

@@ -1,6 +1,8 @@
 // What a program holds of the system, as seen from outside.
 #include "resources_in_use.h"
 
+#include "user.h"
+
 #include <psapi.h>
 #include <winternl.h>
 
@@ -53,9 +55,7 @@ struct WindowCount {
 
 BOOL CALLBACK CountWindow(HWND window, LPARAM parameter) {
     auto& count = *reinterpret_cast<WindowCount*>(parameter);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    count.windows += process == count.process;
+    count.windows += ProcessOf(window) == count.process;
     return TRUE;
 }
 

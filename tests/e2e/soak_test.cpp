@@ -6,8 +6,8 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <iterator>
 #include <random>
+#include <set>
 #include <vector>
 
 namespace {
@@ -21,7 +21,7 @@ constexpr std::size_t MOST_PROGRAMS = 12;
 constexpr int ACTS_BEFORE_KILL = 20;
 constexpr ULONGLONG FIRST_MINUTE = 60000;
 constexpr SIZE_T MEMORY_SWING = 4U << 20; // what the working set breathes by
-constexpr int MENU = 0, SAVE = 47, EXIT = 59;
+constexpr int MENU = 0, EXIT = 59, LOCK_MACHINE = 84, SCREEN_SAVER = 108;
 constexpr int NUM_ROWS = 123;
 constexpr int RESIZE_OK = 1044; // closes Resize Windows
 
@@ -38,35 +38,23 @@ Item OneOf(const Item (&items)[COUNT]) {
 
 struct Program {
     HWND window;
-    const char* part;
+    bool good; // moves as it is told
 };
 std::vector<Program> Programs;
 
-HWND SomeProgram() {
-    return Programs.empty() ? nullptr : Programs[Chance() % Programs.size()].window;
-}
-
-struct DialogSearch {
-    DWORD process;
-    std::vector<HWND> found;
-};
-
-BOOL CALLBACK CollectDialog(HWND window, LPARAM parameter) {
-    auto& search = *reinterpret_cast<DialogSearch*>(parameter);
-    DWORD process = 0;
+BOOL CALLBACK CollectDialog(HWND window, LPARAM dialogs) {
     char name[16] = "";
-    GetWindowThreadProcessId(window, &process);
     GetClassNameA(window, name, sizeof name);
-    if (process == search.process && strcmp(name, "#32770") == 0 && IsWindowVisible(window))
-        search.found.push_back(window);
+    if (strcmp(name, "#32770") == 0 && IsWindowVisible(window) &&
+        ProcessOf(window) == ProcessOf(QuorlWindow()))
+        reinterpret_cast<std::vector<HWND>*>(dialogs)->push_back(window);
     return TRUE;
 }
 
 std::vector<HWND> DialogsOfQuorl() {
-    DialogSearch search = {};
-    GetWindowThreadProcessId(QuorlWindow(), &search.process);
-    EnumWindows(CollectDialog, reinterpret_cast<LPARAM>(&search));
-    return search.found;
+    std::vector<HWND> dialogs;
+    EnumWindows(CollectDialog, reinterpret_cast<LPARAM>(&dialogs));
+    return dialogs;
 }
 
 std::string TitlesOf(const std::vector<HWND>& windows) {
@@ -77,35 +65,38 @@ std::string TitlesOf(const std::vector<HWND>& windows) {
 }
 
 bool IsModal(HWND dialog) {
-    static const char* const modeless[] = {
+    static const std::set<std::string> modeless = {
         "Options...",        "Quorl Help",        "About...",
         "Name Region",       "Resize Windows...", "Actions...",
         "Customize Menu...", "Find Windows...",   "Toolwin Transparency...",
     };
-    return std::find(std::begin(modeless), std::end(modeless), TextOf(dialog)) == std::end(modeless);
+    return !modeless.contains(TextOf(dialog));
+}
+
+void Answer(HWND dialog, std::initializer_list<WPARAM> answers) {
+    for (const WPARAM answer : answers)
+        PostMessageA(dialog, WM_COMMAND, answer, 0);
 }
 
 void AnswerBoxes() {
     for (const HWND box : DialogsOfQuorl())
         if (IsModal(box))
-            for (const WPARAM answer : {IDNO, IDCANCEL})
-                PostMessageA(box, WM_COMMAND, answer, 0);
+            Answer(box, {IDNO, IDCANCEL});
 }
 
 void CloseDialogs() {
     const auto close = [] {
         for (const HWND dialog : DialogsOfQuorl())
-            for (const WPARAM answer : {IDNO, IDCANCEL, IDOK, RESIZE_OK})
-                PostMessageA(dialog, WM_COMMAND, answer, 0);
+            Answer(dialog, {IDNO, IDCANCEL, IDOK, RESIZE_OK});
         return DialogsOfQuorl().size();
     };
-    EXPECT_EQ(Soon(close, std::size_t{0}), 0U) << TitlesOf(DialogsOfQuorl());
+    EXPECT_EQ(Soon(close, 0U), 0U) << TitlesOf(DialogsOfQuorl());
 }
 
 void RunRow() {
-    static const int notNow[] = {MENU, EXIT, 84, 108}; // the latter two lock the machine and start the saver
+    static const std::set<int> notNow = {MENU, EXIT, LOCK_MACHINE, SCREEN_SAVER};
     const int row = Below(NUM_ROWS);
-    if (std::find(std::begin(notNow), std::end(notNow), row) == std::end(notNow))
+    if (!notNow.contains(row))
         DoRow(row);
 }
 
@@ -123,9 +114,7 @@ void ChooseFromMenu() {
     Sleep(60);
     for (int steps = Below(8); steps > 0; --steps)
         PressKeys({VK_DOWN});
-    PressKeys({VK_RETURN});
-    PressKeys({VK_ESCAPE});
-    PressKeys({VK_ESCAPE});
+    PressInTurn({VK_RETURN, VK_ESCAPE, VK_ESCAPE});
 }
 
 void PushAtAnEdge() {
@@ -145,42 +134,43 @@ void WorkOnTheMap() {
     const Place map = PlaceOf(QuorlWindow());
     const WORD key = OneOf(keys);
     SetCursorPos(map.left + Below(map.right - map.left + 1), map.top + Below(map.bottom - map.top + 1));
-    HoldKeys({key}, 0);
+    SendKey(key, 0);
     PressButton(MOUSEEVENTF_LEFTDOWN);
     SetCursorPos(map.left + Below(200), map.top + Below(200));
     PressButton(MOUSEEVENTF_LEFTUP);
-    HoldKeys({key}, KEYEVENTF_KEYUP);
+    SendKey(key, KEYEVENTF_KEYUP);
     PressKeys({VK_ESCAPE});
+}
+
+void Open(const char* part, const Place& place) {
+    const std::string title = "program " + std::to_string(Chance());
+    Programs.push_back({OpenWindow(title.c_str(), place, part), strcmp(part, "plain") == 0});
 }
 
 void OpenAProgram() {
     static const char* const parts[] = {"plain", "plain", "plain", "hung", "rewrites", "dies"};
-    if (Programs.size() >= MOST_PROGRAMS)
-        return;
     const int left = Below(SCREEN_W - 200), top = Below(SCREEN_H - 200);
-    const char* const part = OneOf(parts);
-    const std::string title = "program " + std::to_string(Chance());
-    Programs.push_back(
-        {OpenWindow(title.c_str(), {left, top, left + 150 + Below(300), top + 80 + Below(200)}, part), part});
+    if (Programs.size() < MOST_PROGRAMS)
+        Open(OneOf(parts), {left, top, left + 150 + Below(300), top + 80 + Below(200)});
 }
 
 void EndAProgram() {
     if (Programs.empty())
         return;
     const std::size_t which = Chance() % Programs.size();
-    DWORD id = 0;
-    GetWindowThreadProcessId(Programs[which].window, &id);
-    const HANDLE process = OpenProcess(PROCESS_TERMINATE, FALSE, id);
+    const HANDLE process = OpenProcess(PROCESS_TERMINATE, FALSE, ProcessOf(Programs[which].window));
     TerminateProcess(process, 0);
     CloseHandle(process);
     Programs.erase(Programs.begin() + static_cast<std::ptrdiff_t>(which));
 }
 
 void GoToAProgram() {
-    SetForegroundWindow(SomeProgram());
+    if (!Programs.empty())
+        SetForegroundWindow(Programs[Chance() % Programs.size()].window);
 }
 
 void WorkInADialog() {
+    static const WORD keys[] = {VK_DOWN, VK_UP, VK_TAB, VK_RETURN, '7', 'Q', VK_ESCAPE};
     const std::vector<HWND> dialogs = DialogsOfQuorl();
     if (dialogs.empty())
         return;
@@ -190,28 +180,13 @@ void WorkInADialog() {
     const Place place = PlaceOf(control);
     SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
     Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
-    static const WORD keys[] = {VK_DOWN, VK_UP, VK_TAB, VK_RETURN, '7', 'Q', VK_ESCAPE};
     PressKeys({OneOf(keys)});
-}
-
-bool Answers() {
-    DWORD_PTR answer = 0;
-    return SendMessageTimeoutA(QuorlWindow(), WM_NULL, 0, 0, SMTO_NORMAL, PATIENCE, &answer) != 0;
-}
-
-// Its map may be hidden by the settings, and a box may tell of a hotkey.
-HANDLE Start() {
-    const HANDLE quorl = LaunchQuorl();
-    EXPECT_SOON(QuorlWindow() != nullptr, true);
-    EXPECT_TRUE(Answers());
-    return quorl;
 }
 
 struct Act {
     const char* name;
     void (*does)();
 };
-
 const Act Acts[] = {
     {"a row",     RunRow        },
     {"a row",     RunRow        },
@@ -235,12 +210,20 @@ bool Live(int acts) {
         const Act& chosen = OneOf(Acts);
         chosen.does();
         AnswerBoxes();
-        if (!Answers()) {
+        if (!Answers(QuorlWindow())) {
             ADD_FAILURE() << "after act " << act << ", " << chosen.name;
             return false;
         }
     }
     return true;
+}
+
+// The map may be hidden by the settings, and a box may tell of a hotkey.
+HANDLE Start() {
+    const HANDLE quorl = LaunchQuorl();
+    EXPECT_SOON(QuorlWindow() != nullptr, true);
+    EXPECT_TRUE(Answers(QuorlWindow()));
+    return quorl;
 }
 
 bool IsBack(const Program& program) {
@@ -249,16 +232,14 @@ bool IsBack(const Program& program) {
 }
 
 bool MustComeBack(const Program& program) {
-    return strcmp(program.part, "plain") == 0 && IsWindowVisible(program.window) &&
-           !IsIconic(program.window) && !IsZoomed(program.window);
+    return program.good && IsWindowVisible(program.window) && !IsIconic(program.window) &&
+           !IsZoomed(program.window);
 }
 
 void Quit() {
     CloseDialogs();
     DoRow(EXIT);
-    const HWND box = WaitForBox("QUIT?");
-    ASSERT_TRUE(box) << "open: " << TitlesOf(DialogsOfQuorl());
-    PostMessageA(box, WM_COMMAND, IDYES, 0);
+    PostMessageA(WaitForBox("QUIT?"), WM_COMMAND, IDYES, 0);
     EXPECT_SOON(QuorlWindow(), HWND{});
     for (const Program& program : Programs)
         EXPECT_TRUE(IsBack(program) || !MustComeBack(program)) << PlaceOf(program.window);
@@ -283,20 +264,16 @@ void ExpectWholeSettings() {
         EXPECT_NE(Stored(("Region" + std::to_string(region)).c_str()), "") << region << " of " << regions;
 }
 
-Length AskedFor() {
+// A day as long as it was asked for, with three programs to begin with.
+Length Begin() {
     Length length;
-    const char* const words = std::getenv("QUORL_SOAK");
-    if (words)
+    if (const char* const words = std::getenv("QUORL_SOAK"))
         std::sscanf(words, "%d %d %u", &length.acts, &length.kills, &length.seed);
-    return length;
-}
-
-void OpenSome() {
+    Chance.seed(length.seed);
     Programs.clear();
     for (int i = 0; i < 3; ++i)
-        Programs.push_back({OpenWindow(("editor " + std::to_string(i)).c_str(),
-                                       {100 * i, 50 * i, 100 * i + 400, 50 * i + 300}),
-                            "plain"});
+        Open("plain", {100 * i, 50 * i, 100 * i + 400, 50 * i + 300});
+    return length;
 }
 
 // What the system keeps of a dialog, or of a menu, for the next one is kept once; so are up to 64 contexts,
@@ -305,7 +282,7 @@ void OpenAllOnce() {
     ChooseFromMenu();
     for (const int row : {54, 54, 54, 54, 54, 49, 52, 53, 55, 56, 57, 74, 111, 116}) {
         DoRow(row);
-        EXPECT_SOON(DialogsOfQuorl().size(), std::size_t{1}) << row;
+        EXPECT_SOON(DialogsOfQuorl().size(), 1U) << row;
         CloseDialogs();
     }
 }
@@ -314,7 +291,7 @@ void OpenAllOnce() {
 ResourcesInUse ResourcesAtRest(HANDLE quorl) {
     Sleep(2000);
     CloseDialogs();
-    EXPECT_TRUE(Answers());
+    EXPECT_TRUE(Answers(QuorlWindow()));
     Sleep(500);
     return ResourcesOf(quorl);
 }
@@ -322,9 +299,7 @@ ResourcesInUse ResourcesAtRest(HANDLE quorl) {
 } // namespace
 
 TEST(Soak, QuorlGoesOnAnsweringAndKeepsNothingOfWhatItUsed) {
-    const Length length = AskedFor();
-    Chance.seed(length.seed);
-    OpenSome();
+    const Length length = Begin();
     const HANDLE quorl = Start();
     OpenAllOnce();
     const ULONGLONG start = GetTickCount64();
@@ -342,9 +317,7 @@ TEST(Soak, QuorlGoesOnAnsweringAndKeepsNothingOfWhatItUsed) {
 }
 
 TEST(Soak, WhenQuorlIsKilledTheNextOneBringsTheWindowsBackAndTheSettingsAreWhole) {
-    const Length length = AskedFor();
-    Chance.seed(length.seed);
-    OpenSome();
+    const Length length = Begin();
     Start();
     DoRow(SAVE);
     EXPECT_SOON(Stored("Action122") != "", true);

@@ -1,4 +1,5 @@
-// A guided tour: real programs, real keys, and what they did, in numbers read back from the windows.
+// A guided tour: real programs, real keys, and what they did, in numbers read back from the windows. Without
+// pictures its parts are tests.
 #pragma once
 
 // Tells each step in one line on the standard output. A line "picture NAME" asks the caller for a picture of

@@ -1,9 +1,9 @@
 // What the chapters of the tour have in common.
 #include "tour_words.h"
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
-#include <string>
 
 Exhibit Exhibits[NUM_EXHIBITS] = {
     {"notepad",  "notepad",  "Notepad",         {60, 250, 560, 640},    nullptr},
@@ -11,6 +11,7 @@ Exhibit Exhibits[NUM_EXHIBITS] = {
     {"clock",    "clock",    "CLClass",         {700, 80, 920, 300},    nullptr},
     {"regedit",  "regedit",  "RegEdit_RegEdit", {1330, 320, 1930, 670}, nullptr},
 };
+bool bPictures;
 
 void Say(const char* format, ...) {
     va_list values;
@@ -21,16 +22,10 @@ void Say(const char* format, ...) {
     fflush(stdout);
 }
 
-void Insist(bool came, const char* wanted) {
-    if (came)
-        return;
-    Say("This did not come as announced. Wanted: %s", wanted);
-    CleanDesktop();
-    exit(1);
-}
-
 void TakePicture(const char* name) {
     char line[16];
+    if (!bPictures)
+        return;
     Sleep(500); // the programs paint at their own pace
     Say("picture %s", name);
     Insist(fgets(line, sizeof line, stdin) != nullptr, "an answer from who takes the pictures");
@@ -43,8 +38,7 @@ static std::string Standing(const Exhibit& exhibit, const Place& place) {
 }
 
 void SeeView(const char* act, LONG x, LONG y) {
-    std::string report;
-    std::string wanted;
+    std::string report, wanted;
     for (const Exhibit& exhibit : Exhibits) {
         const Place place = Moved(exhibit.home, -x, -y);
         const Place now = Soon([&] { return PlaceOf(exhibit.window); }, place);
@@ -53,5 +47,11 @@ void SeeView(const char* act, LONG x, LONG y) {
             wanted += Standing(exhibit, place) + " ";
     }
     Say("  %s: %s", act, report.c_str());
-    Insist(wanted.empty(), wanted.c_str());
+    Insist(wanted.empty(), wanted);
+}
+
+bool StandAt(LONG x, LONG y) {
+    return std::all_of(std::begin(Exhibits), std::end(Exhibits), [&](const Exhibit& exhibit) {
+        return PlaceOf(exhibit.window) == Moved(exhibit.home, -x, -y);
+    });
 }

@@ -3,6 +3,16 @@
 
 #include "user.h"
 
+#include <vector>
+
+struct Chapter {
+    const char* title;
+    void (*play)();
+};
+
+// A walk through the dialogs. Each chapter begins and ends with the view at the desktop's first screen.
+extern const std::vector<Chapter> DialogChapters;
+
 struct Exhibit {
     const char* name;
     const char* command;
@@ -16,21 +26,23 @@ extern Exhibit Exhibits[NUM_EXHIBITS];
 // Tells one line.
 void Say(const char* format, ...);
 
-// Ends the tour where something did not come as announced.
-void Insist(bool came, const char* wanted);
-
-// Asks who runs the tour for a picture of the screen, and waits until it is taken.
+// Asks who runs the tour for a picture of the screen, and waits until it is taken; not in a test.
+extern bool bPictures;
 void TakePicture(const char* name);
 
 // Tells where all programs stand, which should be as the view at this place of the desktop shows them.
 void SeeView(const char* act, LONG x, LONG y);
+bool StandAt(LONG x, LONG y);
 
-// Does it again while it has not come: a click is lost now and then under Wine on a busy machine.
-template <typename Came, typename Act>
-void Until(Came came, Act act) {
-    for (int tries = 0; tries < 5 && !came(); ++tries) {
-        act();
-        for (int wait = 0; wait < 100 && !came(); ++wait)
-            Sleep(20);
+struct KeyStep {
+    const char* name;
+    std::initializer_list<WORD> keys;
+    LONG x, y; // where the view is then
+};
+template <std::size_t COUNT>
+void SeeKeys(const KeyStep (&steps)[COUNT]) {
+    for (const KeyStep& step : steps) {
+        Insist(PressKeys(step.keys), step.name);
+        SeeView(step.name, step.x, step.y);
     }
 }

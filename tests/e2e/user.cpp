@@ -32,52 +32,19 @@ HANDLE Launch(const std::string& command, const std::string& folder, DWORD* id) 
     return program.hProcess;
 }
 
-struct WindowSearch {
-    DWORD process; // 0: any
-    const char* windowClass;
-    const char* title; // null: any
-    HWND found;
-};
-
-std::string ClassOf(HWND window) {
-    char name[256] = "";
-    GetClassNameA(window, name, sizeof name);
-    return name;
-}
-
-BOOL CALLBACK Matches(HWND window, LPARAM parameter) {
-    WindowSearch* const search = reinterpret_cast<WindowSearch*>(parameter);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (!IsWindowVisible(window) || (search->process && process != search->process) ||
-        ClassOf(window) != search->windowClass || (search->title && TextOf(window) != search->title))
-        return TRUE;
-    search->found = window;
-    return FALSE;
-}
-
+// 0: of any process; null: with any title.
 HWND FindVisible(DWORD process, const char* windowClass, const char* title) {
-    WindowSearch search = {process, windowClass, title, nullptr};
-    EnumWindows(Matches, reinterpret_cast<LPARAM>(&search));
-    return search.found;
+    HWND window = nullptr;
+    do
+        window = FindWindowExA(nullptr, window, windowClass, title);
+    while (window && (!IsWindowVisible(window) || (process && process != ProcessOf(window))));
+    return window;
 }
 
 HWND WaitForVisible(DWORD process, const char* windowClass, const char* title) {
-    const ULONGLONG deadline = GetTickCount64() + PATIENCE;
     HWND found = nullptr;
-    while (!(found = FindVisible(process, windowClass, title)) && GetTickCount64() < deadline)
-        Sleep(10);
+    Soon([&] { return (found = FindVisible(process, windowClass, title)) != nullptr; }, true);
     return found;
-}
-
-void SendKey(WORD key, DWORD flags) {
-    INPUT input = {};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
-    const bool extended = (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_LWIN || key == VK_RSHIFT;
-    input.ki.dwFlags = flags | (extended ? KEYEVENTF_EXTENDEDKEY : 0U);
-    SendInput(1, &input, sizeof input);
 }
 
 } // namespace
@@ -88,6 +55,14 @@ std::ostream& operator<<(std::ostream& out, const Place& place) {
 
 Place Moved(const Place& place, int dx, int dy) {
     return {place.left + dx, place.top + dy, place.right + dx, place.bottom + dy};
+}
+
+void Insist(bool came, const std::string& wanted) {
+    if (came)
+        return;
+    printf("This did not come as announced. Wanted: %s\n", wanted.c_str());
+    CleanDesktop();
+    exit(1);
 }
 
 void CleanDesktop() {
@@ -116,13 +91,19 @@ HANDLE LaunchQuorl(const std::string& folder) {
     return Launch("\"" + home + "\\quorl.exe\"", home, &id);
 }
 
+// It shows its window before it reads messages; answering one says that it is ready for keys.
 HWND StartQuorl(const std::string& folder) {
-    if (!LaunchQuorl(folder))
-        return nullptr;
-    const HWND window = WaitForVisible(0, "Quorltop", "Quorltop");
-    // It shows its window before it reads messages; answering one says that it is ready for keys.
+    Insist(LaunchQuorl(folder) && Soon(IsMapShown, true) && Answers(QuorlWindow()), "Quorl on the screen");
+    return QuorlWindow();
+}
+
+bool IsMapShown() {
+    return IsWindowVisible(QuorlWindow());
+}
+
+bool Answers(HWND window) {
     DWORD_PTR answer = 0;
-    return SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, PATIENCE, &answer) ? window : nullptr;
+    return SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, PATIENCE, &answer) != 0;
 }
 
 HWND OpenWindow(const char* title, const Place& place, const char* part) {
@@ -132,7 +113,7 @@ HWND OpenWindow(const char* title, const Place& place, const char* part) {
              place.bottom - place.top);
     DWORD id = 0;
     Launch(command, "", &id);
-    const HWND window = WaitForVisible(id, strcmp(part, "list") == 0 ? "SysListView32" : "Player", title);
+    const HWND window = WaitForVisible(id, "Player", title);
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
     return window;
 }
@@ -141,6 +122,16 @@ HWND OpenProgram(const char* command, const char* windowClass) {
     DWORD id = 0;
     Launch(command, "", &id);
     return WaitForVisible(id, windowClass, nullptr);
+}
+
+void SendKey(WORD key, DWORD flags) {
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
+    const bool extended = (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_LWIN || key == VK_RSHIFT;
+    input.ki.dwFlags = flags | (extended ? KEYEVENTF_EXTENDEDKEY : 0U);
+    SendInput(1, &input, sizeof input);
 }
 
 // Under Wine a window that slides under the pointer, or takes the focus late, lets go of keys that no real
@@ -161,6 +152,11 @@ bool PressKeys(std::initializer_list<WORD> keys) {
     return held;
 }
 
+void PressInTurn(std::initializer_list<WORD> keys) {
+    for (const WORD key : keys)
+        PressKeys({key});
+}
+
 void DoRow(int row) {
     PostMessageA(QuorlWindow(), WM_HOTKEY, static_cast<WPARAM>(row), 0);
 }
@@ -176,17 +172,16 @@ Place PlaceOf(HWND window) {
     return {place.left, place.top, place.right, place.bottom};
 }
 
+DWORD ProcessOf(HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process;
+}
+
 std::string TextOf(HWND window) {
     char text[1024] = "";
     GetWindowTextA(window, text, sizeof text);
     return text;
-}
-
-bool IsOnTop(HWND window, HWND other) {
-    for (HWND below = window; below; below = GetWindow(below, GW_HWNDNEXT))
-        if (below == other)
-            return true;
-    return false;
 }
 
 HWND TipStrip() {
@@ -198,7 +193,19 @@ HWND OpenedMenu() {
 }
 
 HWND WaitForBox(const char* caption) {
-    return WaitForVisible(0, "#32770", caption);
+    const HWND box = WaitForVisible(0, "#32770", caption);
+    Insist(box != nullptr, caption);
+    return box;
+}
+
+void AnswerBox(const char* caption, WORD key) {
+    const HWND box = WaitForBox(caption);
+    Until([box] { return !IsWindow(box); },
+          [box, key] {
+              Activate(box);
+              PressKeys({key});
+          });
+    Insist(WaitForEnd(box), std::string("an end of ") + caption);
 }
 
 std::string BoxText(HWND box) {

@@ -13,22 +13,29 @@
 constexpr int SCREEN_W = 1024;
 constexpr int SCREEN_H = 768;
 constexpr DWORD PATIENCE = 10000; // ms; for what must happen, however slow the machine
+constexpr int SAVE = 47;          // the row that writes the settings
 
 struct Place {
     int left, top, right, bottom;
     bool operator==(const Place&) const = default;
 };
+constexpr Place EDITOR = {200, 150, 600, 450};
 std::ostream& operator<<(std::ostream& out, const Place& place);
 Place Moved(const Place& place, int dx, int dy);
+
+// Ends this program where something without which nothing makes sense has not come.
+void Insist(bool came, const std::string& wanted);
 
 // Ends all programs that were started, and removes Quorl's settings: each test begins and ends so.
 void CleanDesktop();
 
 // Starts quorl.exe from the folder of this program, or from `folder`. Gives its process at once.
 HANDLE LaunchQuorl(const std::string& folder = "");
-// Starts it and waits for its window; null if none came.
+// Starts it and insists on its window.
 HWND StartQuorl(const std::string& folder = "");
 HWND QuorlWindow();
+bool IsMapShown();
+bool Answers(HWND window);
 std::string ProgramFolder();
 
 // Opens a window of another program which plays `part` (player.h), inactive, on top of the others. A running
@@ -37,8 +44,12 @@ HWND OpenWindow(const char* title, const Place& place, const char* part = "plain
 // Starts one of the programs that the system brings along and waits for its window of the class.
 HWND OpenProgram(const char* command, const char* windowClass);
 
+// One half of a press: KEYEVENTF_KEYUP or 0.
+void SendKey(WORD key, DWORD flags);
 // Presses the keys in this order and lets them go in the opposite one. 0 if they could not be held.
 bool PressKeys(std::initializer_list<WORD> keys);
+// Presses and releases one key after the other.
+void PressInTurn(std::initializer_list<WORD> keys);
 // Has Quorl run a row of its table as if by a hotkey, after all that it was told before.
 void DoRow(int row);
 // Makes a window the one that the user types into.
@@ -46,25 +57,27 @@ void Activate(HWND window);
 
 Place PlaceOf(HWND window);
 std::string TextOf(HWND window);
-bool IsOnTop(HWND window, HWND other);
+DWORD ProcessOf(HWND window);
 // The strip over the map, while it is on show; else null.
 HWND TipStrip();
 // The popup menu that is open; else null.
 HWND OpenedMenu();
 
-// The message box with this caption; null if none comes. Its text; how it is answered, by a key.
+// Insists on a dialog or a box with this caption.
 HWND WaitForBox(const char* caption);
+// The text of a message box. How a box is answered: by a key, until it has gone.
 std::string BoxText(HWND box);
+void AnswerBox(const char* caption, WORD key);
 // 1 once the window is gone.
 bool WaitForEnd(HWND window);
 // The exit code; STILL_ACTIVE when patience is over.
 DWORD WaitForExit(HANDLE process);
 
 // What `read` gives, as soon as it is `wanted`; what it gave last when patience is over.
-template <typename Read, typename Value>
-Value Soon(Read read, const Value& wanted) {
-    const ULONGLONG deadline = GetTickCount64() + PATIENCE;
-    Value value = read();
+template <typename Read, typename Wanted>
+auto Soon(Read read, const Wanted& wanted, DWORD patience = PATIENCE) {
+    const ULONGLONG deadline = GetTickCount64() + patience;
+    auto value = read();
     while (value != wanted && GetTickCount64() < deadline) {
         Sleep(10);
         value = read();
@@ -72,3 +85,14 @@ Value Soon(Read read, const Value& wanted) {
     return value;
 }
 #define EXPECT_SOON(expression, wanted) EXPECT_EQ(Soon([&] { return (expression); }, wanted), wanted)
+
+// Does it again while it has not come: under Wine on a busy machine a click is lost now and then.
+template <typename Came, typename Act>
+void Until(Came came, Act act) {
+    constexpr DWORD EACH_TIME = 2000; // ms
+    for (int tries = 0; tries < 5; ++tries) {
+        act();
+        if (Soon(came, true, EACH_TIME))
+            return;
+    }
+}

@@ -5,22 +5,10 @@
 
 namespace {
 
-enum ControlId {
-    SHIFT = 1028,
-    ALT = 1030,
-    CTRL = 1031,
-    RIGHT = 1033,
-    LEFT = 1034,
-    MIDDLE = 1035,
-    WIN = 1036,
-    KEYS = 1038,
-    GROUP = 1049,
-    TABS = 1050,
-    LIST = 1051,
-    CLEAR = 1052,
-    APPLY = 1053,
-    WARNING = 1069,
-};
+// Its controls.
+constexpr int SHIFT = 1028, ALT = 1030, CTRL = 1031, WIN = 1036;
+constexpr int RIGHT = 1033, LEFT = 1034, MIDDLE = 1035;
+constexpr int KEYS = 1038, GROUP = 1049, TABS = 1050, LIST = 1051, CLEAR = 1052, APPLY = 1053, WARNING = 1069;
 
 constexpr ActionId RIGHT_SCREEN = 30;
 constexpr int KEY_RIGHT_SCREEN = 25, MOUSE_RIGHT_SCREEN = 21; // its item in each list

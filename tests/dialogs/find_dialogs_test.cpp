@@ -6,12 +6,8 @@
 namespace {
 
 constexpr int FIND_WINDOW = 52, RESIZE_WINDOWS = 53, FIND_REGION = 111; // rows
-constexpr int APPLY = 2;
-constexpr int HEIGHT = 1000;
-constexpr int WIDTH = 1001;
-constexpr int LIST = 1041;
-constexpr int DESKTOP = 1043;
-constexpr int RESIZE_OK = 1044;
+// Their controls.
+constexpr int APPLY = 2, HEIGHT = 1000, WIDTH = 1001, LIST = 1041, DESKTOP = 1043, RESIZE_OK = 1044;
 
 class FindDialogs : public DialogTest {
   protected:
@@ -79,22 +75,17 @@ TEST_F(FindDialogs, TheViewComesToTheCornerOfTheChosenRegion) {
 }
 
 TEST_F(FindDialogs, OnlyOneOfTheTwoIsOpen) {
-    struct {
-        int row, other;
-        const char* title;
-    } const cases[] = {
-        {FIND_WINDOW, FIND_REGION, "Find Windows..."},
-        {FIND_REGION, FIND_WINDOW, "Find Region..." },
-    };
-    for (const auto& [row, other, title] : cases) {
-        Open(row);
-        const HWND first = dialog;
-        Open(other);
-        EXPECT_EQ(dialog, first);
-        EXPECT_EQ(RowOf(dialog).title, title);
-        Press(VK_RETURN);
-        EXPECT_FALSE(IsOpen());
-    }
+    Open(FIND_WINDOW);
+    const HWND first = dialog;
+    Open(FIND_REGION);
+    EXPECT_EQ(dialog, first);
+    EXPECT_EQ(RowOf(dialog).title, "Find Windows...");
+    Press(VK_RETURN);
+    EXPECT_FALSE(IsOpen());
+    Open(FIND_REGION);
+    EXPECT_EQ(RowOf(dialog).title, "Find Region...");
+    Press(VK_RETURN);
+    EXPECT_FALSE(IsOpen());
 }
 
 TEST_F(FindDialogs, ASizeIsAppliedAtTheCornerOfTheWindowThatWasChosenLast) {

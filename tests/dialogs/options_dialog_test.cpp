@@ -9,15 +9,11 @@
 
 namespace {
 
-const int HEIGHT = 1000;
-const int WIDTH = 1001;
-const int DELAY_TIME = 1003;
-const int NOTE = 1077;
-const int HEIGHT_SPINNER = 54321;
-const int WIDTH_SPINNER = 54322;
+// Its controls.
+constexpr int HEIGHT = 1000, WIDTH = 1001, DELAY_TIME = 1003, NOTE = 1077;
+constexpr int HEIGHT_SPINNER = 54321, WIDTH_SPINNER = 54322;
 
-const int UP = 5; // on a spinner
-const int DOWN = 16;
+constexpr int UP = 5, DOWN = 16; // on a spinner, pixels from its top
 
 class OptionsDialog : public DialogTest {
   protected:

@@ -38,18 +38,18 @@ void Contract::TearDown() {
     Seen.clear();
 }
 
-std::vector<UINT> SeenOf(std::initializer_list<UINT> messages) {
-    std::vector<UINT> found;
+Kinds SeenOf(std::initializer_list<UINT> messages) {
+    Kinds found;
     for (const MSG& arrived : Seen)
         if (std::find(messages.begin(), messages.end(), arrived.message) != messages.end())
             found.push_back(arrived.message);
     return found;
 }
 
-HWND OpenOwn(const RECT& place, DWORD style, DWORD exStyle, const char* title) {
+HWND OpenOwn(DWORD style, DWORD exStyle, const RECT& place, HWND owner) {
     const HWND window =
-        CreateWindowExA(exStyle, "Contract", title, style, place.left, place.top, place.right - place.left,
-                        place.bottom - place.top, nullptr, nullptr, Instance(), nullptr);
+        CreateWindowExA(exStyle, "Contract", "own", style, place.left, place.top, place.right - place.left,
+                        place.bottom - place.top, owner, nullptr, Instance(), nullptr);
     if (window)
         Own.push_back(window);
     return window;

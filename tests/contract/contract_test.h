@@ -22,11 +22,11 @@ extern std::vector<MSG> Seen;
 extern std::map<UINT, std::function<LRESULT(const MSG&)>> Replies;
 
 // Those of the given messages that have arrived, in order.
-std::vector<UINT> SeenOf(std::initializer_list<UINT> messages);
+using Kinds = std::vector<UINT>;
+Kinds SeenOf(std::initializer_list<UINT> messages);
 
 // A window of this program, of class "Contract"; hidden unless the style says WS_VISIBLE.
-HWND OpenOwn(const RECT& place, DWORD style = WS_OVERLAPPEDWINDOW, DWORD exStyle = 0,
-             const char* title = "own");
+HWND OpenOwn(DWORD style = WS_POPUP, DWORD exStyle = 0, const RECT& place = PLACE, HWND owner = nullptr);
 
 // Those of the given windows that are on the desktop, the topmost first.
 std::vector<HWND> Order(std::initializer_list<HWND> windows);

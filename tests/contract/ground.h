@@ -16,6 +16,7 @@ enum class Manner {
     Leaves,   // its program ends instead of answering
 };
 
+inline const RECT PLACE{100, 120, 400, 320}; // of windows, unless a case says otherwise
 inline const RECT RewrittenRecord{11, 22, 333, 244};
 
 // Before and after each case. The end closes what OpenStranger opened.
@@ -26,7 +27,7 @@ void GroundTearDown();
 HINSTANCE Instance();
 
 // A visible window of another program, of class "Stranger", with title bar and sizing frame, not activated.
-HWND OpenStranger(const char* title, const RECT& place, Manner manner = Manner::Answers);
+HWND OpenStranger(const char* title, Manner manner = Manner::Answers);
 
 // Milliseconds on a clock of the ground.
 DWORD Clock();
@@ -37,28 +38,18 @@ void Pass(DWORD milliseconds);
 // Handles messages for so long.
 void Handle(DWORD milliseconds);
 
-// The user presses and releases a key with modifiers (MOD_ values), or holds or releases a key.
-void PressCombination(UINT modifiers, UINT key);
+// The user holds or releases a key.
 void HoldKey(int key, int bDown);
 
 // The user moves the mouse, in screen pixels, or holds or releases one of its buttons (VK_ values).
 void MoveMouse(int x, int y);
 void PressMouse(int button, int bDown);
 
-// The user clicks a button; goes to a control; clicks a row of a list or a tab, from 0; types into an edit
-// box instead of what it holds. All of it in a dialog in front, and handled when the call is back.
+// The user clicks a button, or a row of a list or a tab, from 0; types into an edit box instead of what it
+// holds. All of it in a dialog in front, and handled when the call is back.
 void ClickControl(HWND button);
-void GoToControl(HWND control);
 void ChooseRow(HWND control, int row);
 void TypeInto(HWND edit, const char* text);
-
-// What a living menu holds, as a user would read it: "* " before a checked entry, "--" for a line, " >" after
-// what opens another menu.
-std::vector<std::string> MenuLines(HMENU menu);
-
-// The user will choose the n-th entry of `menu` that is no line (from 1) once it is open over `window`; 0:
-// will close it.
-void WillChoose(HWND window, HMENU menu, int entry);
 
 // A private profile file by its bare name: its whole text put down or removed, its lines without blank ones.
 void WriteProfile(const char* file, const std::string& text);

@@ -1,161 +1,98 @@
-// What the map expects of drawing: where lines and rectangles end, what tools a fresh context has, the order
-// of erasing and painting.
-#include <gtest/gtest.h>
+// What waits to be painted, and texts.
+#include "contract/contract_test.h"
 
-#include <windows.h>
-
-#include <string>
+#include <cstring>
 
 namespace {
 
-constexpr COLORREF BLACK = 0;
-constexpr COLORREF WHITE = 0xffffff;
-constexpr COLORREF RED = 0x0000ff;
-constexpr RECT CLIENT{0, 0, 60, 40}; // of a window without a frame, at that size
+const RECT NOWHERE{};
 
-std::string Happened;
-COLORREF AtPaint;
-
-LRESULT CALLBACK CanvasProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_ERASEBKGND) {
-        Happened += "erase ";
-        Rectangle(reinterpret_cast<HDC>(wParam), 0, 0, CLIENT.right, CLIENT.bottom);
-        return 1;
-    }
-    if (message != WM_PAINT)
-        return DefWindowProcA(window, message, wParam, lParam);
-    Happened += "begin ";
-    PAINTSTRUCT paint{};
-    const HDC context = BeginPaint(window, &paint);
-    Happened += "draw ";
-    AtPaint = GetPixel(context, 20, 20);
-    MoveToEx(context, 0, 20, nullptr);
-    LineTo(context, CLIENT.right, 20);
-    EndPaint(window, &paint);
-    return 0;
-}
-
-class Painting : public testing::Test {
+class Painting : public Contract {
   protected:
     HWND window = nullptr;
     HDC context = nullptr;
-    HBRUSH background = nullptr;
+    RECT area{}; // as BeginPaint told it
 
     void SetUp() override {
-        background = GetSysColorBrush(COLOR_BACKGROUND);
-        WNDCLASSA description{};
-        description.lpfnWndProc = CanvasProc;
-        description.hbrBackground = background;
-        description.lpszClassName = "Canvas";
-        RegisterClassA(&description);
-        window = CreateWindowExA(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, "Canvas", "Canvas", WS_POPUP, 100, 100,
-                                 CLIENT.right, CLIENT.bottom, nullptr, nullptr, nullptr, nullptr);
-        ASSERT_NE(window, nullptr);
+        Contract::SetUp();
+        window = OpenOwn(WS_POPUP, WS_EX_TOPMOST | WS_EX_TOOLWINDOW, {100, 100, 300, 200});
+        Replies[WM_PAINT] = [this](const MSG& arrived) {
+            PAINTSTRUCT paint;
+            EXPECT_NE(BeginPaint(arrived.hwnd, &paint), nullptr);
+            area = paint.rcPaint;
+            EndPaint(arrived.hwnd, &paint);
+            return 0;
+        };
         ShowWindow(window, SW_SHOWNOACTIVATE);
-        UpdateWindow(window);
+        Handle(50);
+        Seen.clear();
         context = GetDC(window);
-        ASSERT_TRUE(Rectangle(context, -1, -1, 100, 100)); // white all over
     }
 
     void TearDown() override {
         EXPECT_TRUE(ReleaseDC(window, context));
-        EXPECT_TRUE(DestroyWindow(window));
+        Contract::TearDown();
     }
 
-    COLORREF At(int x, int y) const { return GetPixel(context, x, y); }
+    // Paints at once what is invalid, and tells where.
+    RECT Painted() {
+        Seen.clear();
+        area = NOWHERE;
+        UpdateWindow(window);
+        return area;
+    }
 };
 
-TEST_F(Painting, ARectangleHasABlackFrameAWhiteInsideAndLeavesItsFarSidesOut) {
-    const HBRUSH red = CreateSolidBrush(RED);
-    const HGDIOBJ before = SelectObject(context, red);
-    ASSERT_TRUE(Rectangle(context, 10, 10, 20, 20));
-    EXPECT_EQ(SelectObject(context, before), red);
-    EXPECT_EQ(At(10, 10), BLACK);
-    EXPECT_EQ(At(19, 19), BLACK);
-    EXPECT_EQ(At(15, 15), RED);
-    EXPECT_EQ(At(20, 20), WHITE);
-    EXPECT_EQ(At(9, 15), WHITE);
-    EXPECT_TRUE(Rectangle(context, 30, 30, 30, 30)) << "an empty one is no error ...";
-    EXPECT_EQ(At(30, 30), WHITE) << "... and draws nothing";
-    EXPECT_TRUE(DeleteObject(red));
-    EXPECT_FALSE(DeleteObject(red)) << "gone already";
+TEST_F(Painting, InvalidPartsAddUpAndAreErasedInsideBeginPaintWhenOneOfThemAsks) {
+    const RECT first{10, 10, 20, 20};
+    const RECT second{30, 5, 50, 25};
+    InvalidateRect(window, &first, FALSE);
+    EXPECT_TRUE(Seen.empty()) << "to be invalid is only a note";
+    EXPECT_EQ(Painted(), first);
+    EXPECT_EQ(SeenOf({WM_PAINT, WM_ERASEBKGND}), Kinds{WM_PAINT});
+
+    InvalidateRect(window, &first, TRUE);
+    InvalidateRect(window, &second, FALSE);
+    EXPECT_EQ(Painted(), Rect(10, 5, 50, 25));
+    EXPECT_EQ(SeenOf({WM_PAINT, WM_ERASEBKGND}), (Kinds{WM_PAINT, WM_ERASEBKGND}));
+    EXPECT_EQ(Painted(), NOWHERE) << "nothing is invalid any more";
 }
 
-TEST_F(Painting, ALineLeavesItsEndOutAndTheNextOneStartsThere) {
-    POINT at{-1, -1};
-    ASSERT_TRUE(MoveToEx(context, 5, 5, nullptr));
-    ASSERT_TRUE(LineTo(context, 15, 5));
-    EXPECT_EQ(At(5, 5), BLACK);
-    EXPECT_EQ(At(14, 5), BLACK);
-    EXPECT_EQ(At(15, 5), WHITE);
-    ASSERT_TRUE(MoveToEx(context, 0, 0, &at));
-    EXPECT_EQ(at.x, 15);
-    EXPECT_EQ(at.y, 5);
+TEST_F(Painting, AWindowIsPaintedWhenItShowsAndAtAnotherSizeButNotAtAnotherPlace) {
+    ShowWindow(window, SW_HIDE);
+    InvalidateRect(window, nullptr, TRUE);
+    EXPECT_EQ(Painted(), NOWHERE);
+    Handle(30);
+    EXPECT_EQ(area, NOWHERE);
+    ShowWindow(window, SW_SHOWNOACTIVATE);
+    EXPECT_EQ(Painted(), Rect(0, 0, 200, 100));
+    MoveWindow(window, 150, 120, 200, 100, TRUE);
+    EXPECT_EQ(Painted(), NOWHERE) << "the picture moves along";
+    MoveWindow(window, 150, 120, 250, 100, TRUE);
+    EXPECT_EQ(Painted(), Rect(0, 0, 250, 100));
 }
 
-TEST_F(Painting, MergingABlackPenWithTheInvertedGroundInvertsIt) {
-    EXPECT_EQ(SetROP2(context, R2_MERGEPENNOT), R2_COPYPEN);
-    ASSERT_TRUE(MoveToEx(context, 5, 5, nullptr));
-    ASSERT_TRUE(LineTo(context, 15, 5));
-    EXPECT_EQ(At(10, 5), BLACK);
-    ASSERT_TRUE(MoveToEx(context, 5, 5, nullptr));
-    ASSERT_TRUE(LineTo(context, 15, 5));
-    EXPECT_EQ(At(10, 5), WHITE);
-    EXPECT_EQ(SetROP2(context, R2_COPYPEN), R2_MERGEPENNOT);
+TEST_F(Painting, ATextHasTheExtentOfItsCharactersAndAnEmptyOneNone) {
+    SIZE none{9, 9}, one{}, four{};
+    EXPECT_TRUE(GetTextExtentPoint32A(context, "", 0, &none));
+    EXPECT_TRUE(GetTextExtentPoint32A(context, "H", 1, &one));
+    EXPECT_TRUE(GetTextExtentPoint32A(context, "HHHH", 4, &four));
+    EXPECT_TRUE(none.cx == 0 && none.cy == 0);
+    EXPECT_TRUE(one.cy > 5 && four.cx == 4 * one.cx);
 }
 
-TEST_F(Painting, AFocusRectangleDrawnTwiceIsGone) {
-    const RECT box{10, 10, 30, 20};
-    ASSERT_TRUE(DrawFocusRect(context, &box));
-    EXPECT_NE(At(14, 10), At(15, 10)) << "every second pixel";
-    EXPECT_NE(At(29, 14), At(29, 15));
-    EXPECT_EQ(At(30, 14), WHITE);
-    EXPECT_EQ(At(15, 15), WHITE) << "no inside";
-    ASSERT_TRUE(DrawFocusRect(context, &box));
-    for (int x = 9; x <= 30; ++x)
-        EXPECT_EQ(At(x, 10), WHITE) << x;
-}
-
-TEST_F(Painting, ASelectedPenDrawsAndTheOldOneComesBack) {
-    const HPEN pen = CreatePen(PS_SOLID, 1, RED);
-    const HGDIOBJ before = SelectObject(context, pen);
-    ASSERT_NE(before, nullptr) << "a fresh context has a pen";
-    ASSERT_TRUE(MoveToEx(context, 5, 5, nullptr));
-    ASSERT_TRUE(LineTo(context, 15, 5));
-    EXPECT_EQ(At(10, 5), RED);
-    EXPECT_EQ(SelectObject(context, nullptr), nullptr) << "nothing to select";
-    EXPECT_EQ(SelectObject(context, before), pen);
-    EXPECT_TRUE(DeleteObject(pen));
-}
-
-TEST_F(Painting, TheBackgroundIsErasedInsideBeginPaintAndOnlyTheInvalidPartIsDrawn) {
-    UpdateWindow(window);
-    Happened.clear();
-    const RECT part{10, 10, 30, 30};
-    ASSERT_TRUE(InvalidateRect(window, &part, TRUE));
-    EXPECT_EQ(Happened, "") << "nothing is drawn yet";
-    ASSERT_TRUE(UpdateWindow(window));
-    EXPECT_EQ(Happened, "begin erase draw ");
-    EXPECT_EQ(AtPaint, WHITE);
-    EXPECT_EQ(At(10, 20), BLACK);
-    EXPECT_EQ(At(29, 20), BLACK);
-    EXPECT_EQ(At(9, 20), WHITE) << "clipped";
-    EXPECT_EQ(At(30, 20), WHITE);
-    EXPECT_EQ(At(0, 0), WHITE) << "and the frame of the background with it";
-    Happened.clear();
-    ASSERT_TRUE(UpdateWindow(window));
-    EXPECT_EQ(Happened, "") << "nothing is invalid any more";
-}
-
-TEST_F(Painting, AWindowTellsTheBrushOfItsClassAndItsOwner) {
-    EXPECT_EQ(reinterpret_cast<HBRUSH>(GetClassLongPtrA(window, GCLP_HBRBACKGROUND)), background);
-    const HWND owned =
-        CreateWindowExA(0, "Canvas", "", WS_POPUP, 0, 0, 10, 10, window, nullptr, nullptr, nullptr);
-    EXPECT_EQ(reinterpret_cast<HWND>(GetWindowLongPtrA(owned, GWLP_HWNDPARENT)), window);
-    EnableWindow(window, FALSE);
-    EXPECT_TRUE(GetWindowLongPtrA(window, GWL_STYLE) & WS_DISABLED);
-    EXPECT_EQ(GetWindowLongPtrA(window, GWLP_HWNDPARENT), 0) << "nobody owns it";
-    EXPECT_EQ(GetWindowLongPtrA(nullptr, GWL_STYLE), 0);
+TEST_F(Painting, ATextTooLongForItsPlaceEndsInAnEllipsisAlsoInItsStore) {
+    char texts[][128] = {"Hi & so", "HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHH"};
+    for (char(&text)[128] : texts) {
+        RECT rect{2, 0, 180, 16};
+        EXPECT_GT(DrawTextExA(context, text, static_cast<int>(std::strlen(text)), &rect,
+                              DT_WORDBREAK | DT_NOPREFIX | DT_END_ELLIPSIS | DT_MODIFYSTRING, nullptr),
+                  5);
+    }
+    EXPECT_STREQ(texts[0], "Hi & so");
+    const std::string drawn = texts[1];
+    EXPECT_TRUE(drawn.size() > 8 && drawn.size() < 60) << drawn;
+    EXPECT_TRUE(drawn.ends_with("H...")) << drawn;
 }
 
 } // namespace

@@ -3,96 +3,64 @@
 
 namespace {
 
-using Timers = Contract;
+std::vector<UINT_PTR> Ticks; // ids
 
-struct Tick {
-    HWND window;
-    UINT message;
-    UINT_PTR id;
+void CALLBACK Keep(HWND, UINT, UINT_PTR id, DWORD) {
+    Ticks.push_back(id);
+}
+
+class Timers : public Contract {
+  protected:
+    HWND window = nullptr;
+
+    void SetUp() override {
+        Contract::SetUp();
+        window = OpenOwn();
+        Ticks.clear();
+    }
 };
 
-std::vector<Tick> Ticks;
-
-void CALLBACK Keep(HWND window, UINT message, UINT_PTR id, DWORD) {
-    Ticks.push_back({window, message, id});
-}
-
-int TicksOf(UINT_PTR id) {
-    int count = 0;
-    for (const Tick& tick : Ticks)
-        count += tick.id == id;
-    return count;
-}
-
-TEST_F(Timers, ACallbackIsToldItsWindowAndId) {
-    Ticks.clear();
-    const HWND window = OpenOwn({10, 10, 300, 200}, WS_POPUP);
-    EXPECT_NE(SetTimer(window, 2000, 30, Keep), 0U);
+TEST_F(Timers, ACallbackTakesTheProceduresPlace) {
+    SetTimer(window, 2000, 30, Keep);
     Handle(50);
-    ASSERT_EQ(Ticks.size(), 1U);
-    EXPECT_EQ(Ticks[0].window, window);
-    EXPECT_EQ(Ticks[0].message, WM_TIMER);
-    EXPECT_EQ(Ticks[0].id, 2000U);
-    EXPECT_TRUE(SeenOf({WM_TIMER}).empty()) << "with a callback the procedure hears nothing";
-}
-
-TEST_F(Timers, WithoutACallbackTheProcedureHearsIt) {
-    const HWND window = OpenOwn({10, 10, 300, 200}, WS_POPUP);
-    EXPECT_NE(SetTimer(window, 7, 30, nullptr), 0U);
+    EXPECT_EQ(Ticks, std::vector<UINT_PTR>{2000});
+    EXPECT_TRUE(SeenOf({WM_TIMER}).empty());
+    SetTimer(window, 2000, 30, nullptr);
     Handle(50);
+    EXPECT_EQ(Ticks.size(), 1U);
     ASSERT_EQ(SeenOf({WM_TIMER}).size(), 1U);
-    EXPECT_EQ(Seen.back().wParam, 7U);
+    EXPECT_EQ(Seen.back().wParam, 2000U);
 }
 
 TEST_F(Timers, EachGoesAtItsOwnPaceAndTheEarlierDueComesFirst) {
-    Ticks.clear();
-    const HWND window = OpenOwn({10, 10, 300, 200}, WS_POPUP);
     SetTimer(window, 1, 150, Keep);
     SetTimer(window, 2, 100, Keep);
     Handle(220);
-    std::vector<UINT_PTR> order;
-    for (const Tick& tick : Ticks)
-        order.push_back(tick.id);
-    EXPECT_EQ(order, (std::vector<UINT_PTR>{2, 1, 2}));
+    EXPECT_EQ(Ticks, (std::vector<UINT_PTR>{2, 1, 2}));
 }
 
 TEST_F(Timers, OneThatIsLateTicksOnceNotForEachPeriodMissed) {
-    Ticks.clear();
-    const HWND window = OpenOwn({10, 10, 300, 200}, WS_POPUP);
     SetTimer(window, 1, 100, Keep);
     Pass(350);
     Handle(40);
     EXPECT_EQ(Ticks.size(), 1U);
 }
 
-TEST_F(Timers, SettingOneAgainReplacesPeriodAndCallback) {
-    Ticks.clear();
-    const HWND window = OpenOwn({10, 10, 300, 200}, WS_POPUP);
-    SetTimer(window, 1, 60, nullptr);
+TEST_F(Timers, SettingOneAgainStartsItsTimeAnew) {
+    SetTimer(window, 1, 60, Keep);
     Pass(40);
     EXPECT_NE(SetTimer(window, 1, 60, Keep), 0U);
     Handle(40);
-    EXPECT_TRUE(Ticks.empty()) << "its time starts anew";
+    EXPECT_TRUE(Ticks.empty());
     Handle(40);
-    EXPECT_EQ(TicksOf(1), 1);
-    EXPECT_TRUE(SeenOf({WM_TIMER}).empty());
+    EXPECT_EQ(Ticks.size(), 1U);
 }
 
-TEST_F(Timers, KillingTellsWhetherThereWasOne) {
-    Ticks.clear();
-    const HWND window = OpenOwn({10, 10, 300, 200}, WS_POPUP);
+TEST_F(Timers, TheyEndWhenTheyAreKilledAndWithTheirWindow) {
     SetTimer(window, 1, 20, Keep);
+    SetTimer(window, 2, 20, Keep);
     EXPECT_TRUE(KillTimer(window, 1));
     EXPECT_FALSE(KillTimer(window, 1));
-    EXPECT_FALSE(KillTimer(window, 99));
-    Handle(50);
-    EXPECT_TRUE(Ticks.empty());
-}
-
-TEST_F(Timers, TimersEndWithTheirWindow) {
-    Ticks.clear();
-    const HWND window = OpenOwn({10, 10, 300, 200}, WS_POPUP);
-    SetTimer(window, 1, 20, Keep);
     DestroyWindow(window);
     Handle(50);
     EXPECT_TRUE(Ticks.empty());

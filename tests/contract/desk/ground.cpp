@@ -17,8 +17,8 @@ HINSTANCE Instance() {
     return reinterpret_cast<HINSTANCE>(UINT_PTR{0x400000});
 }
 
-HWND OpenStranger(const char* title, const RECT& place, Manner manner) {
-    const HWND window = OpenWindow(title, place, "Stranger");
+HWND OpenStranger(const char* title, Manner manner) {
+    const HWND window = OpenWindow(title, PLACE, "Stranger");
     DeskWindow& row = RowOf(window);
     switch (manner) {
     case Manner::Answers: break;
@@ -47,22 +47,6 @@ void Handle(DWORD milliseconds) {
     while (GetMessageA(&message, nullptr, 0, 0) > 0)
         DispatchMessageA(&message);
     Desk.until = FOR_EVER;
-}
-
-std::vector<std::string> MenuLines(HMENU menu) {
-    std::vector<std::string> lines;
-    for (const DeskMenuItem& item : MenuOf(menu).items)
-        lines.push_back((item.state & MFS_CHECKED ? "* " : "") +
-                        (item.type & MFT_SEPARATOR ? "--" : item.text) + (item.submenu ? " >" : ""));
-    return lines;
-}
-
-void WillChoose(HWND, HMENU menu, int entry) {
-    UINT id = 0;
-    for (const DeskMenuItem& item : MenuOf(menu).items)
-        if (!(item.type & MFT_SEPARATOR) && entry-- > 0)
-            id = item.id;
-    Desk.choices = {id};
 }
 
 void WriteProfile(const char* file, const std::string& text) {

@@ -16,11 +16,6 @@ void ClickControl(HWND button) {
     ClickAt({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
 }
 
-void GoToControl(HWND control) {
-    SetFocus(control);
-    Handle(ENOUGH);
-}
-
 static const struct {
     const char* className;
     UINT message; // that gives the place of a row

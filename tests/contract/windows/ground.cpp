@@ -18,8 +18,6 @@ static std::vector<HANDLE> Programs;
 static Manner Played;
 
 static LRESULT CALLBACK StrangerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_DESTROY)
-        PostQuitMessage(0);
     if (message != WM_MOVING)
         return DefWindowProcA(window, message, wParam, lParam);
     switch (Played) {
@@ -32,7 +30,7 @@ static LRESULT CALLBACK StrangerProc(HWND window, UINT message, WPARAM wParam, L
 }
 
 int IsStranger(int count, char** words) {
-    return count == 8 && !std::strcmp(words[1], STRANGER);
+    return count == 4 && !std::strcmp(words[1], STRANGER);
 }
 
 void CALLBACK EndPlay(HWND, UINT, UINT_PTR, DWORD) {
@@ -41,17 +39,14 @@ void CALLBACK EndPlay(HWND, UINT, UINT_PTR, DWORD) {
 
 int PlayStranger(char** words) {
     Played = static_cast<Manner>(std::atoi(words[2]));
-    int place[4];
-    for (int field = 0; field < 4; ++field)
-        place[field] = std::atoi(words[4 + field]);
     WNDCLASSA description{};
     description.lpfnWndProc = StrangerProc;
     description.hInstance = Instance();
     description.lpszClassName = "Stranger";
     RegisterClassA(&description);
-    const HWND window =
-        CreateWindowExA(0, "Stranger", words[3], WS_OVERLAPPEDWINDOW, place[0], place[1], place[2] - place[0],
-                        place[3] - place[1], nullptr, nullptr, Instance(), nullptr);
+    const HWND window = CreateWindowExA(0, "Stranger", words[3], WS_OVERLAPPEDWINDOW, PLACE.left, PLACE.top,
+                                        PLACE.right - PLACE.left, PLACE.bottom - PLACE.top, nullptr, nullptr,
+                                        Instance(), nullptr);
     ShowWindow(window, SW_SHOWNOACTIVATE);
     if (Played == Manner::Hung)
         Sleep(LONGEST_PLAY);
@@ -91,16 +86,9 @@ static void StartProgram(std::string words) {
     Programs.push_back(started.hProcess);
 }
 
-static std::string Numbers(const RECT& place) {
-    std::string text;
-    for (const LONG number : {place.left, place.top, place.right, place.bottom})
-        text += " " + std::to_string(number);
-    return text;
-}
-
-HWND OpenStranger(const char* title, const RECT& place, Manner manner) {
+HWND OpenStranger(const char* title, Manner manner) {
     StartProgram(std::string("contract_tests ") + STRANGER + " " + std::to_string(static_cast<int>(manner)) +
-                 " " + title + Numbers(place));
+                 " " + title);
     for (int patience = 0; patience < 500; ++patience) {
         const HWND window = FindWindowA("Stranger", title);
         if (window && IsWindowVisible(window)) {
@@ -140,54 +128,10 @@ void HoldKey(int key, int bDown) {
     SendInput(1, &input, sizeof input);
 }
 
-static void HoldModifiers(UINT modifiers, int bDown) {
-    const struct {
-        UINT modifier;
-        int key;
-    } keys[] = {
-        {MOD_ALT,     VK_MENU   },
-        {MOD_CONTROL, VK_CONTROL},
-        {MOD_SHIFT,   VK_SHIFT  },
-        {MOD_WIN,     VK_LWIN   }
-    };
-    for (const auto& row : keys)
-        if (modifiers & row.modifier)
-            HoldKey(row.key, bDown);
-}
-
-void PressCombination(UINT modifiers, UINT key) {
-    HoldModifiers(modifiers, 1);
-    HoldKey(static_cast<int>(key), 1);
-    HoldKey(static_cast<int>(key), 0);
-    HoldModifiers(modifiers, 0);
-}
-
 static std::string PathOf(const char* file) {
     char folder[MAX_PATH];
     GetWindowsDirectoryA(folder, MAX_PATH);
     return std::string(folder) + "\\" + file;
-}
-
-std::vector<std::string> MenuLines(HMENU menu) {
-    std::vector<std::string> lines;
-    for (int place = 0; place < GetMenuItemCount(menu); ++place) {
-        char text[256] = "";
-        MENUITEMINFOA item{};
-        item.cbSize = sizeof item;
-        item.fMask = MIIM_STATE | MIIM_SUBMENU | MIIM_TYPE;
-        item.dwTypeData = text;
-        item.cch = sizeof text;
-        GetMenuItemInfoA(menu, static_cast<UINT>(place), TRUE, &item);
-        lines.push_back(std::string(item.fState & MFS_CHECKED ? "* " : "") +
-                        (item.fType & MFT_SEPARATOR ? "--" : text) + (item.hSubMenu ? " >" : ""));
-    }
-    return lines;
-}
-
-void WillChoose(HWND window, HMENU, int entry) {
-    for (int step = 0; step < entry; ++step)
-        PostMessageA(window, WM_KEYDOWN, VK_DOWN, 0);
-    PostMessageA(window, WM_KEYDOWN, entry ? VK_RETURN : VK_ESCAPE, 0);
 }
 
 void WriteProfile(const char* file, const std::string& text) {

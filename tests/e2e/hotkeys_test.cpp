@@ -1,36 +1,6 @@
-// The keys that work without any settings, pressed for real.
-#include "dialogs.h"
+// The keys that work without any settings, pressed for real, beside those that the tour shows.
 #include "settings_file.h"
-
-namespace {
-
-struct KeyStep {
-    std::initializer_list<WORD> keys;
-    int dx, dy; // what it does to a window
-};
-const KeyStep ViewKeys[] = {
-    {{VK_CONTROL, VK_MENU, VK_SHIFT, VK_RIGHT}, -5,        0        },
-    {{VK_CONTROL, VK_MENU, VK_SHIFT, VK_DOWN},  0,         -5       },
-    {{VK_CONTROL, VK_MENU, VK_SHIFT, VK_LEFT},  5,         0        },
-    {{VK_CONTROL, VK_MENU, VK_SHIFT, VK_UP},    0,         5        },
-    {{VK_CONTROL, VK_MENU, VK_RIGHT},           -SCREEN_W, 0        },
-    {{VK_CONTROL, VK_MENU, VK_DOWN},            0,         -SCREEN_H},
-    {{VK_CONTROL, VK_MENU, VK_LEFT},            SCREEN_W,  0        },
-    {{VK_CONTROL, VK_MENU, VK_UP},              0,         SCREEN_H },
-};
-
-} // namespace
-
-TEST(Hotkeys, EachOfTheViewKeysMovesTheWindows) {
-    Place place = EDITOR;
-    const HWND editor = OpenWindow("editor", EDITOR);
-    StartQuorl();
-    for (const KeyStep& step : ViewKeys) {
-        PressKeys(step.keys);
-        place = Moved(place, step.dx, step.dy);
-        EXPECT_SOON(PlaceOf(editor), place) << "key " << *(step.keys.end() - 1);
-    }
-}
+#include "user.h"
 
 TEST(Hotkeys, TheActiveWindowIsLockedAndUnlocked) {
     const Place otherPlace = {300, 250, 700, 550};
@@ -63,9 +33,7 @@ TEST(Hotkeys, ARefusedCombinationIsReportedAtTheFirstStartOnlyAndTheOthersWork) 
     PressKeys({VK_CONTROL, VK_MENU, VK_DOWN});
     EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, 0, -SCREEN_H));
 
-    PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
-    AnswerBox("QUIT?", 'Y');
-    EXPECT_SOON(QuorlWindow(), HWND{});
+    Quit();
     EXPECT_EQ(Stored("Action30"), "-1|-1|-1|-1|0");
     EXPECT_TRUE(StartQuorl()) << "it is on show: no box holds it up";
     UnregisterHotKey(nullptr, 1);

@@ -78,19 +78,19 @@ void ClickHolding(WORD key, DWORD press, DWORD release) {
     SendKey(key, KEYEVENTF_KEYUP);
 }
 
-POINT OnMap(LONG x, LONG y, LONG screensWide) {
+POINT OnMap(LONG x, LONG y) {
     RECT map = {};
     GetClientRect(QuorlWindow(), &map);
-    POINT at = {x * map.right / (screensWide * SCREEN_W), y * map.bottom / (2 * SCREEN_H)};
+    POINT at = {x * map.right / (4 * SCREEN_W), y * map.bottom / (2 * SCREEN_H)};
     ClientToScreen(QuorlWindow(), &at);
     return at;
 }
 
-POINT OnDesktop(POINT at, LONG screensWide) {
+POINT OnDesktop(POINT at) {
     RECT map = {};
     GetClientRect(QuorlWindow(), &map);
     ScreenToClient(QuorlWindow(), &at);
-    return {at.x * screensWide * SCREEN_W / map.right, at.y * 2 * SCREEN_H / map.bottom};
+    return {at.x * 4 * SCREEN_W / map.right, at.y * 2 * SCREEN_H / map.bottom};
 }
 
 void StartShakingMouse(POINT around) {

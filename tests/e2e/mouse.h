@@ -27,9 +27,9 @@ void ClickHolding(WORD key, DWORD press, DWORD release);
 void PressButton(DWORD flag);
 
 // The place on the screen where Quorl's map shows this point of the desktop, and the desktop point that the
-// map gives for a place on the screen. The desktop is two screens high.
-POINT OnMap(LONG x, LONG y, LONG screensWide = 4);
-POINT OnDesktop(POINT at, LONG screensWide = 4);
+// map gives for a place on the screen. The desktop is four screens by two.
+POINT OnMap(LONG x, LONG y);
+POINT OnDesktop(POINT at);
 
 // A thread that moves the mouse about in a small circle without a pause, until it is stopped.
 void StartShakingMouse(POINT around);

@@ -24,7 +24,7 @@ TEST(Scroll, EachProgramIsMovedAsItAllowsAndNoneHarmsTheOthers) {
     EXPECT_SOON(PlaceOf(minimized), other);
 }
 
-TEST(Scroll, AMaximizedWindowIsRestoredWhenTheUserAskedForIt) {
+TEST(Scroll, AMaximizedWindowIsRestoredWhenAskedFor) {
     const HWND editor = OpenWindow("editor", EDITOR);
     ShowWindow(editor, SW_MAXIMIZE);
     EXPECT_SOON(IsZoomed(editor) != 0, true);

@@ -1,6 +1,6 @@
 // What is kept from one run to the next, in the file where Windows puts it.
-#include "dialogs.h"
 #include "settings_file.h"
+#include "user.h"
 
 TEST(Settings, TheNextRunFindsWhatTheLastOneLeft) {
     StartQuorl();
@@ -14,12 +14,10 @@ TEST(Settings, TheNextRunFindsWhatTheLastOneLeft) {
     DoRow(48); // back to what was saved
     EXPECT_SOON(PlaceOf(QuorlWindow()), (Place{200, 100, 405, 200}));
 
-    DoRow(59);
+    PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
     AnswerBox("QUIT?", 'N');
     EXPECT_TRUE(Answers(QuorlWindow()));
-    DoRow(59);
-    AnswerBox("QUIT?", 'Y');
-    EXPECT_SOON(QuorlWindow(), HWND{});
+    Quit();
     EXPECT_EQ(SettingsText(), saved);
     EXPECT_EQ(PlaceOf(StartQuorl()), (Place{200, 100, 405, 200}));
 }

@@ -236,7 +236,7 @@ bool MustComeBack(const Program& program) {
            !IsZoomed(program.window);
 }
 
-void Quit() {
+void QuitAndSeeAllBack() {
     CloseDialogs();
     DoRow(EXIT);
     PostMessageA(WaitForBox("QUIT?"), WM_COMMAND, IDYES, 0);
@@ -313,7 +313,7 @@ TEST(Soak, QuorlGoesOnAnsweringAndKeepsNothingOfWhatItUsed) {
     EXPECT_LE(last.windows, first.windows);
     EXPECT_LE(last.gdi, first.gdi) << "graphics objects";
     EXPECT_LE(last.memory, first.memory + MEMORY_SWING);
-    Quit();
+    QuitAndSeeAllBack();
 }
 
 TEST(Soak, WhenQuorlIsKilledTheNextOneBringsTheWindowsBackAndTheSettingsAreWhole) {
@@ -321,13 +321,13 @@ TEST(Soak, WhenQuorlIsKilledTheNextOneBringsTheWindowsBackAndTheSettingsAreWhole
     Start();
     DoRow(SAVE);
     EXPECT_SOON(Stored("Action122") != "", true);
-    Quit();
+    QuitAndSeeAllBack();
     for (int kill = 0; kill < length.kills && !testing::Test::HasFailure(); ++kill) {
         const HANDLE quorl = Start();
         ASSERT_TRUE(Live(ACTS_BEFORE_KILL));
         Kill(quorl);
         ExpectWholeSettings();
         Start();
-        Quit();
+        QuitAndSeeAllBack();
     }
 }

@@ -8,17 +8,10 @@
 
 namespace {
 
-HANDLE QuorlProcess;
-
 void ShowMap(const char* act) {
     const Place map = PlaceOf(QuorlWindow());
     Say("  %s: the map is at %d, %d and %d x %d in size", act, map.left, map.top, map.right - map.left,
         map.bottom - map.top);
-}
-
-void LaunchAndWait() {
-    QuorlProcess = LaunchQuorl();
-    Insist(Soon(IsMapShown, true) && Answers(QuorlWindow()), "Quorl on the screen");
 }
 
 void OpenExhibit(Exhibit& exhibit) {
@@ -41,7 +34,7 @@ void OpenPrograms() {
 
 void Open() {
     OpenPrograms();
-    LaunchAndWait();
+    StartQuorl();
     ShowMap("quorl.exe starts");
     SeeView("four programs are open", 0, 0);
     TakePicture("1-start");
@@ -49,43 +42,39 @@ void Open() {
 
 void PressTheKeys() {
     static const KeyStep steps[] = {
-        {"Ctrl+Alt+Right",       {VK_CONTROL, VK_MENU, VK_RIGHT},           SCREEN_W, 0       },
-        {"Ctrl+Alt+Down",        {VK_CONTROL, VK_MENU, VK_DOWN},            SCREEN_W, SCREEN_H},
-        {"Ctrl+Alt+Up",          {VK_CONTROL, VK_MENU, VK_UP},              SCREEN_W, 0       },
-        {"Ctrl+Alt+Shift+Right", {VK_CONTROL, VK_MENU, VK_SHIFT, VK_RIGHT}, 1029,     0       },
+        {"Ctrl+Alt+Right",       {VK_CONTROL, VK_MENU, VK_RIGHT},           SCREEN_W,     0       },
+        {"Ctrl+Alt+Shift+Right", {VK_CONTROL, VK_MENU, VK_SHIFT, VK_RIGHT}, SCREEN_W + 5, 0       },
+        {"Ctrl+Alt+Shift+Down",  {VK_CONTROL, VK_MENU, VK_SHIFT, VK_DOWN},  SCREEN_W + 5, 5       },
+        {"Ctrl+Alt+Shift+Left",  {VK_CONTROL, VK_MENU, VK_SHIFT, VK_LEFT},  SCREEN_W,     5       },
+        {"Ctrl+Alt+Shift+Up",    {VK_CONTROL, VK_MENU, VK_SHIFT, VK_UP},    SCREEN_W,     0       },
+        {"Ctrl+Alt+Left",        {VK_CONTROL, VK_MENU, VK_LEFT},            0,            0       },
+        {"Ctrl+Alt+Down",        {VK_CONTROL, VK_MENU, VK_DOWN},            0,            SCREEN_H},
+        {"Ctrl+Alt+Up",          {VK_CONTROL, VK_MENU, VK_UP},              0,            0       },
+        {"Ctrl+Alt+Right",       {VK_CONTROL, VK_MENU, VK_RIGHT},           SCREEN_W,     0       },
     };
     SeeKeys(steps);
     TakePicture("2-keys");
 }
 
-// Goes to the screen of the desktop that holds this point.
-void GoByMap(const char* act, LONG x, LONG y, LONG screensWide = 4) {
-    const LONG left = x / SCREEN_W * SCREEN_W;
-    const LONG top = y / SCREEN_H * SCREEN_H;
-    Until([&] { return StandAt(left, top); },
-          [&] {
-              AfterMoving(QuorlWindow(), OnMap(x, y, screensWide));
-              ClickHolding(VK_LSHIFT, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
-          });
-    SeeView(act, left, top);
-}
-
-void CenterByMap(POINT at) {
-    const LONG left = OnDesktop(at).x - SCREEN_W / 2;
-    const LONG top = OnDesktop(at).y - SCREEN_H / 2;
-    Until([&] { return StandAt(left, top); },
+// Clicks on the map until the view has come there.
+template <typename Act>
+void GoByMap(const char* act, POINT at, LONG x, LONG y, Act click) {
+    Until([&] { return StandAt(x, y); },
           [&] {
               AfterMoving(QuorlWindow(), at);
-              Click(MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP);
+              click();
           });
-    SeeView("middle button in the midst of the map", left, top);
+    SeeView(act, x, y);
 }
 
 void PressTheMap() {
-    GoByMap("Shift and left button on the map's first screen", 100, 100);
-    CenterByMap(OnMap(1200, 800));
+    const POINT at = OnMap(1200, 800);
+    const POINT middle = OnDesktop(at);
+    GoByMap("middle button in the midst of the map", at, middle.x - SCREEN_W / 2, middle.y - SCREEN_H / 2,
+            [] { Click(MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP); });
     TakePicture("3-map");
-    GoByMap("Shift and left button once more", 100, 100);
+    GoByMap("Shift and left button on the map's first screen", OnMap(100, 100), 0, 0,
+            [] { ClickHolding(VK_LSHIFT, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP); });
 }
 
 void DragTheMap() {
@@ -131,19 +120,12 @@ void UseTheMenu() {
     }
 }
 
-void AnswerYes() {
-    AnswerBox("QUIT?", 'Y');
-    const DWORD code = WaitForExit(QuorlProcess);
-    Insist(code == 0, "an end of Quorl with exit code 0");
-    Say("  the question \"QUIT?\" is answered with Yes: Quorl ends with exit code %lu", code);
-}
-
 // Quitting brings every window to its place on one screen.
 void SeeAllGathered() {
     for (Exhibit& exhibit : Exhibits)
         exhibit.home = Moved(exhibit.home, -(exhibit.home.left / SCREEN_W * SCREEN_W),
                              -(exhibit.home.top / SCREEN_H * SCREEN_H));
-    SeeView("every window is in reach", 0, 0);
+    SeeView("the question \"QUIT?\" is answered with Yes: every window is in reach", 0, 0);
 }
 
 void QuitByTheMenu() {
@@ -158,7 +140,7 @@ void QuitByTheMenu() {
     PressInMenu({VK_UP, VK_RETURN});
     WaitForBox("QUIT?");
     TakePicture("5-quit");
-    AnswerYes();
+    AnswerYesToQuit();
     SeeAllGathered();
     Say("  saved in quorl.ini: the map at %s, %s and a desktop of %s x %s", Stored("quorl_pos.left").c_str(),
         Stored("quorl_pos.top").c_str(), Stored("Quorl.right").c_str(), Stored("Quorl.bottom").c_str());
@@ -174,6 +156,7 @@ const char* const FileLines[][2] = {
     {"quorl_pos.right",  "460"                           },
     {"quorl_pos.bottom", "220"                           },
     {"Action14",         "-1|-1|6|82|0"                  }, // the map to the right: Ctrl+Alt+R
+    {"Action35",         "-1|-1|6|69|0"                  }, // to the right edge: Ctrl+Alt+E
     {"Action36",         "-1|-1|6|78|0"                  }, // next region: Ctrl+Alt+N
     {"Action37",         "-1|-1|6|80|0"                  }, // previous region: Ctrl+Alt+P
     {"Action60",         "-1|-1|6|65|0"                  }, // one more desktop: Ctrl+Alt+A
@@ -187,7 +170,7 @@ void StartWithFile() {
     OpenPrograms();
     for (const auto& [key, value] : FileLines)
         Store(key, value);
-    LaunchAndWait();
+    StartQuorl();
     ShowMap("quorl.exe starts with three regions and keys of our own in quorl.ini");
     TakePicture("6-regions");
 }
@@ -249,14 +232,10 @@ void PushAtTheEdge() {
     MoveMouse({500, 600});
 }
 
-void GoToFifthScreen() {
-    GoByMap("Shift and left button on the fifth screen", 4 * SCREEN_W + 100, 100, 5);
-}
-
 void Rearrange() {
     PressKeys({VK_CONTROL, VK_MENU, 'A'});
-    Say("  Ctrl+Alt+A adds a desktop on the right");
-    GoToFifthScreen();
+    PressKeys({VK_CONTROL, VK_MENU, 'E'});
+    SeeView("Ctrl+Alt+A adds a desktop on the right, Ctrl+Alt+E goes there", 4 * SCREEN_W, SCREEN_H);
     const Place wanted = Moved(PlaceOf(QuorlWindow()), 100, 0);
     PressKeys({VK_CONTROL, VK_MENU, 'R'});
     Insist(Soon([] { return PlaceOf(QuorlWindow()); }, wanted) == wanted, "the map 100 pixels to the right");
@@ -265,21 +244,20 @@ void Rearrange() {
 
 void StartAgain() {
     const Place map = PlaceOf(QuorlWindow());
-    PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
-    AnswerYes();
+    Quit();
     SeeAllGathered();
-    LaunchAndWait();
+    StartQuorl();
     ShowMap("quorl.exe starts again");
     Insist(PlaceOf(QuorlWindow()) == map, "the map where it was left");
-    GoToFifthScreen();
+    PressKeys({VK_CONTROL, VK_MENU, 'E'});
+    SeeView("Ctrl+Alt+E goes to the fifth screen", 4 * SCREEN_W, 0);
     PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, '1'});
     SeeView("Ctrl+Alt+Shift+1 jumps to mail", 2 * SCREEN_W, 0);
     TakePicture("9-again");
 }
 
 void End() {
-    PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
-    AnswerYes();
+    Quit();
     SeeAllGathered();
 }
 

@@ -215,6 +215,19 @@ std::string BoxText(HWND box) {
     return text;
 }
 
+void AnswerYesToQuit() {
+    const HANDLE quorl =
+        OpenProcess(SYNCHRONIZE | PROCESS_QUERY_INFORMATION, FALSE, ProcessOf(QuorlWindow()));
+    AnswerBox("QUIT?", 'Y');
+    Insist(WaitForExit(quorl) == 0, "an end of Quorl with exit code 0");
+    CloseHandle(quorl);
+}
+
+void Quit() {
+    PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
+    AnswerYesToQuit();
+}
+
 bool WaitForEnd(HWND window) {
     return !Soon([window] { return IsWindow(window) != 0; }, false);
 }

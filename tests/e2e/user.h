@@ -68,6 +68,10 @@ HWND WaitForBox(const char* caption);
 // The text of a message box. How a box is answered: by a key, until it has gone.
 std::string BoxText(HWND box);
 void AnswerBox(const char* caption, WORD key);
+// Answers the question that stands before Quorl's end with Yes, and insists on an end with exit code 0.
+void AnswerYesToQuit();
+// The same when the question is yet to be asked for.
+void Quit();
 // 1 once the window is gone.
 bool WaitForEnd(HWND window);
 // The exit code; STILL_ACTIVE when patience is over.

@@ -1,18 +1,14 @@
 #include "actions/active_window.h"
 
-#include "core/state.h"
 #include "scroll/locked_windows.h"
 #include "support/quorl_test.h"
 
-namespace {
-
-class ActiveWindow : public QuorlTest {
+class ActiveWindow : public RunningQuorl {
   protected:
     HWND active = OpenWindow("editor", {300, 300, 500, 400});
 
     void SetUp() override {
-        QuorlTest::SetUp();
-        Start();
+        RunningQuorl::SetUp();
         Desk.foreground = active;
     }
 };
@@ -26,7 +22,7 @@ TEST_F(ActiveWindow, MovesByItsRowsStep) {
         const int step = steps[row - 92];
         const POINT way = row % 4 < 2 ? POINT{step, 0} : POINT{0, step};
         Command(row);
-        EXPECT_EQ(PlaceOf(active), Rect(300 + way.x, 300 + way.y, 500 + way.x, 400 + way.y)) << "row " << row;
+        EXPECT_EQ(PlaceOf(active), Moved({300, 300, 500, 400}, way.x, way.y)) << "row " << row;
     }
 }
 
@@ -48,19 +44,14 @@ TEST_F(ActiveWindow, GoesToTheScreensEdgesAndMiddle) {
 }
 
 TEST_F(ActiveWindow, StaysOnTheDesktopNotOnTheScreen) {
-    const struct {
-        RECT asked, kept; // corner and size
-    } cases[] = {
-        {{-1000, -10, 200, 10},  {-1000, -10, 200, 10}     },
-        {{-1025, -769, 200, 10}, {-1024, -768, 200, 10}    },
-        {{3000, 1500, 200, 10},  {2872, 758, 200, 10}      },
-        {{0, 0, 5000, 3000},     {-1928, -2232, 5000, 3000}}, // the far edge wins
+    const auto kept = [](WindowPlace asked) {
+        const auto place = KeptOnDesktop(asked, {1024, 768, 2048, 1536}, {0, 0, 4096, 1536});
+        return Rect(place.x, place.y, place.width, place.height);
     };
-    for (const auto& [asked, kept] : cases) {
-        const auto place = KeptOnDesktop({asked.left, asked.top, asked.right, asked.bottom},
-                                         {1024, 768, 2048, 1536}, {0, 0, 4096, 1536});
-        EXPECT_EQ(Rect(place.x, place.y, place.width, place.height), kept);
-    }
+    EXPECT_EQ(kept({-1000, -10, 200, 10}), Rect(-1000, -10, 200, 10));
+    EXPECT_EQ(kept({-1025, -769, 200, 10}), Rect(-1024, -768, 200, 10));
+    EXPECT_EQ(kept({3000, 1500, 200, 10}), Rect(2872, 758, 200, 10));
+    EXPECT_EQ(kept({0, 0, 5000, 3000}), Rect(-1928, -2232, 5000, 3000)) << "the far edge wins";
 }
 
 TEST_F(ActiveWindow, ThatHangsOrIsGoneHarmsNothing) {
@@ -105,5 +96,3 @@ TEST_F(ActiveWindow, ThatQuorlMayNotTouchCannotBeLocked) {
         EXPECT_EQ(LockedWindows[0], nullptr);
     }
 }
-
-} // namespace

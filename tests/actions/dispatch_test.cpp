@@ -1,6 +1,5 @@
 #include "actions/dispatch.h"
 
-#include "core/state.h"
 #include "support/quorl_test.h"
 
 #include <climits>
@@ -11,6 +10,5 @@ TEST_F(RunningQuorl, SaysSoOfANumberThatNothingHandles) {
         EXPECT_EQ(DoAction(MainWnd, id, nullptr), 0) << id;
         EXPECT_TRUE(Desk.answers.empty()) << id;
     }
-    EXPECT_EQ(Desk.boxes[0].text + "/" + Desk.boxes[0].caption,
-              "Actually, I don't handle that one yet./Sorry.");
+    EXPECT_EQ(LastBox(), "Actually, I don't handle that one yet./Sorry.");
 }

@@ -1,11 +1,8 @@
 #include "actions/hotkeys.h"
 
-#include "core/state.h"
 #include "support/quorl_test.h"
 
 #include <algorithm>
-
-namespace {
 
 class Hotkeys : public QuorlTest {
   protected:
@@ -15,29 +12,25 @@ class Hotkeys : public QuorlTest {
     }
 };
 
+// The virtual key, and what the value that was looked up has become.
+using Looked = std::pair<int, int>;
+
+static Looked Key(int key) {
+    const int vk = VirtualKey(&key);
+    return {vk, key};
+}
+
 TEST_F(Hotkeys, KeysStandForThemselvesAndCharactersForTheKeyThatTypesThem) {
-    const struct {
-        int key, looked, vk;
-    } cases[] = {
-        {VK_SPACE, VK_SPACE, VK_SPACE   },
-        {VK_LEFT,  VK_LEFT,  VK_LEFT    },
-        {VK_DOWN,  VK_DOWN,  VK_DOWN    },
-        {VK_F1,    VK_F1,    VK_F1      },
-        {VK_F12,   VK_F12,   VK_F12     },
-        {'A',      'a',      'A'        },
-        {'Z',      'z',      'Z'        },
-        {'!',      '!',      0x100 + '1'}, // the shift state stays in the value ...
-        {305,      '1',      '1'        }, // ... and is lost when that value comes back from a file
-        {257,      1,        -1         },
-        {256,      256,      -1         }, // only above 256 is it taken off
-        {VK_F13,   VK_F13,   -1         }, // on this keyboard, '|' and its kin type nothing
-        {36,       36,       0x100 + '4'}, // just before the arrows
-    };
-    for (const auto& [key, looked, vk] : cases) {
-        int value = key;
-        EXPECT_EQ(VirtualKey(&value), vk) << key;
-        EXPECT_EQ(value, looked) << key;
-    }
+    for (const int key : {VK_SPACE, VK_LEFT, VK_DOWN, VK_F1, VK_F12})
+        EXPECT_EQ(Key(key), Looked(key, key));
+    EXPECT_EQ(Key('A'), Looked('A', 'a'));
+    EXPECT_EQ(Key('Z'), Looked('Z', 'z'));
+    EXPECT_EQ(Key('!'), Looked(0x100 + '1', '!')) << "the shift state stays in the value ...";
+    EXPECT_EQ(Key(305), Looked('1', '1')) << "... and is lost when that comes back from a file";
+    EXPECT_EQ(Key(257), Looked(-1, 1));
+    EXPECT_EQ(Key(256), Looked(-1, 256)) << "only above 256 is it taken off";
+    EXPECT_EQ(Key(VK_F13), Looked(-1, VK_F13)) << "on this keyboard, '|' and its kin type nothing";
+    EXPECT_EQ(Key(36), Looked(0x100 + '4', 36)) << "just before the arrows";
 }
 
 TEST_F(Hotkeys, ANewUserFindsElevenKeysAndSevenMouseCombinations) {
@@ -102,5 +95,3 @@ TEST_F(Hotkeys, EachKindOfBindingIsClearedOnItsOwn) {
     ClearAllActionKeys(MainWnd);
     EXPECT_TRUE(Desk.hotkeys.empty());
 }
-
-} // namespace

@@ -1,12 +1,9 @@
 #include "actions/navigation.h"
 
-#include "core/state.h"
 #include "scroll/window_table.h"
 #include "support/quorl_test.h"
 
-namespace {
-
-class Navigation : public QuorlTest {};
+class Navigation : public RunningQuorl {};
 
 TEST_F(Navigation, TheNeighbourIsActivatedAndTheViewStays) {
     const HWND left = OpenWindow("left", {0, 100, 200, 300});
@@ -23,7 +20,7 @@ TEST_F(Navigation, TheNeighbourIsActivatedAndTheViewStays) {
         {120, middle, 1},
         {119, middle, 2},
     };
-    Start();
+    RebuildWindowTable();
     for (const auto& [row, reached, beeps] : cases) {
         Desk.foreground = middle;
         Command(row);
@@ -35,8 +32,7 @@ TEST_F(Navigation, TheNeighbourIsActivatedAndTheViewStays) {
 
 TEST_F(Navigation, WithoutAnActiveWindowTheOneUnderTheCursorCounts) {
     const HWND under = OpenWindow("under", {400, 300, 600, 500});
-    const HWND beside = OpenWindow("beside", {700, 300, 800, 500});
-    Start();
+    const HWND beside = OpenKnown("beside", {700, 300, 800, 500});
     Desk.cursor = {500, 400};
     Command(117);
     EXPECT_EQ(Desk.foreground, beside);
@@ -51,8 +47,7 @@ TEST_F(Navigation, CyclingTakesWindowsThatLieWhollyInView) {
     const HWND bottom = OpenWindow("bottom", {0, 0, 100, 100});
     const HWND second = OpenWindow("second", {924, 668, 1024, 768});
     OpenWindow("partly", {1000, 0, 1100, 100});
-    OpenWindow("top", {200, 200, 300, 300});
-    Start();
+    OpenKnown("top", {200, 200, 300, 300});
     Command(24);
     EXPECT_EQ(Desk.foreground, second);
     Command(25);
@@ -89,9 +84,7 @@ TEST_F(Navigation, TilingHandsOverWhatSharesAPixelWithTheScreen) {
     const HWND partly = OpenWindow("partly", {1000, 700, 1200, 900});
     const HWND hidden = OpenWindow("hidden", {0, 0, 10, 10});
     ShowWindow(hidden, SW_HIDE);
-    OpenWindow("beside", {1024, 0, 1100, 100});
-    Start();
-    RebuildWindowTable();
+    OpenKnown("beside", {1024, 0, 1100, 100});
     Command(80);
     Command(81);
     ASSERT_EQ(Desk.tilings.size(), 2u);
@@ -100,5 +93,3 @@ TEST_F(Navigation, TilingHandsOverWhatSharesAPixelWithTheScreen) {
     EXPECT_EQ(Desk.tilings[0].rect, Rect(0, 0, 1024, 768));
     EXPECT_EQ(Desk.tilings[0].windows, (std::vector<HWND>{MainWnd, hidden, partly}));
 }
-
-} // namespace

@@ -1,9 +1,6 @@
 #include "actions/program_rows.h"
 
-#include "core/state.h"
 #include "support/quorl_test.h"
-
-namespace {
 
 class ProgramRows : public RunningQuorl {};
 
@@ -20,20 +17,15 @@ TEST_F(ProgramRows, TogglesFlipTheirValueAndDoNothingElse) {
 }
 
 TEST_F(ProgramRows, TheBorderIsHeldFromOneToTen) {
-    const struct {
-        ActionId row;
-        int border, after;
-    } cases[] = {
-        {68, 9,  10},
-        {68, 50, 10},
-        {69, 1,  1 },
-        {69, 50, 49},
-    };
-    for (const auto& [row, border, after] : cases) {
+    const auto after = [](ActionId row, int border) {
         Options.border = border;
         EXPECT_EQ(DoAction(MainWnd, row, nullptr), 1);
-        EXPECT_EQ(Options.border, after) << "row " << row << " at " << border;
-    }
+        return Options.border;
+    };
+    EXPECT_EQ(after(68, 9), 10);
+    EXPECT_EQ(after(68, 50), 10);
+    EXPECT_EQ(after(69, 1), 1);
+    EXPECT_EQ(after(69, 50), 49);
 }
 
 TEST_F(ProgramRows, TheSystemIsAskedToLockTheStationWhereItCanAndForTheScreenSaver) {
@@ -47,5 +39,3 @@ TEST_F(ProgramRows, TheSystemIsAskedToLockTheStationWhereItCanAndForTheScreenSav
     EXPECT_EQ(Desk.broadcasts[0].message, WM_SYSCOMMAND);
     EXPECT_EQ(Desk.broadcasts[0].wParam, SC_SCREENSAVE);
 }
-
-} // namespace

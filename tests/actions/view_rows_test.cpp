@@ -1,9 +1,6 @@
 #include "actions/view_rows.h"
 
-#include "core/state.h"
 #include "support/quorl_test.h"
-
-namespace {
 
 class ViewRows : public RunningQuorl {};
 
@@ -14,43 +11,36 @@ TEST_F(ViewRows, TheViewAndTheToolwinGoByTheSameEightSteps) {
         const POINT way = row < 9 ? POINT{step, 0} : POINT{0, step};
         VDesk = {1000, 300, 2024, 1068};
         Command(row);
-        EXPECT_EQ(VDesk, Rect(1000 + way.x, 300 + way.y, 2024 + way.x, 1068 + way.y)) << "row " << row;
+        EXPECT_EQ(VDesk, Moved({1000, 300, 2024, 1068}, way.x, way.y)) << "row " << row;
         RowOf(MainWnd).place = {400, 300, 600, 400};
         Command(row + 8);
-        EXPECT_EQ(PlaceOf(MainWnd), Rect(400 + way.x, 300 + way.y, 600 + way.x, 400 + way.y))
-            << "row " << row + 8;
+        EXPECT_EQ(PlaceOf(MainWnd), Moved({400, 300, 600, 400}, way.x, way.y)) << "row " << row + 8;
     }
 }
 
 TEST_F(ViewRows, EachRowTakesTheViewToItsScreenFromWhereverItStands) {
-    const struct {
-        ActionId row;
-        POINT from, to;
-    } cases[] = {
-        {26, {2047, 10},   {3071, 10}  },
-        {26, {3072, 0},    {0, 768}    },
-        {26, {3072, 2304}, {0, 0}      },
-        {27, {1024, 5},    {0, 5}      },
-        {27, {1023, 768},  {3072, 0}   },
-        {27, {1, 0},       {3072, 2304}},
-        {28, {1947, 7},    {0, 7}      },
-        {28, {1948, 7},    {1024, 7}   }, // near enough to the screen at 2048
-        {29, {7, 1436},    {7, 768}    },
-        {30, {924, 7},     {2048, 7}   },
-        {31, {7, 668},     {7, 1536}   },
-        {32, {300, 400},   {300, 0}    },
-        {33, {300, 400},   {300, 2304} },
-        {34, {300, 400},   {0, 400}    },
-        {35, {300, 400},   {3072, 0}   },
-        {1,  {300, 400},   {0, 0}      }, // no point stands for the map's corner
+    const auto goneTo = [](ActionId row, int left, int top) {
+        VDesk = Moved({0, 0, 1024, 768}, left, top);
+        EXPECT_EQ(DoAction(MainWnd, row, nullptr), 1);
+        return ViewCorner();
     };
     Quorl.bottom = 4 * 768;
-    for (const auto& [row, from, to] : cases) {
-        VDesk = {from.x, from.y, from.x + 1024, from.y + 768};
-        EXPECT_EQ(DoAction(MainWnd, row, nullptr), 1) << "row " << row;
-        EXPECT_EQ(VDesk, Rect(to.x, to.y, to.x + 1024, to.y + 768))
-            << "row " << row << " from " << testing::PrintToString(from);
-    }
+    EXPECT_EQ(goneTo(26, 2047, 10), (POINT{3071, 10}));
+    EXPECT_EQ(goneTo(26, 3072, 0), (POINT{0, 768}));
+    EXPECT_EQ(goneTo(26, 3072, 2304), (POINT{0, 0}));
+    EXPECT_EQ(goneTo(27, 1024, 5), (POINT{0, 5}));
+    EXPECT_EQ(goneTo(27, 1023, 768), (POINT{3072, 0}));
+    EXPECT_EQ(goneTo(27, 1, 0), (POINT{3072, 2304}));
+    EXPECT_EQ(goneTo(28, 1947, 7), (POINT{0, 7}));
+    EXPECT_EQ(goneTo(28, 1948, 7), (POINT{1024, 7})) << "near enough to the screen at 2048";
+    EXPECT_EQ(goneTo(29, 7, 1436), (POINT{7, 768}));
+    EXPECT_EQ(goneTo(30, 924, 7), (POINT{2048, 7}));
+    EXPECT_EQ(goneTo(31, 7, 668), (POINT{7, 1536}));
+    EXPECT_EQ(goneTo(32, 300, 400), (POINT{300, 0}));
+    EXPECT_EQ(goneTo(33, 300, 400), (POINT{300, 2304}));
+    EXPECT_EQ(goneTo(34, 300, 400), (POINT{0, 400}));
+    EXPECT_EQ(goneTo(35, 300, 400), (POINT{3072, 0}));
+    EXPECT_EQ(goneTo(1, 300, 400), (POINT{0, 0})) << "no point stands for the map's corner";
 }
 
 TEST_F(ViewRows, APointOnTheMapIsACornerAMiddleOrACell) {
@@ -67,12 +57,10 @@ TEST_F(ViewRows, APointOnTheMapIsACornerAMiddleOrACell) {
     for (const auto& [row, corner] : cases) {
         ActionPoint point{map.right / 2, map.bottom / 2}; // the desktop's middle
         DoAction(MainWnd, row, &point);
-        EXPECT_EQ((POINT{VDesk.left, VDesk.top}), corner) << "row " << row;
+        EXPECT_EQ(ViewCorner(), corner) << "row " << row;
         EXPECT_EQ((POINT{point.x, point.y}), (POINT{2048, 768})) << "the point is overwritten";
     }
     ActionPoint point{map.right / 2 - 1, map.bottom / 2 - 1};
     DoAction(MainWnd, 4, &point);
-    EXPECT_EQ((POINT{VDesk.left, VDesk.top}), (POINT{1024, 0}));
+    EXPECT_EQ(ViewCorner(), (POINT{1024, 0}));
 }
-
-} // namespace

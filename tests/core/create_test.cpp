@@ -1,12 +1,8 @@
 #include "core/create.h"
 
-#include "actions/action_table.h"
 #include "core/coordinates.h"
-#include "core/state.h"
 #include "scroll/locked_windows.h"
 #include "support/quorl_test.h"
-
-namespace {
 
 class Creation : public QuorlTest {};
 
@@ -38,5 +34,3 @@ TEST_F(Creation, FillsInTheDefaultsWhateverWasThere) {
     EXPECT_EQ(TipWnd, nullptr);
     EXPECT_EQ(LockedWindows[0], nullptr);
 }
-
-} // namespace

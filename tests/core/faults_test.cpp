@@ -1,5 +1,4 @@
 #include "core/main.h"
-#include "core/state.h"
 #include "support/faults.h"
 #include "support/quorl_test.h"
 

@@ -1,11 +1,7 @@
 #include "core/main.h"
 
-#include "actions/action_table.h"
 #include "core/main_window.h"
-#include "core/state.h"
 #include "support/quorl_test.h"
-
-namespace {
 
 class Life : public QuorlTest {};
 
@@ -31,8 +27,7 @@ TEST_F(Life, WithoutAWindowThereIsNoLife) {
     Desk.fault = {"CreateWindowExA", 1, 0, 8, 0};
     WillAnswer({IDOK});
     EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
-    ASSERT_EQ(Desk.boxes.size(), 1U);
-    EXPECT_EQ(Desk.boxes[0].text + "/" + Desk.boxes[0].caption, "Can't start app./Alas!");
+    EXPECT_EQ(LastBox(), "Can't start app./Alas!");
     EXPECT_EQ(CallsOf("GetMessageA"), 0);
 }
 
@@ -103,5 +98,3 @@ TEST_F(Life, ACrashFoldsTheWindowsBackOnceAndAsksNothing) {
     EXPECT_EQ(verdicts, std::vector<LONG>(2, EXCEPTION_CONTINUE_SEARCH)) << "the system reports the crash";
     EXPECT_EQ(CallsOf("SendMessageTimeoutA"), 1) << "a crash inside of that does not start it again";
 }
-
-} // namespace

@@ -1,6 +1,5 @@
 #include "core/main_window.h"
 
-#include "core/state.h"
 #include "support/quorl_test.h"
 
 namespace {
@@ -17,7 +16,7 @@ TEST_F(MainWindow, EveryEndAsksTheSameQuestionAndDestroysNothing) {
         WillAnswer({IDNO});
         EXPECT_EQ(Send(message), 0) << message;
         EXPECT_EQ(CallsOf("MessageBoxA"), static_cast<int>(Desk.trace.size())) << message;
-        EXPECT_EQ(Desk.boxes.back().text + "/" + Desk.boxes.back().caption, "QUIT?/QUIT?");
+        EXPECT_EQ(LastBox(), "QUIT?/QUIT?");
         EXPECT_EQ(Desk.boxes.back().type, MB_YESNO);
     }
 }

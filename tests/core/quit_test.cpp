@@ -1,19 +1,14 @@
 #include "core/quit.h"
 
-#include "actions/action_table.h"
 #include "core/main.h"
-#include "core/state.h"
 #include "support/quorl_test.h"
 
-namespace {
-
-class Quitting : public QuorlTest {
+class Quitting : public RunningQuorl {
   protected:
     HWND far = OpenWindow("far", {1100, 200, 1300, 300});
 };
 
 TEST_F(Quitting, NewsThatWaitsInTheQueueMovesNoWindowThatWasFoldedBack) {
-    Start();
     WillAnswer({IDYES});
     PostMessageA(MainWnd, WM_CLOSE, 0, 0);
     Desk.foreground = far;
@@ -24,7 +19,7 @@ TEST_F(Quitting, NewsThatWaitsInTheQueueMovesNoWindowThatWasFoldedBack) {
 }
 
 // The box over a refused combination lets the user close Quorl before it has read its settings.
-TEST_F(Quitting, DuringTheStartSavesNothingAndLeavesNoIcon) {
+TEST_F(QuorlTest, ThatIsQuitDuringItsStartSavesNothingAndLeavesNoIcon) {
     Desk.fault = {"RegisterHotKey", 1, 0, ERROR_HOTKEY_ALREADY_REGISTERED, 0};
     Desk.inBox = [] {
         Desk.inBox = nullptr;
@@ -39,7 +34,6 @@ TEST_F(Quitting, DuringTheStartSavesNothingAndLeavesNoIcon) {
 }
 
 TEST_F(Quitting, ASecondYesSavesNothingOverWhatWasSaved) {
-    Start();
     WillAnswer({IDYES, IDYES});
     ConfirmQuit(MainWnd);
     const auto saved = Desk.files;
@@ -60,7 +54,6 @@ TEST_F(Quitting, TheEndOfTheSessionSavesIfThatIsWantedAndFoldsIfOthersStay) {
         {1, 1, 0,                   true,  1100},
         {0, 1, ENDSESSION_CLOSEAPP, false, 76  },
     };
-    Start();
     for (const auto& [bSave, bEnds, why, bSaved, left] : cases) {
         Desk.files.clear();
         ActionTable[ROW_SAVE_SETTINGS].value = bSave;
@@ -69,5 +62,3 @@ TEST_F(Quitting, TheEndOfTheSessionSavesIfThatIsWantedAndFoldsIfOthersStay) {
         EXPECT_EQ(PlaceOf(far).left, left);
     }
 }
-
-} // namespace

@@ -1,14 +1,12 @@
 // A day with Quorl, made of bytes.
 #include "lives/life.h"
 
-#include "actions/action_table.h"
+#include "actions/dispatch.h"
 #include "core/main.h"
 #include "core/quit.h"
-#include "core/state.h"
 #include "dialogs/registry.h"
 #include "menus/menu_list.h"
 #include "mouse/hook_mouse.h"
-#include "actions/dispatch.h"
 #include "regions/region_table.h"
 #include "scroll/scroll_view.h"
 #include "scroll/window_table.h"
@@ -34,11 +32,6 @@ struct Day {
         return items[static_cast<std::size_t>(Byte()) % COUNT];
     }
     bool IsOver() const { return next >= end; }
-};
-
-struct Act {
-    const char* name;
-    void (*does)(Day& day);
 };
 
 constexpr int QUIT_ROW = 59;
@@ -159,18 +152,12 @@ void GoToOther(Day& day) {
 }
 
 void ChangeDisplays(Day& day) {
-    static const SIZE sizes[] = {
-        {1024, 768 },
-        {640,  480 },
-        {1920, 1080},
-        {3840, 2160}
-    };
-    const SIZE size = day.OneOf(sizes);
-    Desk.monitors = {
-        {0, 0, size.cx, size.cy}
-    };
+    static const RECT screens[] = {Rect(0, 0, 1024, 768), Rect(0, 0, 640, 480), Rect(0, 0, 1920, 1080),
+                                   Rect(0, 0, 3840, 2160)};
+    const RECT screen = day.OneOf(screens);
+    Desk.monitors.assign(1, screen);
     if (day.Byte() % 4 == 0)
-        Desk.monitors.push_back({size.cx, 0, size.cx + 800, 600});
+        Desk.monitors.push_back({screen.right, 0, screen.right + 800, 600});
     SendMessageA(MainWnd, WM_SETTINGCHANGE, 0, 0);
 }
 
@@ -223,7 +210,10 @@ void PressAKey(Day& day) {
     Settle();
 }
 
-const Act Acts[] = {
+const struct Act {
+    const char* name;
+    void (*does)(Day& day);
+} Acts[] = {
     {"row",      RunRow        },
     {"row",      RunRow        },
     {"row",      RunRow        },
@@ -259,13 +249,8 @@ void ExpectTablesWhole() {
 }
 
 void ExpectScrollsStayInside() {
-    for (const POINT& corner : {
-             POINT{-5000, -5000},
-             POINT{60000, 60000},
-             POINT{700,   300  },
-             POINT{0,     0    }
-    }) {
-        ScrollView(MainWnd, corner.x, corner.y, SV_ABSOLUTE, 0);
+    for (const int corner : {-5000, 60000, 300, 0}) {
+        ScrollView(MainWnd, corner, corner, SV_ABSOLUTE, 0);
         EXPECT_TRUE(VDesk.left >= 0 && VDesk.top >= 0 && VDesk.right <= Quorl.right &&
                     VDesk.bottom <= Quorl.bottom)
             << testing::PrintToString(VDesk) << " on " << testing::PrintToString(Quorl);
@@ -286,17 +271,11 @@ bool Answers(const DeskWindow& window) {
     return window.handle && window.answer == DeskAnswer::Answers && !window.bRewrites && !window.diesAtCall;
 }
 
-// What can be brought back: FoldWindows walks those that are managed when the user says Yes.
-std::vector<HWND> ThoseToComeBack() {
-    std::vector<HWND> windows;
+void ExpectAllGivenBack() {
+    std::vector<HWND> windows; // FoldWindows walks those that are managed when the user says Yes
     for (const HWND window : Others)
         if (Answers(RowOf(window)) && IsManagedWindow(window))
             windows.push_back(window);
-    return windows;
-}
-
-void ExpectAllGivenBack() {
-    const std::vector<HWND> windows = ThoseToComeBack();
     AnswerAll(IDYES);
     Command(QUIT_ROW);
     EXPECT_TRUE(IsQuitting());

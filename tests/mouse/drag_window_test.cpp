@@ -1,15 +1,14 @@
 #include "mouse/drag_window.h"
 
-#include "core/state.h"
 #include "support/map_mouse.h"
 
-namespace {
-
-class DragOnMap : public QuorlTest {
+// A map of 256 by 96: a pixel on it is 16 on the desktop.
+class DragOnMap : public RunningQuorl {
   protected:
-    // A map of 256 by 96: a pixel on it is 16 on the desktop.
-    static void StartWithMap() {
-        Start();
+    HWND editor = OpenWindow("editor", {160, 160, 480, 320});
+
+    void SetUp() override {
+        RunningQuorl::SetUp();
         ResizeMap(256, 96);
     }
 
@@ -25,8 +24,6 @@ class DragOnMap : public QuorlTest {
 };
 
 TEST_F(DragOnMap, TheWindowUnderTheCursorGetsTheFocusAndThenMovesAtTheMapsScale) {
-    const HWND editor = OpenWindow("editor", {160, 160, 480, 320});
-    StartWithMap();
     Grab(15, 15);
     EXPECT_EQ(PlaceOf(editor), Rect(160, 160, 480, 320)) << "the first step only takes hold of it";
     EXPECT_EQ(Desk.foreground, editor);
@@ -38,47 +35,40 @@ TEST_F(DragOnMap, TheWindowUnderTheCursorGetsTheFocusAndThenMovesAtTheMapsScale)
 }
 
 TEST_F(DragOnMap, AHungWindowStaysWhereItIsAndInTheBackground) {
-    const HWND hung = OpenWindow("hung", {160, 160, 480, 320});
-    RowOf(hung).answer = DeskAnswer::Hung;
-    StartWithMap();
+    RowOf(editor).answer = DeskAnswer::Hung;
     const HWND before = Desk.foreground;
     Grab(15, 15);
     MoveOnMap(18, 14);
-    EXPECT_EQ(PlaceOf(hung).left, 160);
+    EXPECT_EQ(PlaceOf(editor).left, 160);
     EXPECT_EQ(Desk.foreground, before);
 }
 
 TEST_F(DragOnMap, AWindowIsNotDraggedToWhereNothingManagesIt) {
-    const HWND editor = OpenWindow("editor", {3800, 1400, 4400, 1800});
-    StartWithMap();
+    RowOf(editor).place = {3800, 1400, 4400, 1800};
     Grab(240, 90);
     MoveOnMap(270, 110); // outside the map
     EXPECT_EQ(PlaceOf(editor), Rect(4096, 1536, 4696, 1936));
 }
 
 TEST_F(DragOnMap, EndsOffTheBoxAndOverAnotherWindowAndTheNextStepTakesHoldAnew) {
-    const HWND first = OpenWindow("first", {160, 160, 480, 320});
-    const HWND second = OpenWindow("second", {1600, 160, 1920, 320});
-    StartWithMap();
+    const HWND second = OpenKnown("second", {1600, 160, 1920, 320});
     Grab(15, 15);
     MoveOnMap(200, 80); // nothing is there
     MoveOnMap(20, 12);
-    EXPECT_EQ(PlaceOf(first).left, 160);
+    EXPECT_EQ(PlaceOf(editor).left, 160);
     MoveOnMap(21, 12);
-    EXPECT_EQ(PlaceOf(first).left, 176);
+    EXPECT_EQ(PlaceOf(editor).left, 176);
 
     MoveOnMap(110, 15);
-    EXPECT_EQ(Desk.foreground, first);
+    EXPECT_EQ(Desk.foreground, editor);
     MoveOnMap(111, 15);
     EXPECT_EQ(Desk.foreground, second);
     MoveOnMap(112, 15);
-    EXPECT_EQ(PlaceOf(first).left, 176);
+    EXPECT_EQ(PlaceOf(editor).left, 176);
     EXPECT_EQ(PlaceOf(second).left, 1616);
 }
 
 TEST_F(DragOnMap, LettingTheButtonGoDoesNotEndADragSoTheNextOneJumpsToTheCursor) {
-    const HWND editor = OpenWindow("editor", {160, 160, 480, 320});
-    StartWithMap();
     Grab(11, 11);
     ReleaseOnMap(VK_LBUTTON);
     MoveOnMap(20, 12); // no button: no step
@@ -89,26 +79,19 @@ TEST_F(DragOnMap, LettingTheButtonGoDoesNotEndADragSoTheNextOneJumpsToTheCursor)
 }
 
 TEST_F(DragOnMap, EdgesCountAsInsideAndSignsDoNot) {
-    const struct {
-        RECT window;
-        int x, y, bInside;
-    } cases[] = {
-        {{10, 10, 20, 20},       10,        20,  1},
-        {{10, 10, 20, 20},       9,         15,  0},
-        {{10, 10, 20, 20},       -15,       -15, 1},
-        {{-100, -100, 20, 20},   0,         20,  1}, // cut off at the desktop's edge
-        {{-100, -100, -20, -20}, 15,        15,  1}, // off the desktop, and yet
-        {{0, 0, 20, 20},         INT32_MIN, 0,   0}, // has no absolute value
-    };
-    for (const auto& [window, x, y, bInside] : cases)
-        EXPECT_EQ(HoldsDesktopPoint(window, x, y), bInside) << testing::PrintToString(window) << ' ' << x;
+    EXPECT_TRUE(HoldsDesktopPoint({10, 10, 20, 20}, 10, 20));
+    EXPECT_FALSE(HoldsDesktopPoint({10, 10, 20, 20}, 9, 15));
+    EXPECT_TRUE(HoldsDesktopPoint({10, 10, 20, 20}, -15, -15));
+    EXPECT_TRUE(HoldsDesktopPoint({-100, -100, 20, 20}, 0, 20)) << "cut off at the desktop's edge";
+    EXPECT_TRUE(HoldsDesktopPoint({-100, -100, -20, -20}, 15, 15)) << "off the desktop, and yet";
+    EXPECT_FALSE(HoldsDesktopPoint({0, 0, 20, 20}, INT32_MIN, 0)) << "has no absolute value";
 }
 
 TEST_F(DragOnMap, TheTopmostManagedWindowIsFoundWhereItStandsNow) {
     const HWND below = OpenWindow("below", {100, 100, 500, 500});
     const HWND above = OpenWindow("above", {100, 100, 500, 500});
-    EnableWindow(OpenWindow("disabled", {100, 100, 500, 500}), FALSE);
-    Start();
+    EnableWindow(OpenKnown("disabled", {100, 100, 500, 500}), FALSE);
+    KillWindow(editor);
     Command(6); // the view goes right by 100
     EXPECT_EQ(WindowAtDesktopPoint(300, 300), above);
     MoveWindow(above, 600, 100, 400, 400, TRUE); // after the snapshot
@@ -117,5 +100,3 @@ TEST_F(DragOnMap, TheTopmostManagedWindowIsFoundWhereItStandsNow) {
     KillWindow(below);
     EXPECT_EQ(WindowAtDesktopPoint(300, 300), nullptr);
 }
-
-} // namespace

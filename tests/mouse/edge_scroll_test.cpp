@@ -1,10 +1,7 @@
 #include "mouse/edge_scroll.h"
 
 #include "core/directions.h"
-#include "core/state.h"
 #include "support/quorl_test.h"
-
-namespace {
 
 TEST(EdgeDecision, TheFirstEdgeDecidesAndTheCursorLandsInsideTheOppositeOne) {
     const struct {
@@ -40,20 +37,14 @@ TEST(EdgeDecision, TheFirstEdgeDecidesAndTheCursorLandsInsideTheOppositeOne) {
 }
 
 TEST(EdgeDecision, TheTimersTestReachesOnePixelFurther) {
-    const struct {
-        int dir;
-        POINT last, first; // the last point at the edge, the first that is not
-    } cases[] = {
-        {DIR_RIGHT, {1019, 300}, {1018, 300}},
-        {DIR_LEFT,  {5, 300},    {6, 300}   },
-        {DIR_DOWN,  {500, 763},  {500, 762} },
-        {DIR_UP,    {500, 5},    {500, 6}   },
-    };
-    for (const auto& [dir, last, first] : cases) {
-        EXPECT_TRUE(IsStillAtEdge(last, dir, 5, 1024, 768)) << dir;
-        EXPECT_FALSE(IsStillAtEdge(first, dir, 5, 1024, 768)) << dir;
-    }
-    EXPECT_FALSE(IsStillAtEdge({0, 0}, DIR_NONE, 5, 1024, 768));
+    const auto isStill = [](int dir, int x, int y) { return IsStillAtEdge({x, y}, dir, 5, 1024, 768); };
+    EXPECT_TRUE(isStill(DIR_RIGHT, 1019, 300));
+    EXPECT_FALSE(isStill(DIR_RIGHT, 1018, 300));
+    EXPECT_TRUE(isStill(DIR_LEFT, 5, 300));
+    EXPECT_FALSE(isStill(DIR_LEFT, 6, 300));
+    EXPECT_TRUE(isStill(DIR_DOWN, 500, 763));
+    EXPECT_FALSE(isStill(DIR_DOWN, 500, 762));
+    EXPECT_TRUE(isStill(DIR_UP, 500, 5));
+    EXPECT_FALSE(isStill(DIR_UP, 500, 6));
+    EXPECT_FALSE(isStill(DIR_NONE, 0, 0));
 }
-
-} // namespace

@@ -1,7 +1,5 @@
 #include "mouse/hook_mouse.h"
 
-#include "actions/action_table.h"
-#include "core/state.h"
 #include "mouse/edge_scroll.h"
 #include "scroll/scroll_view.h"
 #include "support/quorl_test.h"
@@ -21,7 +19,6 @@ class MouseNews : public RunningQuorl {
   protected:
     void SetUp() override {
         RunningQuorl::SetUp();
-        Settle();
         ActionTable[ROW_FOLLOW_MOUSE].value = 1;
         ActionTable[ROW_SHIFT_SUPPRESS].value = 0;
         News(WM_MOUSEMOVE, MIDDLE);
@@ -31,6 +28,12 @@ class MouseNews : public RunningQuorl {
     static void GoBack() {
         ScrollView(MainWnd, 1024, 384, SV_ABSOLUTE, 0);
         Desk.trace.clear();
+    }
+
+    static bool Scrolls(UINT message) {
+        GoBack();
+        News(message, RIGHT_EDGE);
+        return VDesk.left == 2048;
     }
 };
 
@@ -44,52 +47,40 @@ TEST_F(RunningQuorl, IsOnlyArmedByTheFirstNewsOfTheMouseEvenAtAnEdge) {
 }
 
 TEST_F(MouseNews, TheDelaySaysWhatScrolls) {
-    const struct {
-        int delay;
-        UINT message;
-        LRESULT result;
-        int left;
-    } cases[] = {
-        {0, WM_NCMOUSEMOVE,   0, 2048},
-        {0, WM_NCLBUTTONDOWN, 1, 2048},
-        {7, WM_MOUSEMOVE,     0, 2048},
-        {1, WM_MOUSEMOVE,     0, 1024},
-        {1, WM_RBUTTONDOWN,   1, 1024},
-        {1, WM_LBUTTONDOWN,   1, 2048},
-        {2, WM_LBUTTONDOWN,   1, 1024},
-        {2, WM_RBUTTONDOWN,   1, 2048},
-        {2, WM_NCRBUTTONDOWN, 1, 2048},
-        {3, WM_MOUSEMOVE,     0, 1024},
-        {0, WM_LBUTTONUP,     0, 1024},
-        {0, WM_MBUTTONDOWN,   0, 1024},
-    };
-    for (const auto& [delay, message, result, left] : cases) {
-        GoBack();
+    for (const int delay : {0, 7}) {
         Options.mousescroll_delay = delay;
-        EXPECT_EQ(News(message, RIGHT_EDGE), result) << delay << ' ' << message;
-        EXPECT_EQ(VDesk.left, left) << delay << ' ' << message;
+        for (const UINT message : {WM_MOUSEMOVE, WM_NCMOUSEMOVE, WM_LBUTTONDOWN, WM_NCLBUTTONDOWN})
+            EXPECT_TRUE(Scrolls(message)) << message;
+        for (const UINT message : {WM_LBUTTONUP, WM_MBUTTONDOWN})
+            EXPECT_FALSE(Scrolls(message)) << message;
     }
+    Options.mousescroll_delay = 1;
+    EXPECT_FALSE(Scrolls(WM_MOUSEMOVE));
+    EXPECT_TRUE(Scrolls(WM_LBUTTONDOWN));
+    EXPECT_FALSE(Scrolls(WM_RBUTTONDOWN));
+    EXPECT_EQ(News(WM_RBUTTONDOWN, RIGHT_EDGE), 1) << "the edge takes the click all the same";
+    EXPECT_EQ(News(WM_MOUSEMOVE, RIGHT_EDGE), 0) << "but never a move";
+    Options.mousescroll_delay = 2;
+    EXPECT_FALSE(Scrolls(WM_LBUTTONDOWN));
+    EXPECT_TRUE(Scrolls(WM_RBUTTONDOWN));
+    EXPECT_TRUE(Scrolls(WM_NCRBUTTONDOWN));
+    Options.mousescroll_delay = 3;
+    EXPECT_FALSE(Scrolls(WM_MOUSEMOVE));
 }
 
 TEST_F(MouseNews, TheShiftKeysHoldTheCursorBackByTheirStateOfTheMoment) {
-    const struct {
-        int bRule, bLeft, bRight, bJumps;
-    } cases[] = {
-        {0, 0, 1, 1},
-        {1, 0, 0, 0},
-        {1, 1, 0, 1},
-        {1, 0, 1, 0},
-        {1, 1, 1, 0},
-    };
-    for (const auto& [bRule, bLeft, bRight, bJumps] : cases) {
-        GoBack();
-        ActionTable[ROW_SHIFT_SUPPRESS].value = bRule;
+    const auto jumps = [](int bLeft, int bRight) {
         HoldKey(VK_LSHIFT, bLeft);
         HoldKey(VK_RSHIFT, bRight);
-        News(WM_MOUSEMOVE, RIGHT_EDGE);
-        EXPECT_EQ(VDesk.left, 2048);
-        EXPECT_EQ(Desk.cursor.x, bJumps ? 15 : 1022) << bRule << ' ' << bLeft << ' ' << bRight;
-    }
+        EXPECT_TRUE(Scrolls(WM_MOUSEMOVE));
+        return Desk.cursor.x == 15;
+    };
+    EXPECT_TRUE(jumps(0, 1));
+    ActionTable[ROW_SHIFT_SUPPRESS].value = 1;
+    EXPECT_FALSE(jumps(0, 0));
+    EXPECT_TRUE(jumps(1, 0));
+    EXPECT_FALSE(jumps(0, 1));
+    EXPECT_FALSE(jumps(1, 1));
 }
 
 TEST_F(MouseNews, AtTheDesktopsLimitTheCursorStaysAndTheMapIsPaintedAllTheSame) {
@@ -110,37 +101,25 @@ LRESULT CALLBACK TalkativeWndProc(HWND window, UINT message, WPARAM wParam, LPAR
 }
 
 TEST_F(MouseNews, NewsThatComesInsideAScrollIsDropped) {
-    WNDCLASSA description{};
-    description.lpfnWndProc = TalkativeWndProc;
-    description.lpszClassName = "Talkative";
-    RegisterClassA(&description);
-    CreateWindowExA(0, "Talkative", "", WS_VISIBLE, 10, 10, 90, 90, nullptr, nullptr, nullptr, nullptr);
-    Wait(1200); // the table takes it in
+    RowOf(OpenKnown("talkative", {10, 10, 100, 100})).procedure = TalkativeWndProc;
     EXPECT_EQ(News(WM_LBUTTONDOWN, RIGHT_EDGE), 1);
     EXPECT_EQ(NestedResult, 0);
     EXPECT_EQ(VDesk.left, 2048) << "one scroll";
 }
 
 TEST_F(MouseNews, HeldButtonsSuppressMovesOnlyAndOnlyWhenTheUserWishes) {
-    const struct {
-        int bRule, button;
-        UINT message;
-        int left;
-    } cases[] = {
-        {1, VK_LBUTTON, WM_MOUSEMOVE,   1024},
-        {1, VK_RBUTTON, WM_MOUSEMOVE,   1024},
-        {1, VK_MBUTTON, WM_MOUSEMOVE,   2048},
-        {1, VK_LBUTTON, WM_LBUTTONDOWN, 2048},
-        {0, VK_LBUTTON, WM_MOUSEMOVE,   2048},
-    };
-    for (const auto& [bRule, button, message, left] : cases) {
-        GoBack();
-        ActionTable[ROW_SUPPRESS_WHEN_DRAGGING].value = bRule;
+    const auto scrollsWith = [](int button, UINT message) {
         HoldKey(button, 1);
-        News(message, RIGHT_EDGE);
-        EXPECT_EQ(VDesk.left, left) << bRule << ' ' << button << ' ' << message;
+        const bool bScrolls = Scrolls(message);
         HoldKey(button, 0);
-    }
+        return bScrolls;
+    };
+    EXPECT_TRUE(scrollsWith(VK_LBUTTON, WM_MOUSEMOVE));
+    ActionTable[ROW_SUPPRESS_WHEN_DRAGGING].value = 1;
+    EXPECT_FALSE(scrollsWith(VK_LBUTTON, WM_MOUSEMOVE));
+    EXPECT_FALSE(scrollsWith(VK_RBUTTON, WM_MOUSEMOVE));
+    EXPECT_TRUE(scrollsWith(VK_MBUTTON, WM_MOUSEMOVE));
+    EXPECT_TRUE(scrollsWith(VK_LBUTTON, WM_LBUTTONDOWN));
 }
 
 TEST_F(MouseNews, TheMapFollowsADragUnlessQuickRedrawIsOff) {

@@ -1,10 +1,7 @@
 #include "mouse/map_buttons.h"
 
 #include "actions/hotkeys.h"
-#include "core/state.h"
 #include "support/map_mouse.h"
-
-namespace {
 
 // A map of 400 by 150: a tenth of the desktop of 4096 by 1536, nearly.
 class MapButtons : public RunningQuorl {
@@ -17,41 +14,33 @@ class MapButtons : public RunningQuorl {
 };
 
 TEST_F(MapButtons, TheMiddleButtonBeatsTheRightOneAndThatTheLeftOne) {
-    const struct {
-        int flags, button, matched;
-    } cases[] = {
-        {0,                           0,       0      },
-        {0,                           1,       LBUTTON},
-        {0,                           2,       RBUTTON},
-        {0,                           4,       MBUTTON},
-        {0,                           MBUTTON, MBUTTON}, // the release of the middle button
-        {LBUTTON,                     RBUTTON, LBUTTON},
-        {LBUTTON | RBUTTON,           LBUTTON, RBUTTON},
-        {LBUTTON | RBUTTON | MBUTTON, 0,       MBUTTON},
-        {KEY_SHIFT | KEY_CTRL,        5,       5      },
-    };
-    for (const auto& [flags, button, matched] : cases)
-        EXPECT_EQ(MatchedButton(flags, button), matched) << flags << ' ' << button;
+    EXPECT_EQ(MatchedButton(0, 0), 0);
+    EXPECT_EQ(MatchedButton(0, 1), LBUTTON);
+    EXPECT_EQ(MatchedButton(0, 2), RBUTTON);
+    EXPECT_EQ(MatchedButton(0, 4), MBUTTON);
+    EXPECT_EQ(MatchedButton(0, MBUTTON), MBUTTON) << "the release of the middle button";
+    EXPECT_EQ(MatchedButton(LBUTTON, RBUTTON), LBUTTON);
+    EXPECT_EQ(MatchedButton(LBUTTON | RBUTTON, LBUTTON), RBUTTON);
+    EXPECT_EQ(MatchedButton(LBUTTON | RBUTTON | MBUTTON, 0), MBUTTON);
+    EXPECT_EQ(MatchedButton(KEY_SHIFT | KEY_CTRL, 5), 5);
 }
 
 TEST_F(MapButtons, EitherKeyOfAPairIsHeldAndTheMaskChoosesTheKind) {
-    const struct {
-        int key, flag;
-    } cases[] = {
-        {VK_LSHIFT,   KEY_SHIFT},
-        {VK_RSHIFT,   KEY_SHIFT},
-        {VK_RCONTROL, KEY_CTRL },
-        {VK_LMENU,    KEY_ALT  },
-        {VK_RMENU,    KEY_ALT  },
-        {VK_RBUTTON,  RBUTTON  },
-        {VK_MBUTTON,  MBUTTON  },
-    };
-    for (const auto& [key, flag] : cases) {
+    const auto held = [](int key, DWORD kind) {
         Desk.keysRead[key] = 1;
-        EXPECT_EQ(GetHeldFlags(flag < LBUTTON ? ACTION_KEY : ACTION_MOUSE), flag) << key;
-        EXPECT_EQ(GetHeldFlags(flag < LBUTTON ? ACTION_MOUSE : ACTION_KEY), 0) << key;
+        const int flags = GetHeldFlags(kind);
         Desk.keysRead[key] = 0;
-    }
+        return flags;
+    };
+    EXPECT_EQ(held(VK_LSHIFT, ACTION_KEY), KEY_SHIFT);
+    EXPECT_EQ(held(VK_RSHIFT, ACTION_KEY), KEY_SHIFT);
+    EXPECT_EQ(held(VK_RCONTROL, ACTION_KEY), KEY_CTRL);
+    EXPECT_EQ(held(VK_LMENU, ACTION_KEY), KEY_ALT);
+    EXPECT_EQ(held(VK_RMENU, ACTION_KEY), KEY_ALT);
+    EXPECT_EQ(held(VK_RBUTTON, ACTION_MOUSE), RBUTTON);
+    EXPECT_EQ(held(VK_MBUTTON, ACTION_MOUSE), MBUTTON);
+    EXPECT_EQ(held(VK_LMENU, ACTION_MOUSE), 0);
+    EXPECT_EQ(held(VK_RBUTTON, ACTION_KEY), 0);
 }
 
 TEST_F(MapButtons, AKeyLetGoSinceThePressStillCounts) {
@@ -130,5 +119,3 @@ TEST_F(MapButtons, APlaceOutsideTheMapHasItsSignAndIsNoRegionsNumber) {
     MoveOnMap(250, 80);
     EXPECT_EQ(VDesk.left, 2048) << "it is a drag";
 }
-
-} // namespace

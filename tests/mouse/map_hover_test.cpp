@@ -1,16 +1,14 @@
 #include "mouse/map_hover.h"
 
-#include "actions/action_table.h"
-#include "core/state.h"
 #include "support/map_mouse.h"
 
 namespace {
 
-class MapHover : public QuorlTest {
+// A map of 256 by 96 in a Toolwin at (100, 100): a pixel on it is 16 on the desktop.
+class MapHover : public RunningQuorl {
   protected:
-    // A map of 256 by 96 in a Toolwin at (100, 100): a pixel on it is 16 on the desktop.
-    static void StartWithMap() {
-        Start();
+    void SetUp() override {
+        RunningQuorl::SetUp();
         ResizeMap(256, 96);
     }
 };
@@ -23,34 +21,26 @@ void MoveBy(int dx, int dy) {
 
 TEST_F(MapHover, TheTipTellsTheWindowElseTheRegionElseThePlace) {
     OpenWindow("100%n %s%d full", {400, 0, 600, 320});
-    OpenWindow("0123456789012345678901234567890123456789", {700, 0, 1000, 320});
-    StartWithMap();
+    OpenKnown("0123456789012345678901234567890123456789", {700, 0, 1000, 320});
     Mark("50%s done, 32 characters of name", 0, 0);
-    const struct {
-        int x, y;
-        const char* tip;
-    } cases[] = {
-        {30,  10, "100%n %s%d full: [480, 160]"                          },
-        {50,  10, "0123456789012345678901234567890: [800, 160]"          }, // cut at 31
-        {50,  30, "Region 0: 50%s done, 32 characters of name [800, 480]"},
-        {200, 80, "Quorl: 3200, 1280"                                    },
-    };
-    for (const auto& [x, y, tip] : cases) {
+    const auto tipAt = [](int x, int y) {
         MoveOnMap(x, y);
-        EXPECT_EQ(LastTip(), tip);
-    }
+        return LastTip();
+    };
+    EXPECT_EQ(tipAt(30, 10), "100%n %s%d full: [480, 160]");
+    EXPECT_EQ(tipAt(50, 10), "0123456789012345678901234567890: [800, 160]") << "cut at 31";
+    EXPECT_EQ(tipAt(50, 30), "Region 0: 50%s done, 32 characters of name [800, 480]");
+    EXPECT_EQ(tipAt(200, 80), "Quorl: 3200, 1280");
     EXPECT_NE(TipWnd, nullptr);
 }
 
 TEST_F(MapHover, TheLeftButtonDragsTheToolwinAndItKeepsItsOffsetToTheCursor) {
-    StartWithMap();
     const RECT before = PlaceOf(MainWnd);
     MoveOnMap(40, 30);
     PressOnMap(VK_LBUTTON);
     for (int step = 0; step < 5; ++step)
         MoveBy(37, 21);
-    EXPECT_EQ(PlaceOf(MainWnd),
-              Rect(before.left + 185, before.top + 105, before.right + 185, before.bottom + 105));
+    EXPECT_EQ(PlaceOf(MainWnd), Moved(before, 185, 105));
     MoveBy(-184, -105);
     EXPECT_EQ(PlaceOf(MainWnd).left, before.left + 1);
 
@@ -61,7 +51,6 @@ TEST_F(MapHover, TheLeftButtonDragsTheToolwinAndItKeepsItsOffsetToTheCursor) {
 }
 
 TEST_F(MapHover, AKeyPressedInADragEndsItAndItsOwnBindingRuns) {
-    StartWithMap();
     MoveOnMap(200, 80);
     PressOnMap(VK_LBUTTON);
     MoveBy(10, 10);
@@ -73,7 +62,6 @@ TEST_F(MapHover, AKeyPressedInADragEndsItAndItsOwnBindingRuns) {
 }
 
 TEST_F(MapHover, ABoundCombinationRunsOnEachMoveAndTellsNoPlace) {
-    StartWithMap();
     MoveOnMap(100, 40);
     PressOnMap(VK_MBUTTON);
     for (const int x : {110, 120}) {

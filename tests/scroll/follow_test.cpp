@@ -1,47 +1,41 @@
 #include "scroll/follow.h"
 
 #include "actions/dispatch.h"
-#include "core/state.h"
 #include "scroll/locked_windows.h"
 #include "scroll/scroll_view.h"
 #include "support/quorl_test.h"
 
-namespace {
-
-TEST(FollowDecision, AWindowOutOfViewAsksForAScroll) {
-    const struct {
-        RECT place;
-        FollowNeed need;
-    } cases[] = {
-        {{-4, -4, 501, 400},       FOLLOW_IN_VIEW}, // just inside the slack
-        {{-5, 0, 500, 400},        FOLLOW_SCROLL },
-        {{0, -5, 500, 400},        FOLLOW_SCROLL },
-        {{928, 672, 1128, 872},    FOLLOW_IN_VIEW}, // its middle on the edge
-        {{929, 0, 1129, 400},      FOLLOW_SCROLL },
-        {{0, 673, 400, 873},       FOLLOW_SCROLL },
-        {{4000, 100, 4194, 400},   FOLLOW_IN_VIEW}, // out of the desktop: nothing brings it into view
-        {{100, 1500, 400, 1574},   FOLLOW_IN_VIEW},
-        {{4000, 1500, 4192, 1572}, FOLLOW_SCROLL }, // on the desktop's edge
-        {{-32000, 0, -31840, 28},  FOLLOW_NOT    }, // minimized
-        {{-31999, 0, -31839, 28},  FOLLOW_SCROLL },
-    };
-    for (const auto& [place, need] : cases)
-        EXPECT_EQ(NeedToFollow(place, 1024, 768, {0, 0, 4096, 1536}), need) << testing::PrintToString(place);
+static FollowNeed Need(const RECT& place) {
+    return NeedToFollow(place, 1024, 768, {0, 0, 4096, 1536});
 }
 
-class Follow : public QuorlTest {
+TEST(FollowDecision, AWindowOutOfViewAsksForAScroll) {
+    EXPECT_EQ(Need({-4, -4, 501, 400}), FOLLOW_IN_VIEW) << "just inside the slack";
+    EXPECT_EQ(Need({-5, 0, 500, 400}), FOLLOW_SCROLL);
+    EXPECT_EQ(Need({0, -5, 500, 400}), FOLLOW_SCROLL);
+    EXPECT_EQ(Need({928, 672, 1128, 872}), FOLLOW_IN_VIEW) << "its middle on the edge";
+    EXPECT_EQ(Need({929, 0, 1129, 400}), FOLLOW_SCROLL);
+    EXPECT_EQ(Need({0, 673, 400, 873}), FOLLOW_SCROLL);
+    EXPECT_EQ(Need({4000, 100, 4194, 400}), FOLLOW_IN_VIEW)
+        << "out of the desktop: nothing brings it into view";
+    EXPECT_EQ(Need({100, 1500, 400, 1574}), FOLLOW_IN_VIEW);
+    EXPECT_EQ(Need({4000, 1500, 4192, 1572}), FOLLOW_SCROLL) << "on the desktop's edge";
+    EXPECT_EQ(Need({-32000, 0, -31840, 28}), FOLLOW_NOT) << "minimized";
+    EXPECT_EQ(Need({-31999, 0, -31839, 28}), FOLLOW_SCROLL);
+}
+
+class Follow : public RunningQuorl {
   protected:
     HWND editor = OpenWindow("editor", {1500, 900, 1700, 1000}); // its middle: (1600, 950)
 
-    void StartWith(int bKeepInView) {
-        Start();
-        ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value = bKeepInView;
+    void SetUp() override {
+        RunningQuorl::SetUp();
+        ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value = 1;
         Desk.foreground = editor;
     }
 };
 
 TEST_F(Follow, TheViewGoesToAWindowThatBecomesActiveOutOfSight) {
-    StartWith(1);
     Wait(100);
     EXPECT_EQ(VDesk, Rect(1088, 566, 2112, 1334));
     EXPECT_EQ(PlaceOf(editor), Rect(412, 334, 612, 434)) << "in the middle of the screen";
@@ -59,7 +53,6 @@ TEST_F(Follow, TheViewGoesToAWindowThatBecomesActiveOutOfSight) {
 }
 
 TEST_F(Follow, AHeldButtonHoldsTheViewBackIfTheUserWantsItButNotTheMap) {
-    StartWith(1);
     ActionTable[ROW_SUPPRESS_FOLLOW].value = 1;
     for (const int button : {VK_LBUTTON, VK_MBUTTON, VK_RBUTTON}) {
         Desk.trace.clear();
@@ -76,7 +69,6 @@ TEST_F(Follow, AHeldButtonHoldsTheViewBackIfTheUserWantsItButNotTheMap) {
 }
 
 TEST_F(Follow, AMinimizedOrUnmanagedActiveWindowNeitherScrollsNorRefreshes) {
-    StartWith(1);
     RowOf(editor).place = {-32000, -32000, -31840, -31972};
     EXPECT_EQ(FollowActiveWindow(), 0);
     RowOf(editor).place = {1500, 900, 1700, 1000};
@@ -86,7 +78,6 @@ TEST_F(Follow, AMinimizedOrUnmanagedActiveWindowNeitherScrollsNorRefreshes) {
 }
 
 TEST_F(Follow, AWindowThatStaysWhereItIsDoesNotDrawTheViewOnAndOn) {
-    StartWith(1);
     LockWindow(editor);
     Wait(1000);
     EXPECT_EQ(VDesk, Rect(1088, 566, 2112, 1334)) << "once";
@@ -97,8 +88,7 @@ TEST_F(Follow, AWindowThatStaysWhereItIsDoesNotDrawTheViewOnAndOn) {
 }
 
 TEST_F(Follow, TheActiveWindowIsCentredOnCommandAndStaysActive) {
-    OpenWindow("above", {0, 0, 50, 50});
-    StartWith(0);
+    ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value = 0;
     Wait(100);
     EXPECT_EQ(VDesk.left, 0) << "nothing is followed unless the user wants it";
     EXPECT_EQ(DoAction(MainWnd, ROW_CENTER_ON_ACTIVE, nullptr), 1);
@@ -108,5 +98,3 @@ TEST_F(Follow, TheActiveWindowIsCentredOnCommandAndStaysActive) {
     KillWindow(editor);
     EXPECT_EQ(DoAction(MainWnd, ROW_CENTER_ON_ACTIVE, nullptr), 0);
 }
-
-} // namespace

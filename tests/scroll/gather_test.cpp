@@ -1,37 +1,27 @@
 #include "scroll/gather.h"
 
-#include "core/state.h"
 #include "scroll/locked_windows.h"
 #include "scroll/window_table.h"
 #include "support/quorl_test.h"
 
-namespace {
-
-class Gather : public QuorlTest {
+class Gather : public RunningQuorl {
   protected:
     HWND far = OpenWindow("far", {1500, 900, 1700, 1000});
     HWND left = OpenWindow("left", {-100, -100, 300, 200});
 };
 
 TEST_F(Gather, ACornerFoldsOntoTheScreenAndOffItsLastPixels) {
-    const struct {
-        int corner, screen, folded;
-    } cases[] = {
-        {1500,  1024, 476 },
-        {-2048, 1024, 0   },
-        {1019,  1024, 1019},
-        {1020,  1024, 4   },
-        {-5,    768,  763 },
-        {500,   0,    0   }, // no screen at all: some number, no trap
-    };
-    for (const auto& [corner, screen, folded] : cases)
-        EXPECT_EQ(FoldedCorner(corner, screen), folded) << corner << " on " << screen;
+    EXPECT_EQ(FoldedCorner(1500, 1024), 476);
+    EXPECT_EQ(FoldedCorner(-2048, 1024), 0);
+    EXPECT_EQ(FoldedCorner(1019, 1024), 1019);
+    EXPECT_EQ(FoldedCorner(1020, 1024), 4);
+    EXPECT_EQ(FoldedCorner(-5, 768), 763);
+    EXPECT_EQ(FoldedCorner(500, 0), 0) << "no screen at all: some number, no trap";
 }
 
 TEST_F(Gather, EveryManagedWindowComesBackLockedOnesToo) {
     const HWND minimized = OpenWindow("minimized", {-32000, -32000, -31840, -31972});
     RowOf(minimized).style |= WS_MINIMIZE;
-    Start();
     LockWindow(far);
     RowOf(left).bRewrites = 1;
     RowOf(left).rewritten = {7, 8, 400, 300};
@@ -50,7 +40,6 @@ TEST_F(Gather, EveryManagedWindowComesBackLockedOnesToo) {
 TEST_F(Gather, ATimeoutIsSilentAndCostsASecond) {
     RowOf(far).answer = RowOf(left).answer = DeskAnswer::TimesOut;
     RowOf(left).error = 0; // as the oldest systems have it
-    Start();
     const DWORD before = Desk.now;
     GatherWindows();
     EXPECT_EQ(Desk.now - before, 2000U);
@@ -62,8 +51,7 @@ TEST_F(Gather, AnyOtherRefusalIsToldForEachWindow) {
         RowOf(window).answer = DeskAnswer::Fails;
         RowOf(window).error = ERROR_ACCESS_DENIED;
     }
-    const HWND last = OpenWindow("last", {1030, 10, 1100, 50});
-    Start();
+    const HWND last = OpenKnown("last", {1030, 10, 1100, 50});
     WillAnswer({IDOK, IDOK});
     Desk.inBox = [] { // the box comes to stand before all others
         OpenWindow("box", {10, 10, 20, 20});
@@ -73,8 +61,6 @@ TEST_F(Gather, AnyOtherRefusalIsToldForEachWindow) {
     GatherWindows();
 
     ASSERT_EQ(Desk.boxes.size(), 2U);
-    EXPECT_EQ(Desk.boxes[0].text + "/" + Desk.boxes[0].caption, "Not a timeout! A window won't restore!/ok");
+    EXPECT_EQ(LastBox(), "Not a timeout! A window won't restore!/ok");
     EXPECT_EQ(PlaceOf(last).left, 6);
 }
-
-} // namespace

@@ -1,20 +1,16 @@
 #include "scroll/refresh.h"
 
-#include "core/state.h"
 #include "scroll/window_table.h"
 #include "support/quorl_test.h"
 #include "toolwin/map_scale.h"
 
-namespace {
-
-class Refresh : public QuorlTest {
+class Refresh : public RunningQuorl {
   protected:
     HWND editor = OpenWindow("editor", {100, 100, 500, 400});
     HWND other = OpenWindow("other", {600, 100, 900, 400});
 
     void SetUp() override {
-        QuorlTest::SetUp();
-        Start();
+        RunningQuorl::SetUp();
         RebuildWindowTable(); // the Toolwin is in it, too
         Desk.trace.clear();
     }
@@ -60,5 +56,3 @@ TEST_F(Refresh, TheFlashTimerRepaintsTheActiveWindowsBoxAlone) {
     EXPECT_TRUE(CameInOrder({"InvalidateRect", "UpdateWindow"}));
     EXPECT_EQ(CallsOf("EnumWindows"), 0);
 }
-
-} // namespace

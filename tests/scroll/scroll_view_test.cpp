@@ -1,11 +1,8 @@
 #include "scroll/scroll_view.h"
 
-#include "core/state.h"
 #include "support/quorl_test.h"
 
-namespace {
-
-class Scroll : public QuorlTest {};
+class Scroll : public RunningQuorl {};
 
 TEST_F(Scroll, TheViewIsHeldInsideTheDesktopAndTheWindowsGoTheSameWay) {
     const struct {
@@ -30,8 +27,7 @@ TEST_F(Scroll, TheViewIsHeldInsideTheDesktopAndTheWindowsGoTheSameWay) {
 }
 
 TEST_F(Scroll, TheResultTellsWhetherTheCornerChangedAndTheMapIsRepainted) {
-    const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
-    Start();
+    const HWND editor = OpenKnown("editor", {100, 100, 500, 400});
     EXPECT_EQ(ScrollView(MainWnd, 5000, 0, SV_ABSOLUTE, 0), 1);
     EXPECT_EQ(VDesk, Rect(3072, 0, 4096, 768));
     EXPECT_TRUE(CameInOrder({"MoveWindow", "InvalidateRect", "UpdateWindow"}));
@@ -40,5 +36,3 @@ TEST_F(Scroll, TheResultTellsWhetherTheCornerChangedAndTheMapIsRepainted) {
     EXPECT_EQ(ScrollView(MainWnd, 3072, 1, SV_ABSOLUTE, 0), 0);
     EXPECT_EQ(RowOf(editor).received.size(), 1U) << "asked although nothing moves";
 }
-
-} // namespace

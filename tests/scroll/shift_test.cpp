@@ -1,13 +1,9 @@
 #include "scroll/shift.h"
 
-#include "actions/action_table.h"
-#include "core/state.h"
 #include "scroll/locked_windows.h"
 #include "support/quorl_test.h"
 
-namespace {
-
-class Shift : public QuorlTest {
+class Shift : public RunningQuorl {
   protected:
     HWND editor = OpenWindow("editor", {100, 100, 500, 400});
     HWND other = OpenWindow("other", {600, 100, 900, 400});
@@ -15,25 +11,19 @@ class Shift : public QuorlTest {
 };
 
 TEST_F(Shift, AWindowIsHeldInsideTheDesktop) {
-    const struct {
-        RECT window;
-        int dx, dy;
-        RECT place; // corner and size
-    } cases[] = {
-        {{4000, 1500, 4400, 1700}, 96,   36,   {4096, 1536, 400, 200}  },
-        {{4000, 1500, 4400, 1700}, 97,   37,   {3691, 1331, 400, 200}  }, // past the far edges
-        {{-900, -450, -500, -150}, -200, -100, {-1000, -500, 400, 300} },
-        {{4000, 1500, 9000, 4000}, 200,  200,  {-909, -500, 5000, 2500}}, // too large to be pulled in
-    };
-    for (const auto& [window, dx, dy, expected] : cases) {
+    const auto shifted = [](const RECT& window, int dx, int dy) {
         const auto place = ShiftedPlace(window, dx, dy, {1000, 500, 2024, 1268}, {0, 0, 4096, 1536}, 5);
-        EXPECT_EQ(Rect(place.x, place.y, place.width, place.height), expected) << dx;
-    }
+        return Rect(place.x, place.y, place.width, place.height);
+    };
+    EXPECT_EQ(shifted({4000, 1500, 4400, 1700}, 96, 36), Rect(4096, 1536, 400, 200));
+    EXPECT_EQ(shifted({4000, 1500, 4400, 1700}, 97, 37), Rect(3691, 1331, 400, 200)) << "past the far edges";
+    EXPECT_EQ(shifted({-900, -450, -500, -150}, -200, -100), Rect(-1000, -500, 400, 300));
+    EXPECT_EQ(shifted({4000, 1500, 9000, 4000}, 200, 200), Rect(-909, -500, 5000, 2500))
+        << "too large for it";
 }
 
 TEST_F(Shift, EveryWindowIsAskedMovedPaintedAndShown) {
-    const HWND halfOut = OpenWindow("half out", {900, 500, 1200, 600});
-    Start();
+    const HWND halfOut = OpenKnown("half out", {900, 500, 1200, 600});
     ShiftWindows(30, -20);
     EXPECT_TRUE(RowOf(halfOut).bInvalid) << "what was not on the screen has to be painted";
     EXPECT_EQ(PlaceOf(editor), Rect(130, 80, 530, 380));
@@ -43,11 +33,10 @@ TEST_F(Shift, EveryWindowIsAskedMovedPaintedAndShown) {
 }
 
 TEST_F(Shift, AProgramThatDoesNotAnswerCostsItsPatienceOnceAndNothingElseSuffers) {
-    const HWND zoomed = OpenWindow("zoomed", {10, 10, 50, 50});
+    const HWND zoomed = OpenKnown("zoomed", {10, 10, 50, 50});
     ShowWindow(zoomed, SW_MAXIMIZE);
     for (const HWND silent : {editor, list, zoomed})
         RowOf(silent).answer = DeskAnswer::TimesOut;
-    Start();
     ActionTable[ROW_RESTORE_MAXIMIZED].value = 1;
     const DWORD before = Desk.now;
     ShiftWindows(30, 0);
@@ -57,8 +46,7 @@ TEST_F(Shift, AProgramThatDoesNotAnswerCostsItsPatienceOnceAndNothingElseSuffers
 }
 
 TEST_F(Shift, ALockedWindowStaysAndAListViewScrollsEvenThen) {
-    const HWND kin = OpenWindow("kin", {10, 10, 50, 50}, "SysListView32 of a library");
-    Start();
+    const HWND kin = OpenKnown("kin", {10, 10, 50, 50}, "SysListView32 of a library");
     LockWindow(editor);
     LockWindow(list);
     EnableWindow(kin, FALSE);
@@ -73,5 +61,3 @@ TEST_F(Shift, ALockedWindowStaysAndAListViewScrollsEvenThen) {
         EXPECT_EQ(got.lParam, -7);
     }
 }
-
-} // namespace

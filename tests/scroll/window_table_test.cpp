@@ -1,31 +1,22 @@
 #include "scroll/window_table.h"
 
-#include "actions/action_table.h"
-#include "core/state.h"
 #include "support/quorl_test.h"
 
 namespace {
 
-class Table : public QuorlTest {};
+class Table : public RunningQuorl {};
 
 TEST_F(Table, AManagedPlaceHasAnAreaWithinTheFarEdges) {
-    const struct {
-        RECT place;
-        int bManaged;
-    } cases[] = {
-        {{10, 10, 10, 50},             0},
-        {{10, 10, 50, 10},             0},
-        {{-9000, -9000, -8000, -8000}, 1}, // near edges do not matter
-        {{4096, 1536, 4100, 1540},     1},
-        {{4097, 10, 4200, 50},         0},
-        {{10, 1537, 50, 1600},         0},
-    };
-    for (const auto& [place, bManaged] : cases)
-        EXPECT_EQ(IsManagedPlace(place, {0, 0, 4096, 1536}), bManaged) << testing::PrintToString(place);
+    const RECT quorl{0, 0, 4096, 1536};
+    EXPECT_FALSE(IsManagedPlace({10, 10, 10, 50}, quorl));
+    EXPECT_FALSE(IsManagedPlace({10, 10, 50, 10}, quorl));
+    EXPECT_TRUE(IsManagedPlace({-9000, -9000, -8000, -8000}, quorl)) << "near edges do not matter";
+    EXPECT_TRUE(IsManagedPlace({4096, 1536, 4100, 1540}, quorl));
+    EXPECT_FALSE(IsManagedPlace({4097, 10, 4200, 50}, quorl));
+    EXPECT_FALSE(IsManagedPlace({10, 1537, 50, 1600}, quorl));
 }
 
 TEST_F(Table, AWindowIsManagedUnlessItIsOutOfUseOrPartOfTheDesktop) {
-    Start();
     const auto isManaged = [](const char* className) {
         return IsManagedWindow(OpenWindow("", {10, 10, 50, 50}, className));
     };
@@ -52,10 +43,10 @@ HRESULT CloakedAsTold(HWND window, DWORD attribute, void* value, DWORD size) {
     return 0;
 }
 
-TEST_F(Table, AWindowThatTheCompositorHidesIsNotManaged) {
+TEST_F(QuorlTest, DoesNotManageAWindowThatTheCompositorHides) {
     Desk.modules["dwmapi.dll"].exports["DwmGetWindowAttribute"] =
         reinterpret_cast<FARPROC>(reinterpret_cast<void*>(CloakedAsTold));
-    Start();
+    ASSERT_EQ(StartQuorl(), 1);
     const HWND window = OpenWindow("", {10, 10, 50, 50});
     EXPECT_TRUE(IsManagedWindow(window));
     RowOf(window).bCloaked = 1;
@@ -63,7 +54,6 @@ TEST_F(Table, AWindowThatTheCompositorHidesIsNotManaged) {
 }
 
 TEST_F(Table, QuorlsOwnWindowsAndThoseThatAreNoneAreNotManaged) {
-    Start();
     TipWnd = OpenWindow("tip", {10, 10, 50, 50});
     for (const HWND window : {MainWnd, TipWnd, GetDesktopWindow(), HWND{}})
         EXPECT_FALSE(IsManagedWindow(window));
@@ -74,6 +64,7 @@ TEST_F(Table, QuorlsOwnWindowsAndThoseThatAreNoneAreNotManaged) {
 }
 
 TEST_F(Table, HoldsEveryTopLevelWindowTopmostFirst) {
+    KillWindow(MainWnd);
     OpenWindow("below", {1, 2, 3, 4});
     const HWND hidden = OpenWindow("hidden", {5, 6, 7, 8});
     ShowWindow(hidden, SW_HIDE);

@@ -16,31 +16,31 @@ enum Outcome { HELD, BROKEN, NOTHING_FAILED }; // the exit code of a story's pro
 
 constexpr unsigned PATIENCE = 30; // seconds
 
-static Outcome Tell(const std::function<void()>& story, int nth) {
-    alarm(PATIENCE);
-    Desk.fault = {"", nth, 0, 87, 0};
-    const std::size_t before = Desk.trace.size();
-    story();
-    if (!testing::Test::HasFailure())
-        return Desk.fault.hits ? HELD : NOTHING_FAILED;
-    if (Desk.fault.hits)
-        std::printf("The call that failed was %s.\n", Desk.trace[before + static_cast<std::size_t>(nth) - 1]);
-    std::fflush(stdout);
-    return BROKEN;
-}
-
-static int Outlive(pid_t process) {
+static int InItsOwnProcess(const std::function<Outcome()>& story) {
+    const pid_t process = fork();
+    if (process == 0) {
+        alarm(PATIENCE);
+        const Outcome outcome = story();
+        std::fflush(stdout);
+        _exit(testing::Test::HasFailure() ? BROKEN : outcome);
+    }
     int status = 0;
     waitpid(process, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : BROKEN;
 }
 
+static Outcome Tell(const std::function<void()>& story, int nth) {
+    Desk.fault = {"", nth, 0, 87, 0};
+    const std::size_t before = Desk.trace.size();
+    story();
+    if (testing::Test::HasFailure() && Desk.fault.hits)
+        std::printf("The call that failed was %s.\n", Desk.trace[before + static_cast<std::size_t>(nth) - 1]);
+    return Desk.fault.hits ? HELD : NOTHING_FAILED;
+}
+
 int FailEachCall(const std::function<void()>& story) {
     for (int nth = 1;; ++nth) {
-        const pid_t process = fork();
-        if (process == 0)
-            _exit(Tell(story, nth));
-        const int outcome = Outlive(process);
+        const int outcome = InItsOwnProcess([&] { return Tell(story, nth); });
         if (outcome == NOTHING_FAILED)
             return nth - 1;
         EXPECT_EQ(outcome, HELD) << "with call " << nth << " failing";
@@ -50,12 +50,8 @@ int FailEachCall(const std::function<void()>& story) {
 }
 
 bool HoldsInItsOwnProcess(const std::function<void()>& story) {
-    const pid_t process = fork();
-    if (process == 0) {
-        alarm(PATIENCE);
-        story();
-        std::fflush(stdout);
-        _exit(testing::Test::HasFailure() ? BROKEN : HELD);
-    }
-    return Outlive(process) == HELD;
+    return InItsOwnProcess([&] {
+               story();
+               return HELD;
+           }) == HELD;
 }

@@ -1,10 +1,9 @@
 // The words of the user.
 #include "support/quorl_test.h"
 
-#include "actions/action_table.h"
 #include "core/main.h"
-#include "core/state.h"
 #include "regions/region_table.h"
+#include "scroll/window_table.h"
 
 #include <cstring>
 #include <ostream>
@@ -52,15 +51,11 @@ void QuorlTest::TearDown() {
     EndChildren();
 }
 
-void QuorlTest::Start() {
-    ASSERT_EQ(StartQuorl(), 1);
-    Settle();
-    Desk.trace.clear();
-}
-
 void RunningQuorl::SetUp() {
     QuorlTest::SetUp();
     ASSERT_EQ(StartQuorl(), 1);
+    Settle();
+    Desk.trace.clear();
 }
 
 int StartQuorl() {
@@ -91,6 +86,12 @@ void Bind(int row, int mods, int button) {
     ActionTable[row].mouse_btn = button;
 }
 
+HWND OpenKnown(const char* title, const RECT& place, const char* className) {
+    const HWND window = OpenWindow(title, place, className);
+    RebuildWindowTable();
+    return window;
+}
+
 void Mark(const std::string& name, int left, int top) {
     RegionRow& region = RegionTable[num_regions];
     region = {num_regions, "", left, top, left + ScreenW(), top + ScreenH(), 0};
@@ -111,6 +112,18 @@ RECT PlaceOf(HWND window) {
 
 RECT Rect(int left, int top, int right, int bottom) {
     return {left, top, right, bottom};
+}
+
+RECT Moved(const RECT& place, int dx, int dy) {
+    return {place.left + dx, place.top + dy, place.right + dx, place.bottom + dy};
+}
+
+POINT ViewCorner() {
+    return {VDesk.left, VDesk.top};
+}
+
+std::string LastBox() {
+    return Desk.boxes.empty() ? "" : Desk.boxes.back().text + "/" + Desk.boxes.back().caption;
 }
 
 int CameInOrder(std::initializer_list<const char*> calls) {

@@ -1,7 +1,8 @@
 // The words of the user: start Quorl on the in-memory desktop, act, let time pass, look.
 #pragma once
 
-#include "core/platform.h"
+#include "actions/action_table.h"
+#include "core/state.h"
 #include "desk/desk.h"
 
 #include <gtest/gtest.h>
@@ -14,12 +15,10 @@ class QuorlTest : public testing::Test {
   protected:
     void SetUp() override;    // PrepareDesk
     void TearDown() override; // no unexpected box, nothing that would have blocked
-
-    // Starts Quorl and handles what that leaves waiting; the trace begins after it.
-    static void Start();
 };
 
-// The same with Quorl started before the case begins, on an empty desktop.
+// The same with Quorl started before the case begins; it finds the windows that the fixture's members are,
+// and the trace begins after the start.
 class RunningQuorl : public QuorlTest {
   protected:
     void SetUp() override;
@@ -51,6 +50,9 @@ void WillAnswer(std::initializer_list<int> answers);
 // Binds a row to a mouse combination.
 void Bind(int row, int mods, int button);
 
+// Opens a window of another program as OpenWindow does, and Quorl takes notice of it at once.
+HWND OpenKnown(const char* title, const RECT& place, const char* className = "Program");
+
 // Marks one more region, one screen in size, with its corner there.
 void Mark(const std::string& name, int left, int top);
 
@@ -60,6 +62,13 @@ std::string LastTip();
 RECT PlaceOf(HWND window);
 
 RECT Rect(int left, int top, int right, int bottom);
+RECT Moved(const RECT& place, int dx, int dy);
+
+// The corner of the view, in desktop pixels.
+POINT ViewCorner();
+
+// "text/caption" of the box that the user has seen last.
+std::string LastBox();
 
 // 1 if `Desk.trace` holds these calls in this order, others between them or not.
 int CameInOrder(std::initializer_list<const char*> calls);

@@ -4,8 +4,6 @@
 
 #include <climits>
 
-namespace {
-
 const RECT MAP{0, 0, 200, 75};
 const RECT QUORL{0, 0, 4096, 1536};
 const RECT VDESK{1024, 0, 2048, 768};
@@ -24,5 +22,3 @@ TEST(MapScale, NumbersFromAnEditedFileGiveSomeBox) {
     const RECT widest{INT_MIN, INT_MAX, INT_MAX, INT_MIN};
     EXPECT_EQ(ViewBox(MAP, widest, {0, 0, -1, -1}).right, 200) << "a width of -1, wrapped at 32 bits";
 }
-
-} // namespace

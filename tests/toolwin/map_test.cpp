@@ -1,6 +1,5 @@
 #include "toolwin/map.h"
 
-#include "core/state.h"
 #include "regions/region_table.h"
 #include "scroll/refresh.h"
 #include "scroll/window_table.h"
@@ -109,14 +108,14 @@ TEST_F(Map, ADialogPulsesFromTheFirstPaintOnWhileItsOwnerIsDisabled) {
     EXPECT_FALSE(IsPulsing());
 
     EnableWindow(owner, FALSE);
-    EXPECT_EQ(ActivePen(), "solid2 50") << "the second paint";
+    EXPECT_EQ(ActivePen(), "solid2 75") << "the third paint";
     EXPECT_TRUE(IsPulsing());
     Desk.strokes.clear();
     Wait(50);
     const auto line = std::find_if(Desk.strokes.begin(), Desk.strokes.end(),
                                    [](const DeskStroke& stroke) { return stroke.what == "LineTo"; });
     ASSERT_NE(line, Desk.strokes.end()) << "the timer repaints";
-    EXPECT_EQ(line->pen.color, 75U);
+    EXPECT_EQ(line->pen.color, 100U);
     EXPECT_LT(line->clip.right - line->clip.left, 20) << "its box alone";
 
     Desk.foreground = MainWnd; // not drawn: nothing changes
@@ -129,20 +128,12 @@ TEST_F(Map, ADialogPulsesFromTheFirstPaintOnWhileItsOwnerIsDisabled) {
 }
 
 TEST(MapBox, OnlyAnActiveDialogOfADisabledOwnerPulses) {
-    const struct {
-        int bActive;
-        const char* className;
-        DWORD ownerStyle;
-        BoxKind kind;
-    } cases[] = {
-        {1, "#32770",       WS_VISIBLE,  ACTIVE_BOX },
-        {1, "#32770extra",  WS_DISABLED, PULSING_BOX},
-        {1, "#3277",        WS_DISABLED, ACTIVE_BOX },
-        {1, "Afx:400000:8", WS_DISABLED, PULSING_BOX},
-        {1, "afx:400000",   WS_DISABLED, ACTIVE_BOX },
-    };
-    for (const auto& row : cases)
-        EXPECT_EQ(KindOfBox(row.bActive, row.className, row.ownerStyle), row.kind) << row.className;
+    EXPECT_EQ(KindOfBox(0, "#32770", WS_DISABLED), PLAIN_BOX);
+    EXPECT_EQ(KindOfBox(1, "#32770", WS_VISIBLE), ACTIVE_BOX);
+    EXPECT_EQ(KindOfBox(1, "#32770extra", WS_DISABLED), PULSING_BOX);
+    EXPECT_EQ(KindOfBox(1, "#3277", WS_DISABLED), ACTIVE_BOX);
+    EXPECT_EQ(KindOfBox(1, "Afx:400000:8", WS_DISABLED), PULSING_BOX);
+    EXPECT_EQ(KindOfBox(1, "afx:400000", WS_DISABLED), ACTIVE_BOX);
 }
 
 TEST(MapBox, ThePulseWrapsRoundAndKeepsItsPace) {

@@ -1,25 +1,17 @@
 #include "toolwin/placement.h"
 
 #include "core/main_window.h"
-#include "core/state.h"
 #include "support/quorl_test.h"
-
-namespace {
 
 class Placement : public RunningQuorl {};
 
 TEST_F(Placement, PullsAWindowFlushWithTheEdgesThatItComesNearOrCrosses) {
-    const struct {
-        RECT asked, snapped;
-    } cases[] = {
-        {{5, 4, 205, 104},       {5, 0, 205, 100}     },
-        {{-300, 5, -100, 105},   {0, 5, 200, 105}     },
-        {{819, 664, 1019, 764},  {819, 668, 1019, 768}},
-        {{2000, 663, 2200, 763}, {824, 663, 1024, 763}},
-        {{50, 300, 1150, 400},   {-76, 300, 1024, 400}}, // wider than the screen: the right edge wins
-    };
-    for (const auto& [asked, snapped] : cases)
-        EXPECT_EQ(SnappedPlace(asked, 5, 1024, 768), snapped) << testing::PrintToString(asked);
+    const auto snapped = [](const RECT& asked) { return SnappedPlace(asked, 5, 1024, 768); };
+    EXPECT_EQ(snapped({5, 4, 205, 104}), Rect(5, 0, 205, 100));
+    EXPECT_EQ(snapped({-300, 5, -100, 105}), Rect(0, 5, 200, 105));
+    EXPECT_EQ(snapped({819, 664, 1019, 764}), Rect(819, 668, 1019, 768));
+    EXPECT_EQ(snapped({2000, 663, 2200, 763}), Rect(824, 663, 1024, 763));
+    EXPECT_EQ(snapped({50, 300, 1150, 400}), Rect(-76, 300, 1024, 400)) << "wider than the screen";
 }
 
 TEST_F(Placement, TheSwitchForSnappingDecidesWhetherTheMapCanLeaveTheScreen) {
@@ -57,20 +49,14 @@ TEST_F(Placement, SaysWhereTheMapWillLieBeforeItMoves) {
 }
 
 TEST_F(Placement, ResizingMovesTheFarEdgesByTheSmallStepAndStopsAtTheLimits) {
-    const struct {
-        int row;
-        SIZE size;
-    } cases[] = {
-        {43, {230, 100}},
-        {45, {230, 130}},
-        {42, {200, 130}},
-        {44, {200, 100}},
-    };
     Options.minscroll = 30;
-    for (const auto& [row, size] : cases) {
-        Command(row);
-        EXPECT_EQ(PlaceOf(MainWnd), Rect(100, 100, 100 + size.cx, 100 + size.cy)) << "row " << row;
-    }
+    Command(43);
+    Command(45);
+    EXPECT_EQ(PlaceOf(MainWnd), Rect(100, 100, 330, 230));
+    Command(42);
+    EXPECT_EQ(PlaceOf(MainWnd), Rect(100, 100, 300, 230));
+    Command(44);
+    EXPECT_EQ(PlaceOf(MainWnd), Rect(100, 100, 300, 200));
     for (int press = 0; press < 10; ++press) {
         Command(42);
         Command(44);
@@ -86,5 +72,3 @@ TEST_F(Placement, HidingTwiceGivesTheMapBack) {
     EXPECT_TRUE(IsWindowVisible(MainWnd));
     EXPECT_EQ(ActionTable[ROW_SHOW_TOOLWIN].value, 1);
 }
-
-} // namespace

@@ -1,13 +1,9 @@
 #include "toolwin/tip.h"
 
-#include "actions/action_table.h"
-#include "core/state.h"
 #include "scroll/scroll_view.h"
 #include "support/quorl_test.h"
 
 #include <string>
-
-namespace {
 
 class Tip : public RunningQuorl {
   protected:
@@ -107,5 +103,3 @@ TEST_F(Tip, EveryScrollTellsWhereTheViewStandsAndEverySecondOneItsNumber) {
     EXPECT_EQ(told, "CTR: 0  ID: 6, VDesk: 100,0 - 1124,768, VDesk: 200,0 - 1224,768, "
                     "CTR: 2  ID: 8, VDesk: 300,0 - 1324,768, ");
 }
-
-} // namespace

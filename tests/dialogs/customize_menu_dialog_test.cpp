@@ -2,7 +2,7 @@
 #include "core/state.h"
 #include "dialogs/dialog_test.h"
 #include "dialogs/registry.h"
-#include "menus/menu_list.h"
+#include "menus/entries.h"
 #include "support/faults.h"
 
 #include <algorithm>
@@ -16,17 +16,6 @@ constexpr int MENU_LIST = 1061, ACTION_LIST = 1062;
 constexpr int ITSELF = 74; // its row
 constexpr ActionId FIND_WINDOW = 52;
 const char LINE[] = "<---------------->";
-
-using Entries = std::vector<int>;
-
-Entries Menu() {
-    return {MenuList, MenuList + quorl_menu_count};
-}
-
-void SetMenu(const Entries& entries) {
-    std::copy(entries.begin(), entries.end(), MenuList);
-    quorl_menu_count = static_cast<int>(entries.size());
-}
 
 class CustomizeMenuDialog : public DialogTest {
   protected:

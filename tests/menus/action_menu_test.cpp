@@ -1,7 +1,8 @@
 #include "menus/action_menu.h"
 
+#include "actions/dispatch.h"
 #include "core/state.h"
-#include "menus/menu_list.h"
+#include "menus/entries.h"
 #include "support/quorl_test.h"
 #include "toolwin/tip.h"
 
@@ -12,12 +13,6 @@ namespace {
 using Lines = std::vector<std::string>;
 
 class ActionMenu : public RunningQuorl {};
-
-void Compose(std::initializer_list<int> entries) {
-    quorl_menu_count = 0;
-    for (const int entry : entries)
-        AppendMenuEntry(entry);
-}
 
 // As the user sees it: a check mark, a line, an arrow.
 Lines LinesOf(HMENU menu) {
@@ -52,7 +47,7 @@ TEST_F(ActionMenu, ANewUserFindsTenEntriesAtTheCursor) {
 }
 
 TEST_F(ActionMenu, AChoiceRunsItsRowAndTheMenuTellsTheNewValueNextTime) {
-    Compose({30, 70, -2});
+    SetMenu({30, 70, -2});
     Choose(30);
     EXPECT_EQ(VDesk.left, 1024);
     ASSERT_TRUE(IsWindowVisible(TipWnd));
@@ -82,9 +77,9 @@ TEST_F(ActionMenu, AnAmpersandInARegionsNameIsSeenAndMarksNoKey) {
 }
 
 TEST_F(ActionMenu, WhatIsNoActionShowsAsALineOrNotAtAll) {
-    Compose({0, NUM_ACTIONS, 0x7fffffff, -0x7fffffff}); // a file edited by hand
+    SetMenu({0, NUM_ACTIONS, 0x7fffffff, -0x7fffffff}); // a file edited by hand
     EXPECT_EQ(LinesOf(Choose(0)), (Lines{"Display Quorl menu", "--"}));
-    Compose({});
+    SetMenu({});
     EXPECT_EQ(LinesOf(Choose(0)), Lines{});
     Mark("home", 0, 0);
     EXPECT_EQ(LinesOf(Choose(0)), Lines{"View Region >"});
@@ -104,7 +99,7 @@ TEST_F(ActionMenu, WhateverCallFailsTheRestOfTheMenuIsShownOrNothingIsAndNoMenuI
 
     const std::size_t shown = Desk.shownMenus.size();
     Desk.fault = {"CreatePopupMenu", 1};
-    EXPECT_EQ(ShowActionMenu(MainWnd), 0);
+    EXPECT_EQ(DoAction(MainWnd, 0, nullptr), 0);
     EXPECT_EQ(Desk.shownMenus.size(), shown);
     EXPECT_EQ(LivingMenus(), 0);
 }

@@ -37,13 +37,18 @@ class NameRegion : public DialogTest {
     }
 };
 
-TEST_F(NameRegion, ItShowsTheRegionThatStartsAtTheViewAndNoOther) {
-    RegionTable[1] = {1, "around", -5, -5, 2000, 2000, 0};
-    num_regions = 2;
+TEST_F(NameRegion, ItShowsTheRegionThatStartsAtTheViewAndEscapeChangesNothing) {
+    Mark("around", -5, -5);
     Open(ITSELF);
     EXPECT_EQ(TextOf(NAME), "");
     EXPECT_EQ(Color(), NO_COLOR);
-    Click(IDCANCEL);
+    Desk.colorAnswers = {RGB(9, 8, 7)};
+    ClickSwatch();
+    Type(NAME, "here");
+    Press(VK_ESCAPE);
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(num_regions, 2);
+    EXPECT_EQ(LiveObjects(), objects) << "no brush is left";
 
     Command(RIGHT_BY_5);
     Open(ITSELF);
@@ -89,17 +94,6 @@ TEST_F(NameRegion, ANewRegionIsAddedWithAColourAndItsHotkey) {
     PressCombination(MOD_ALT | MOD_CONTROL | MOD_SHIFT, '1');
     Settle();
     EXPECT_EQ(VDesk.left, 0);
-}
-
-TEST_F(NameRegion, EscapeChangesNothingAndLeavesNoBrush) {
-    Open(ITSELF);
-    Desk.colorAnswers = {RGB(9, 8, 7)};
-    ClickSwatch();
-    Type(NAME, "here");
-    Press(VK_ESCAPE);
-    EXPECT_FALSE(IsOpen());
-    EXPECT_EQ(num_regions, 1);
-    EXPECT_EQ(LiveObjects(), objects);
 }
 
 TEST_F(NameRegion, AFullTableIsToldAndNotOverrun) {

@@ -32,6 +32,8 @@ TEST_F(RegionRows, SteppingGoesRoundTheRegionsBothWays) {
         {ON,   {1024, 0} }, // from outside all of them, whichever the direction
         {ON,   {100, 700}},
         {ON,   {2048, 0} },
+        {ON,   {1024, 0} },
+        {BACK, {2048, 0} },
         {BACK, {100, 700}},
         {BACK, {1024, 0} },
     };

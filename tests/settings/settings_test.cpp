@@ -52,6 +52,9 @@ TEST_F(Settings, AllIsWrittenInItsOrderAndComesBackInTheNextRun) {
 }
 
 TEST_F(Settings, AreSavedAsAWholeOrNotAtAll) {
+    Desk.fault = {"WritePrivateProfileStringA", 2};
+    SaveSettings(MainWnd);
+    EXPECT_TRUE(Desk.files.empty()) << "nor is a first file begun";
     EXPECT_EQ(DoAction(MainWnd, 47, nullptr), 0);
     const std::string before = File();
     ChangeAll();

@@ -1,6 +1,4 @@
-#include "actions/action_table.h"
 #include "actions/key_names.h"
-#include "core/state.h"
 #include "dialogs/dialog_test.h"
 
 namespace {

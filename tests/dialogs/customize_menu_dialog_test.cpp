@@ -1,5 +1,3 @@
-#include "actions/action_table.h"
-#include "core/state.h"
 #include "dialogs/dialog_test.h"
 #include "dialogs/registry.h"
 #include "menus/entries.h"

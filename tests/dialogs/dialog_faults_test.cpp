@@ -1,4 +1,3 @@
-#include "core/state.h"
 #include "dialogs/registry.h"
 #include "regions/region_table.h"
 #include "support/faults.h"

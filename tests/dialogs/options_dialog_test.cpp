@@ -1,7 +1,6 @@
 // Whole stories with the Options dialog: what it shows, what the user does, what OK makes of it.
 #include "dialogs/options_dialog.h"
 
-#include "core/state.h"
 #include "dialogs/dialog_test.h"
 #include "dialogs/registry.h"
 #include "dialogs/spinner.h"

@@ -5,18 +5,11 @@
 #include <gtest/gtest.h>
 
 TEST(OptionsRules, AStepGoesToWholeScreensFromOneToTheLargestDesktop) {
-    const struct {
-        int shown, screen, step, expected;
-    } cases[] = {
-        {2000,  768, 1,  2304 }, // a size between two screens loses its rest first
-        {2000,  768, -1, 768  },
-        {768,   768, -1, 768  },
-        {31488, 768, 1,  32000},
-        {5000,  0,   1,  0    },
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(SizeByScreens(c.shown, c.screen, c.step), c.expected)
-            << c.shown << " in screens of " << c.screen << ", " << c.step;
+    EXPECT_EQ(SizeByScreens(2000, 768, 1), 2304) << "a size between two screens loses its rest first";
+    EXPECT_EQ(SizeByScreens(2000, 768, -1), 768);
+    EXPECT_EQ(SizeByScreens(768, 768, -1), 768);
+    EXPECT_EQ(SizeByScreens(31488, 768, 1), 32000);
+    EXPECT_EQ(SizeByScreens(5000, 0, 1), 0);
 }
 
 static std::vector<int> InTurn(const OptionNumbers& numbers) {

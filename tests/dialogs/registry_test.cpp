@@ -1,7 +1,6 @@
 // Which dialogs are open, by dialogs that do nothing but count.
 #include "dialogs/registry.h"
 
-#include "core/state.h"
 #include "support/quorl_test.h"
 
 namespace {

@@ -1,5 +1,4 @@
 // Opacity, Help and About.
-#include "core/state.h"
 #include "dialogs/dialog_test.h"
 #include "dialogs/registry.h"
 

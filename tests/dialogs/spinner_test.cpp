@@ -76,23 +76,19 @@ TEST_F(Spinner, AHeldButtonStepsAtOnceAndThenOnceAnInterval) {
 }
 
 TEST_F(Spinner, StepsStopAtTheLimitsAndAreToldAllTheSame) {
-    const struct {
-        int value, y, expected;
-    } cases[] = {
-        {1,   DOWN, 0  },
-        {99,  UP,   100},
-        {100, UP,   100},
-        {150, UP,   100},
-        {-5,  DOWN, 0  },
-        {-5,  UP,   -4 },
-    };
-    for (const auto& c : cases) {
+    const auto told = [this](int value, int y) {
         Told.clear();
-        EXPECT_EQ(SetSpinnerValue(spinner, c.value), 1);
-        Press(c.y);
+        EXPECT_EQ(SetSpinnerValue(spinner, value), 1);
+        Press(y);
         Release();
-        EXPECT_EQ(Told, Values{c.expected}) << c.value;
-    }
+        return Told;
+    };
+    EXPECT_EQ(told(1, DOWN), Values{0});
+    EXPECT_EQ(told(99, UP), Values{100});
+    EXPECT_EQ(told(100, UP), Values{100});
+    EXPECT_EQ(told(150, UP), Values{100});
+    EXPECT_EQ(told(-5, DOWN), Values{0});
+    EXPECT_EQ(told(-5, UP), Values{-4});
 }
 
 TEST_F(Spinner, WithBothButtonsHeldTheLowerOneStepsFirst) {

@@ -1,7 +1,6 @@
 #include "menus/action_menu.h"
 
 #include "actions/dispatch.h"
-#include "core/state.h"
 #include "menus/entries.h"
 #include "support/quorl_test.h"
 #include "toolwin/tip.h"

@@ -1,4 +1,3 @@
-#include "core/state.h"
 #include "support/quorl_test.h"
 
 namespace {

@@ -1,4 +1,3 @@
-#include "core/state.h"
 #include "dialogs/dialog_test.h"
 #include "regions/region_table.h"
 

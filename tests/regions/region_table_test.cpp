@@ -1,7 +1,6 @@
 #include "regions/region_table.h"
 
 #include "actions/dispatch.h"
-#include "core/state.h"
 #include "support/quorl_test.h"
 
 #include <algorithm>

@@ -1,5 +1,3 @@
-#include "actions/action_table.h"
-#include "core/state.h"
 #include "regions/region_table.h"
 #include "settings/settings_test.h"
 
@@ -30,8 +28,7 @@ TEST_F(ActionsFile, AStoredCombinationTakesThePlaceOfTheDefault) {
     EXPECT_EQ(ActionTable[54].mouse_btn, 8);
     EXPECT_TRUE(IsRegistered(30, MOD_CONTROL | MOD_ALT, VK_RIGHT)) << "no line: the default stays";
 
-    StoreFile("Action28=-1|-1|6|39|0\nAction30=-1|-1|4|112|0\n");
-    Command(48); // two rows have swapped theirs, and no box comes
+    Load("Action28=-1|-1|6|39|0\nAction30=-1|-1|4|112|0\n"); // two rows have swapped theirs: no box comes
     EXPECT_TRUE(IsRegistered(28, MOD_CONTROL | MOD_ALT, VK_RIGHT));
     EXPECT_TRUE(IsRegistered(30, MOD_CONTROL, VK_F1));
 }

@@ -1,20 +1,13 @@
 #include "settings/options_file.h"
 
-#include "core/state.h"
-#include "menus/menu_list.h"
+#include "menus/entries.h"
 #include "settings/settings_test.h"
 
 #include <climits>
 
 namespace {
 
-class OptionsFile : public RunningQuorl {
-  protected:
-    static void Load(const std::string& lines) {
-        StoreFile(lines);
-        Command(48);
-    }
-};
+class OptionsFile : public RunningQuorl {};
 
 TEST_F(OptionsFile, WhatIsAbsentOrNegativeStaysAsItIs) {
     Options.maxscroll = 77;
@@ -44,42 +37,29 @@ TEST_F(OptionsFile, NumbersWithWhichWindowsWouldBeLostAreHeld) {
 }
 
 TEST_F(OptionsFile, TheToolwinGoesToAStoredPlaceRightOfZero) {
-    struct {
-        int left, top, right, bottom;
-        RECT place;
-    } const cases[] = {
-        {0,    5,   300,     300, {100, 100, 300, 200}}, // stays
-        {1,    0,   INT_MAX, 9,   {1, 0, 32001, 13}   }, // as far as the window's own limits go
-        {1024, 5,   1200,    80,  {1, 0, 32001, 13}   }, // from a display that is gone
-        {30,   5,   20,      80,  {30, 5, 70, 80}     }, // no smaller than they go
-        {300,  200, -1,      -1,  {300, 200, 340, 213}}, // only its corner is stored
+    const auto placed = [](int left, int top, int right, int bottom) {
+        Load("quorl_pos.left=" + std::to_string(left) + "\nquorl_pos.top=" + std::to_string(top) +
+             "\nquorl_pos.right=" + std::to_string(right) + "\nquorl_pos.bottom=" + std::to_string(bottom));
+        return PlaceOf(MainWnd);
     };
-    for (const auto& given : cases) {
-        Load("quorl_pos.left=" + std::to_string(given.left) + "\nquorl_pos.top=" + std::to_string(given.top) +
-             "\nquorl_pos.right=" + std::to_string(given.right) +
-             "\nquorl_pos.bottom=" + std::to_string(given.bottom));
-        EXPECT_EQ(PlaceOf(MainWnd), given.place) << given.left;
-    }
+    EXPECT_EQ(placed(0, 5, 300, 300), Rect(100, 100, 300, 200)) << "it stays";
+    EXPECT_EQ(placed(1, 0, INT_MAX, 9), Rect(1, 0, 32001, 13)) << "as far as the window's own limits go";
+    EXPECT_EQ(placed(1024, 5, 1200, 80), Rect(1, 0, 32001, 13)) << "from a display that is gone";
+    EXPECT_EQ(placed(30, 5, 20, 80), Rect(30, 5, 70, 80)) << "no smaller than they go";
+    EXPECT_EQ(placed(300, 200, -1, -1), Rect(300, 200, 340, 213)) << "only its corner is stored";
     SaveOptions(nullptr, SETTINGS_FILE); // no such window
     EXPECT_EQ(Stored("quorl_pos.left"), "300") << "without a rectangle the stored place stays";
 }
 
 TEST_F(OptionsFile, TheMenuTakesTheNumbersThatAreThere) {
-    struct {
-        const char* lines;
-        int count;
-        std::vector<int> list; // from the front
-    } const cases[] = {
-        {"quorl_menu=\nquorl_menu_count=3\n",        3,   {54, 55, 74, 77}          }, // empty: only the count
-        {"quorl_menu=||7|| 8 |x\n",                  3,   {7, 8, 0, 77}             }, // the rest stays
-        {"quorl_menu=5000|123|122|-2147483648|-7\n", 3,   {-1, -1, 122, INT_MIN, -7}}, // no action: a separator
-        {"quorl_menu_count=2147483647\n",            500, {-1, -1, 122}             },
-    };
-    for (const auto& given : cases) {
-        Load(given.lines);
-        EXPECT_EQ(quorl_menu_count, given.count) << given.lines;
-        EXPECT_EQ(std::vector<int>(MenuList, MenuList + given.list.size()), given.list) << given.lines;
-    }
+    Load("quorl_menu=||7|| 8 |x\n");
+    EXPECT_EQ(Menu(), (Entries{7, 8, 0, 77, 49, -1, 56, 57, -1, 59})) << "the rest stays";
+    Load("quorl_menu=\nquorl_menu_count=3\n");
+    EXPECT_EQ(Menu(), (Entries{7, 8, 0})) << "empty: only the count";
+    Load("quorl_menu_count=5\nquorl_menu=5000|123|122|-2147483648|-7\n");
+    EXPECT_EQ(Menu(), (Entries{-1, -1, 122, INT_MIN, -7})) << "no action: a separator";
+    Load("quorl_menu_count=2147483647\n");
+    EXPECT_EQ(quorl_menu_count, 500);
 }
 
 TEST_F(OptionsFile, AFullMenuSurvivesOneTooLongLosesItsEndAndAnEmptyOneIsWrittenEmpty) {

@@ -2,7 +2,6 @@
 
 #include "actions/hotkeys.h"
 #include "core/create.h"
-#include "core/state.h"
 #include "fuzz/settings_input.h"
 #include "menus/menu_list.h"
 #include "regions/region_table.h"

@@ -16,6 +16,12 @@ inline void StoreFile(const std::string& lines) {
     File() = "[Quorl]\r\n" + lines;
 }
 
+// And Quorl, which runs, is told to load them.
+inline void Load(const std::string& lines) {
+    StoreFile(lines);
+    Command(48);
+}
+
 // The value of a key as any program would read it.
 inline std::string Stored(const std::string& key) {
     char text[4096];

@@ -8,6 +8,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -249,6 +250,7 @@ struct DeskState {
     };                    // the first is the primary one
     std::map<std::string, DeskModule> modules; // by lower-case name
     std::map<std::string, std::string> files;  // profile files by lower-case name
+    std::set<std::string> protectedFiles;      // the read-only ones among them
 
     std::deque<int> answers; // to the boxes that will come
     std::vector<DeskBox> boxes;

@@ -132,7 +132,7 @@ UINT GetPrivateProfileIntA(LPCSTR section, LPCSTR key, int absent, LPCSTR file) 
 }
 
 BOOL WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file) {
-    if (Fails("WritePrivateProfileStringA"))
+    if (Fails("WritePrivateProfileStringA") || Desk.protectedFiles.contains(LowerCase(file)))
         return FALSE;
     std::string& content = Desk.files[LowerCase(file)];
     const std::string line = std::string(key) + "=" + text;

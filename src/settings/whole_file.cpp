@@ -23,10 +23,12 @@ static int FindPath(LPCSTR file, char (&path)[MAX_PATH]) {
     return length && length < MAX_PATH && std::snprintf(path, MAX_PATH, "%s\\%s", folder, file) < MAX_PATH;
 }
 
-// Of a file that is not there yet, the copy is one that is not there either.
+// Of a write-protected file the copy would be one too, and a copy that no one can write or delete would be in
+// the way of all later ones. Of a file that is not there yet, the copy is one that is not there either.
 static int MakeCopy(const Paths& paths) {
+    SetFileAttributesA(paths.copy, FILE_ATTRIBUTE_NORMAL);
     if (CopyFileA(paths.stored, paths.copy, FALSE))
-        return 1;
+        return SetFileAttributesA(paths.copy, FILE_ATTRIBUTE_NORMAL);
     return GetLastError() == ERROR_FILE_NOT_FOUND &&
            (DeleteFileA(paths.copy) || GetLastError() == ERROR_FILE_NOT_FOUND);
 }

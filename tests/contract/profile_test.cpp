@@ -144,4 +144,19 @@ TEST_F(Profile, ACopyCanTakeTheFilesPlace) {
     EXPECT_FALSE(MoveFileExA(copy.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING)) << "it is gone";
 }
 
+TEST_F(Profile, AProtectedFileCannotBeDeletedNorItsCopy) {
+    const std::string file = PathInWindowsFolder(FILE_NAME);
+    const std::string copy = PathInWindowsFolder("contract.new");
+    EXPECT_FALSE(SetFileAttributesA(copy.c_str(), FILE_ATTRIBUTE_NORMAL));
+    Write("a", "1");
+    EXPECT_TRUE(SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_READONLY));
+    EXPECT_TRUE(CopyFileA(file.c_str(), copy.c_str(), FALSE));
+    for (const std::string& path : {copy, file}) {
+        EXPECT_FALSE(DeleteFileA(path.c_str())) << path;
+        EXPECT_EQ(GetLastError(), ERROR_ACCESS_DENIED) << path;
+        EXPECT_TRUE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL)) << path;
+        EXPECT_TRUE(DeleteFileA(path.c_str())) << path;
+    }
+}
+
 } // namespace

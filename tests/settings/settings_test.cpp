@@ -77,6 +77,22 @@ TEST_F(Settings, AreSavedAsAWholeOrNotAtAll) {
     }
 }
 
+TEST_F(Settings, AWriteProtectedFileLeavesNoCopyInTheWayOfLaterSaves) {
+    Command(47);
+    const std::string before = File();
+    Desk.protectedFiles = {SETTINGS_FILE};
+    Options.border = 9;
+    Command(47);
+    EXPECT_EQ(File(), before);
+    EXPECT_EQ(Desk.files.size(), 1U);
+
+    Desk.protectedFiles = {"quorl.new"};
+    Desk.files["quorl.new"] = "";
+    Command(47);
+    EXPECT_NE(File(), before);
+    EXPECT_EQ(Desk.files.size(), 1U);
+}
+
 TEST_F(Settings, AnUnfinishedCopyOfAnEarlierRunCountsForNothing) {
     Command(47);
     const std::string whole = File();

@@ -70,3 +70,6 @@ UINT WINAPI GetWindowsDirectoryA(LPSTR folder, UINT size);
 BOOL WINAPI CopyFileA(LPCSTR from, LPCSTR to, BOOL bOnlyIfNew);
 BOOL WINAPI MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags);
 BOOL WINAPI DeleteFileA(LPCSTR file);
+constexpr DWORD FILE_ATTRIBUTE_READONLY = 1;
+constexpr DWORD FILE_ATTRIBUTE_NORMAL = 128;
+BOOL WINAPI SetFileAttributesA(LPCSTR file, DWORD attributes);

@@ -5,7 +5,9 @@
 #include "core/foreground.h"
 #include "core/keys.h"
 #include "core/state.h"
+#include "scroll/locked_windows.h"
 #include "scroll/scroll_view.h"
+#include "scroll/shift.h"
 #include "scroll/window_table.h"
 
 #include <cstring>
@@ -13,9 +15,18 @@
 static const int MINIMIZED = -32000; // where the platform keeps minimized windows
 static const int SLACK = 4;          // pixels: a maximized window's frame stands this far outside the screen
 
-// The last window that stayed where it was when the view went to it, as a locked or a hung one does.
-static HWND Unmoved;
-static RECT UnmovedPlace;
+namespace {
+
+// A window that stayed where it was when the view went to it, as a locked one does, and what held then.
+struct UnmovedRecord {
+    HWND window;
+    RECT place, quorl;
+    int bLocked;
+};
+
+} // namespace
+
+static UnmovedRecord Unmoved;
 
 POINT MiddleOf(const RECT& place) {
     return {(place.right - place.left) / 2 + place.left, (place.bottom - place.top) / 2 + place.top};
@@ -41,14 +52,20 @@ static int IsSameRect(const RECT& a, const RECT& b) {
     return !std::memcmp(&a, &b, sizeof a);
 }
 
-// A window that the view cannot reach by going there would draw it on, tick by tick, to the desktop's corner.
+// The view cannot reach it; going there again would draw the view on, tick by tick, to the desktop's corner.
+static int IsKnownUnmoved(HWND active, const RECT& place) {
+    return active == Unmoved.window && IsSameRect(place, Unmoved.place) && IsSameRect(Quorl, Unmoved.quorl) &&
+           IsLockedWindow(active) == Unmoved.bLocked;
+}
+
+// One that does not answer is gone to when it does: the view would leave and it could not come along.
 static void GoTo(HWND active, const RECT& place) {
-    if (active == Unmoved && IsSameRect(place, UnmovedPlace))
+    if (IsKnownUnmoved(active, place) || !IsAlive(active))
         return;
     RECT now{};
     CenterOnActiveWindow(active);
-    Unmoved = GetWindowRect(active, &now) && IsSameRect(now, place) ? active : nullptr;
-    UnmovedPlace = place;
+    if (GetWindowRect(active, &now) && IsSameRect(now, place))
+        Unmoved = {active, place, Quorl, IsLockedWindow(active)};
 }
 
 int FollowActiveWindow() {
@@ -56,6 +73,8 @@ int FollowActiveWindow() {
         return 0;
     const HWND active = GetForegroundWindow();
     RECT place{};
+    if (active != Unmoved.window)
+        Unmoved.window = nullptr;
     if (!IsManagedWindow(active) || !GetWindowRect(active, &place))
         return 0;
     const FollowNeed need = NeedToFollow(place, ScreenW(), ScreenH(), Quorl);

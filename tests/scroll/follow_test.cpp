@@ -85,6 +85,26 @@ TEST_F(Follow, AWindowThatStaysWhereItIsDoesNotDrawTheViewOnAndOn) {
     RowOf(editor).place = {1400, 100, 1600, 200};
     Wait(100);
     EXPECT_EQ(VDesk.left, 2076) << "another place is gone to";
+
+    ScrollView(MainWnd, 0, 0, SV_ABSOLUTE, 30);
+    Desk.foreground = OpenWindow("short", {0, 0, 90, 90});
+    Wait(100);
+    Desk.foreground = editor;
+    Wait(1000);
+    EXPECT_EQ(VDesk.left, 988) << "and so is a window that becomes active anew, once";
+
+    UnlockWindow(editor);
+    Wait(1000);
+    EXPECT_EQ(PlaceOf(editor).left, 412) << "one that is unlocked moves with the view";
+}
+
+TEST_F(Follow, AHungWindowIsGoneToWhenItAnswers) {
+    RowOf(editor).answer = DeskAnswer::Hung;
+    Wait(1000);
+    EXPECT_EQ(VDesk.left, 0);
+    RowOf(editor).answer = DeskAnswer::Answers;
+    Wait(1000);
+    EXPECT_EQ(PlaceOf(editor), Rect(412, 334, 612, 434));
 }
 
 TEST_F(Follow, TheActiveWindowIsCentredOnCommandAndStaysActive) {

@@ -27,20 +27,15 @@ TEST_F(ActiveWindow, MovesByItsRowsStep) {
 }
 
 TEST_F(ActiveWindow, GoesToTheScreensEdgesAndMiddle) {
-    const struct {
-        int row;
-        RECT place;
-    } cases[] = {
-        {104, {0, 300, 200, 400}   },
-        {105, {824, 300, 1024, 400}},
-        {106, {824, 0, 1024, 100}  },
-        {107, {824, 668, 1024, 768}},
-        {22,  {412, 334, 612, 434} },
-    };
-    for (const auto& [row, place] : cases) {
+    const auto placeAfter = [this](int row) {
         Command(row);
-        EXPECT_EQ(PlaceOf(active), place) << "row " << row;
-    }
+        return PlaceOf(active);
+    };
+    EXPECT_EQ(placeAfter(104), Rect(0, 300, 200, 400));
+    EXPECT_EQ(placeAfter(105), Rect(824, 300, 1024, 400));
+    EXPECT_EQ(placeAfter(106), Rect(824, 0, 1024, 100));
+    EXPECT_EQ(placeAfter(107), Rect(824, 668, 1024, 768));
+    EXPECT_EQ(placeAfter(22), Rect(412, 334, 612, 434));
 }
 
 TEST_F(ActiveWindow, StaysOnTheDesktopNotOnTheScreen) {

@@ -10,23 +10,18 @@ TEST_F(Navigation, TheNeighbourIsActivatedAndTheViewStays) {
     const HWND right = OpenWindow("right", {1500, 100, 1700, 300}); // off the screen
     const HWND middle = OpenWindow("middle", {400, 100, 600, 300});
     OpenWindow("", {400, 500, 600, 600}); // found below, and refused
-    const struct {
-        int row;
-        HWND reached;
-        std::size_t beeps;
-    } cases[] = {
-        {117, right,  0},
-        {118, left,   0},
-        {120, middle, 1},
-        {119, middle, 2},
-    };
     RebuildWindowTable();
-    for (const auto& [row, reached, beeps] : cases) {
+    const auto reached = [middle](int row) {
         Desk.foreground = middle;
         Command(row);
-        EXPECT_EQ(Desk.foreground, reached) << "row " << row;
-        EXPECT_EQ(Desk.beeps.size(), beeps) << "row " << row;
-    }
+        return Desk.foreground;
+    };
+    EXPECT_EQ(reached(117), right);
+    EXPECT_EQ(reached(118), left);
+    EXPECT_TRUE(Desk.beeps.empty());
+    EXPECT_EQ(reached(120), middle);
+    EXPECT_EQ(reached(119), middle);
+    EXPECT_EQ(Desk.beeps.size(), 2U);
     EXPECT_EQ(VDesk, Rect(0, 0, 1024, 768));
 }
 

@@ -44,23 +44,15 @@ TEST_F(ViewRows, EachRowTakesTheViewToItsScreenFromWhereverItStands) {
 }
 
 TEST_F(ViewRows, APointOnTheMapIsACornerAMiddleOrACell) {
-    const struct {
-        ActionId row;
-        POINT corner;
-    } cases[] = {
-        {1, {2048, 768}},
-        {2, {1536, 384}},
-        {4, {2048, 768}},
-    };
     RECT map{};
     GetClientRect(MainWnd, &map);
-    for (const auto& [row, corner] : cases) {
-        ActionPoint point{map.right / 2, map.bottom / 2}; // the desktop's middle
+    const ActionPoint middle{map.right / 2, map.bottom / 2}; // the desktop's: (2048, 768)
+    const auto goneTo = [](ActionId row, ActionPoint point) {
         DoAction(MainWnd, row, &point);
-        EXPECT_EQ(ViewCorner(), corner) << "row " << row;
-        EXPECT_EQ((POINT{point.x, point.y}), (POINT{2048, 768})) << "the point is overwritten";
-    }
-    ActionPoint point{map.right / 2 - 1, map.bottom / 2 - 1};
-    DoAction(MainWnd, 4, &point);
-    EXPECT_EQ(ViewCorner(), (POINT{1024, 0}));
+        return ViewCorner();
+    };
+    EXPECT_EQ(goneTo(1, middle), (POINT{2048, 768}));
+    EXPECT_EQ(goneTo(2, middle), (POINT{1536, 384}));
+    EXPECT_EQ(goneTo(4, middle), (POINT{2048, 768}));
+    EXPECT_EQ(goneTo(4, {middle.x - 1, middle.y - 1}), (POINT{1024, 0}));
 }

@@ -92,7 +92,8 @@ TEST_F(DragOnMap, TheTopmostManagedWindowIsFoundWhereItStandsNow) {
     const HWND above = OpenWindow("above", {100, 100, 500, 500});
     EnableWindow(OpenKnown("disabled", {100, 100, 500, 500}), FALSE);
     KillWindow(editor);
-    Command(6); // the view goes right by 100
+    Command(6);  // the view goes right by 100 ...
+    Command(12); // ... and down
     EXPECT_EQ(WindowAtDesktopPoint(300, 300), above);
     MoveWindow(above, 600, 100, 400, 400, TRUE); // after the snapshot
     EXPECT_EQ(WindowAtDesktopPoint(300, 300), below);

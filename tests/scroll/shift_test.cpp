@@ -45,6 +45,15 @@ TEST_F(Shift, AProgramThatDoesNotAnswerCostsItsPatienceOnceAndNothingElseSuffers
     EXPECT_EQ(PlaceOf(other).left, 630);
 }
 
+TEST_F(Shift, AMaximizedWindowIsRestoredIfTheUserWishes) {
+    ShowWindow(editor, SW_MAXIMIZE);
+    for (const int bRestored : {0, 1}) {
+        ActionTable[ROW_RESTORE_MAXIMIZED].value = bRestored;
+        ShiftWindows(30, 0);
+        EXPECT_EQ(IsZoomed(editor), !bRestored);
+    }
+}
+
 TEST_F(Shift, ALockedWindowStaysAndAListViewScrollsEvenThen) {
     const HWND kin = OpenKnown("kin", {10, 10, 50, 50}, "SysListView32 of a library");
     LockWindow(editor);

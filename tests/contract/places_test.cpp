@@ -37,24 +37,6 @@ TEST_F(Places, OnlyAWindowWithASizingFrameIsAskedForItsLimits) {
     EXPECT_EQ(PlaceOf(fixed), Rect(10, 20, 3010, 25));
 }
 
-TEST_F(Places, TheClientAreaLacksTheFrameOnEachSide) {
-    const struct {
-        DWORD style;
-        int least, most; // pixels of frame on each side
-    } rows[] = {
-        {WS_POPUP,                 0, 0 },
-        {WS_POPUP | WS_BORDER,     1, 1 },
-        {WS_POPUP | WS_THICKFRAME, 3, 12},
-    };
-    for (const auto& row : rows) {
-        RECT client;
-        ASSERT_TRUE(GetClientRect(OpenOwn(row.style), &client));
-        const int frame = (300 - client.right) / 2;
-        EXPECT_TRUE(frame >= row.least && frame <= row.most) << frame;
-        EXPECT_EQ(client, Rect(0, 0, 300 - 2 * frame, 200 - 2 * frame));
-    }
-}
-
 TEST_F(Places, ShowTellsWhetherItWasVisibleAndActivatesOnlyWhatWasHidden) {
     const HWND other = OpenOwn();
     const HWND window = OpenOwn();

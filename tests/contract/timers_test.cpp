@@ -1,4 +1,4 @@
-// Timers: their callbacks, their order, replacing and ending them.
+// Timers: their callbacks, replacing and ending them.
 #include "contract/contract_test.h"
 
 namespace {
@@ -30,13 +30,6 @@ TEST_F(Timers, ACallbackTakesTheProceduresPlace) {
     EXPECT_EQ(Ticks.size(), 1U);
     ASSERT_EQ(SeenOf({WM_TIMER}).size(), 1U);
     EXPECT_EQ(Seen.back().wParam, 2000U);
-}
-
-TEST_F(Timers, EachGoesAtItsOwnPaceAndTheEarlierDueComesFirst) {
-    SetTimer(window, 1, 150, Keep);
-    SetTimer(window, 2, 100, Keep);
-    Handle(220);
-    EXPECT_EQ(Ticks, (std::vector<UINT_PTR>{2, 1, 2}));
 }
 
 TEST_F(Timers, OneThatIsLateTicksOnceNotForEachPeriodMissed) {

@@ -1,4 +1,4 @@
-// Creation and end of windows, enumeration, look-up, texts.
+// Creation and end of windows, enumeration, look-up, texts; the icons of the notification area.
 #include "contract/contract_test.h"
 
 namespace {
@@ -14,20 +14,6 @@ TEST_F(Windows, CreationAsksForLimitsThenAnnouncesTheWindowThenItsPlace) {
     EXPECT_EQ(OpenOwn(WS_POPUP | WS_THICKFRAME), inside) << "WM_CREATE arrives before the call returns";
     EXPECT_EQ(SeenOf({WM_GETMINMAXINFO, WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE}),
               (Kinds{WM_GETMINMAXINFO, WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE}));
-}
-
-TEST_F(Windows, ANegativeSizeMakesAWindowWithoutSize) {
-    const HWND strip = OpenOwn(WS_POPUP | WS_BORDER, 0, {-1, -1, -2, -2});
-    EXPECT_EQ(PlaceOf(strip), Rect(-1, -1, -1, -1));
-    RECT client;
-    EXPECT_TRUE(GetClientRect(strip, &client));
-    EXPECT_EQ(client, Rect(0, 0, 0, 0));
-}
-
-TEST_F(Windows, TheDefaultAnswerToWmCloseEndsAWindowAndNoOtherProgramCan) {
-    SendMessageA(OpenOwn(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(SeenOf({WM_CLOSE, WM_DESTROY, WM_NCDESTROY}), (Kinds{WM_CLOSE, WM_DESTROY, WM_NCDESTROY}));
-    EXPECT_FALSE(DestroyWindow(OpenStranger("stays")));
 }
 
 TEST_F(Windows, WhatIsGoneAnswersNoToEverything) {
@@ -86,6 +72,21 @@ TEST_F(Windows, AWindowIsFoundByItsWholeTitleInAnyCaseAndTextsAreCutAtTheLimit) 
 TEST_F(Windows, OnlyALayeredWindowTakesAnOpacity) {
     EXPECT_TRUE(SetLayeredWindowAttributes(OpenOwn(WS_POPUP, WS_EX_LAYERED), 0, 128, LWA_ALPHA));
     EXPECT_FALSE(SetLayeredWindowAttributes(OpenOwn(), 0, 128, LWA_ALPHA));
+}
+
+TEST_F(Windows, AnIconStandsInTheNotificationAreaOnce) {
+    NOTIFYICONDATAA icon{};
+    icon.cbSize = NOTIFYICONDATAA_V1_SIZE;
+    EXPECT_EQ(icon.cbSize, sizeof(void*) == 4 ? 88u : 104u);
+    icon.hWnd = OpenOwn();
+    icon.uID = 1125;
+    icon.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
+    icon.uCallbackMessage = WM_USER;
+    icon.hIcon = LoadIconA(nullptr, IDI_APPLICATION);
+    EXPECT_FALSE(Shell_NotifyIconA(NIM_DELETE, &icon));
+    EXPECT_TRUE(Shell_NotifyIconA(NIM_ADD, &icon));
+    EXPECT_FALSE(Shell_NotifyIconA(NIM_ADD, &icon));
+    EXPECT_TRUE(Shell_NotifyIconA(NIM_DELETE, &icon));
 }
 
 } // namespace

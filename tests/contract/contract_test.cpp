@@ -17,7 +17,6 @@ static LRESULT CALLBACK KeepingProc(HWND window, UINT message, WPARAM wParam, LP
 }
 
 void Contract::SetUp() {
-    GroundSetUp();
     WNDCLASSA description{};
     description.style = CS_HREDRAW | CS_VREDRAW;
     description.lpfnWndProc = KeepingProc;

@@ -157,7 +157,7 @@ TEST_F(Controls, AListViewOfTheOwnersDataCountsAsksForTextsAndTellsTheSelection)
     LVCOLUMNA column{};
     column.mask = LVCF_WIDTH;
     column.cx = 120;
-    for (const WPARAM place : {0, 1})
+    for (const WPARAM place : {0U, 1U})
         Ask(dialog, 1051, LVM_INSERTCOLUMNA, place, reinterpret_cast<LPARAM>(&column));
     LVITEMA item{};
     for (item.iItem = 0; item.iItem < 3; ++item.iItem)
@@ -189,7 +189,7 @@ TEST_F(Controls, ATabControlAsksBeforeTheUserChangesTheTab) {
     TCITEMA tab{};
     tab.mask = TCIF_TEXT;
     tab.pszText = title;
-    for (const WPARAM place : {0, 1})
+    for (const WPARAM place : {0U, 1U})
         Ask(dialog, 1050, TCM_INSERTITEMA, place, reinterpret_cast<LPARAM>(&tab));
     EXPECT_EQ(Ask(dialog, 1050, TCM_GETCURSEL), 0);
     EXPECT_EQ(Ask(dialog, 1050, TCM_SETCURSEL, 1), 0) << "the one before";

@@ -19,8 +19,7 @@ enum class Manner {
 inline const RECT PLACE{100, 120, 400, 320}; // of windows, unless a case says otherwise
 inline const RECT RewrittenRecord{11, 22, 333, 244};
 
-// Before and after each case. The end closes what OpenStranger opened.
-void GroundSetUp();
+// After each case: closes what OpenStranger opened.
 void GroundTearDown();
 
 // The instance of this program, for classes and windows.
@@ -56,6 +55,5 @@ void WriteProfile(const char* file, const std::string& text);
 void RemoveProfile(const char* file);
 std::vector<std::string> ProfileLines(const char* file);
 
-// Whether this process was started to play another program, and that play until it is stopped.
-int IsStranger(int count, char** words);
-int PlayStranger(char** words);
+// Plays another program until it is stopped, if this process was started for that; else 0, at once.
+int PlayStranger(int count, char** words);

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 int main(int count, char** words) {
-    if (IsStranger(count, words))
-        return PlayStranger(words);
+    if (PlayStranger(count, words))
+        return 0;
     testing::InitGoogleTest(&count, words);
     return RUN_ALL_TESTS();
 }

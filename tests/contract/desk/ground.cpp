@@ -5,12 +5,6 @@
 
 #include <sstream>
 
-constexpr DWORD FOR_EVER = 1U << 30;
-
-void GroundSetUp() {
-    Desk.until = FOR_EVER;
-}
-
 void GroundTearDown() {}
 
 HINSTANCE Instance() {
@@ -46,7 +40,6 @@ void Handle(DWORD milliseconds) {
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0)
         DispatchMessageA(&message);
-    Desk.until = FOR_EVER;
 }
 
 void WriteProfile(const char* file, const std::string& text) {
@@ -69,10 +62,6 @@ std::vector<std::string> ProfileLines(const char* file) {
     return lines;
 }
 
-int IsStranger(int, char**) {
-    return 0;
-}
-
-int PlayStranger(char**) {
+int PlayStranger(int, char**) {
     return 0;
 }

@@ -29,15 +29,13 @@ static LRESULT CALLBACK StrangerProc(HWND window, UINT message, WPARAM wParam, L
     return TRUE;
 }
 
-int IsStranger(int count, char** words) {
-    return count == 4 && !std::strcmp(words[1], STRANGER);
-}
-
 void CALLBACK EndPlay(HWND, UINT, UINT_PTR, DWORD) {
     ExitProcess(1);
 }
 
-int PlayStranger(char** words) {
+int PlayStranger(int count, char** words) {
+    if (count != 4 || std::strcmp(words[1], STRANGER))
+        return 0;
     Played = static_cast<Manner>(std::atoi(words[2]));
     WNDCLASSA description{};
     description.lpfnWndProc = StrangerProc;
@@ -54,12 +52,10 @@ int PlayStranger(char** words) {
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0)
         DispatchMessageA(&message);
-    return 0;
+    return 1;
 }
 
 // The tests' side.
-
-void GroundSetUp() {}
 
 void GroundTearDown() {
     for (const HANDLE program : Programs) {

@@ -19,15 +19,8 @@ void MoveMouse(int x, int y) {
 }
 
 void PressMouse(int button, int bDown) {
-    const struct {
-        int key;
-        DWORD pressed, released;
-    } buttons[] = {
-        {VK_LBUTTON, MOUSEEVENTF_LEFTDOWN,   MOUSEEVENTF_LEFTUP  },
-        {VK_RBUTTON, MOUSEEVENTF_RIGHTDOWN,  MOUSEEVENTF_RIGHTUP },
-        {VK_MBUTTON, MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP},
-    };
-    for (const auto& row : buttons)
-        if (row.key == button)
-            Send(0, 0, bDown ? row.pressed : row.released);
+    if (button == VK_LBUTTON)
+        Send(0, 0, bDown ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP);
+    if (button == VK_RBUTTON)
+        Send(0, 0, bDown ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_RIGHTUP);
 }

@@ -42,13 +42,13 @@ struct Sent {
 
 const RECT RECORD{5, 6, 70, 80};
 
-Sent SendMoving(HWND window) {
+Sent SendMoving(HWND window, UINT patience) {
     Sent sent{0, 0, 0, RECORD};
     DWORD_PTR answer = 0;
     const DWORD start = Clock();
     SetLastError(12345);
     sent.result = SendMessageTimeoutA(window, WM_MOVING, 0, reinterpret_cast<LPARAM>(&sent.record),
-                                      SMTO_ABORTIFHUNG, 100, &answer);
+                                      SMTO_ABORTIFHUNG, patience, &answer);
     sent.error = GetLastError();
     sent.took = Clock() - start;
     return sent;
@@ -60,18 +60,19 @@ TEST_F(Messages, OtherProgramsTakeWmMovingEachInItsManner) {
         Manner manner;
         RECT record; // when it answers
         int bAnswers, bTimeout;
-        DWORD least, most; // milliseconds
+        UINT patience; // milliseconds, as what follows
+        DWORD least, most;
     } rows[] = {
-        {"answers",  Manner::Answers,  RECORD,          1, 0, 0,  400},
-        {"rewrites", Manner::Rewrites, RewrittenRecord, 1, 0, 0,  400},
-        {"slow",     Manner::Slow,     {},              0, 1, 90, 400},
-        {"hung",     Manner::Hung,     {},              0, 1, 0,  60 },
-        {"leaves",   Manner::Leaves,   {},              0, 0, 0,  90 },
+        {"answers",  Manner::Answers,  RECORD,          1, 0, 2000, 0,  2000},
+        {"rewrites", Manner::Rewrites, RewrittenRecord, 1, 0, 2000, 0,  2000},
+        {"slow",     Manner::Slow,     {},              0, 1, 100,  90, 450 },
+        {"hung",     Manner::Hung,     {},              0, 1, 2000, 0,  1000},
+        {"leaves",   Manner::Leaves,   {},              0, 0, 2000, 0,  2000},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.title);
         const HWND window = OpenStranger(row.title, row.manner);
-        const Sent sent = SendMoving(window);
+        const Sent sent = SendMoving(window, row.patience);
         EXPECT_EQ(sent.result != 0, row.bAnswers);
         EXPECT_EQ(sent.error == ERROR_TIMEOUT, row.bTimeout);
         EXPECT_TRUE(sent.took >= row.least && sent.took < row.most) << sent.took;
@@ -87,9 +88,9 @@ TEST_F(Messages, AWindowOfThisProgramTakesWmMovingUnlessItIsGone) {
         reinterpret_cast<RECT*>(arrived.lParam)->left = 99;
         return TRUE;
     };
-    EXPECT_EQ(SendMoving(own).record, Rect(99, 6, 70, 80));
+    EXPECT_EQ(SendMoving(own, 2000).record, Rect(99, 6, 70, 80));
     DestroyWindow(own);
-    const Sent gone = SendMoving(own);
+    const Sent gone = SendMoving(own, 2000);
     EXPECT_EQ(gone.result, 0);
     EXPECT_EQ(gone.error, ERROR_INVALID_WINDOW_HANDLE);
 }

@@ -15,8 +15,10 @@ LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<LRESULT>(answer);
 }
 
+// A click must not land where the mouse was before.
 void ClickAt(POINT screen) {
-    MoveMouse(screen);
+    for (int tries = 0; tries < 5 && (MousePlace().x != screen.x || MousePlace().y != screen.y); ++tries)
+        MoveMouse(screen);
     Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
 }
 

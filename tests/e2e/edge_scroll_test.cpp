@@ -17,7 +17,7 @@ void FollowMouse() {
 
 } // namespace
 
-TEST(EdgeScroll, IsOffUntilAskedForAndNoHungProgramHoldsTheMouse) {
+TEST(EdgeScroll, IsOffUntilAskedForAndSurvivesAHungProgram) {
     const HWND editor = OpenWindow("editor", EDITOR); // undermost: moved last
     OpenWindow("hung", {100, 100, 300, 300}, "hung");
     StartQuorl();

@@ -93,6 +93,7 @@ void DragTheMap() {
 
 void OpenMenu(const char* act) {
     Insist(Soon([] { return OpenedMenu() != nullptr; }, true), "the menu");
+    Sleep(500); // under Wine it loses keys at first
     const Place menu = PlaceOf(OpenedMenu());
     Say("  %s: the menu opens at %d, %d", act, menu.left, menu.top);
 }
@@ -156,7 +157,7 @@ const char* const FileLines[][2] = {
     {"quorl_pos.right",  "460"                           },
     {"quorl_pos.bottom", "220"                           },
     {"Action14",         "-1|-1|6|82|0"                  }, // the map to the right: Ctrl+Alt+R
-    {"Action35",         "-1|-1|6|69|0"                  }, // to the right edge: Ctrl+Alt+E
+    {"Action35",         "-1|-1|6|69|0"                  }, // to the right edge, at the top: Ctrl+Alt+E
     {"Action36",         "-1|-1|6|78|0"                  }, // next region: Ctrl+Alt+N
     {"Action37",         "-1|-1|6|80|0"                  }, // previous region: Ctrl+Alt+P
     {"Action60",         "-1|-1|6|65|0"                  }, // one more desktop: Ctrl+Alt+A
@@ -170,6 +171,7 @@ void StartWithFile() {
     OpenPrograms();
     for (const auto& [key, value] : FileLines)
         Store(key, value);
+    MoveMouse({500, 600}); // away from the edges, over which Quorl follows it now
     StartQuorl();
     ShowMap("quorl.exe starts with three regions and keys of our own in quorl.ini");
     TakePicture("6-regions");
@@ -210,6 +212,7 @@ void DragABox() {
     for (int step = 1; step <= STEPS; ++step)
         MoveOn(clock.window, {at.x + way.x * step / STEPS, at.y + way.y * step / STEPS});
     PressButton(MOUSEEVENTF_LEFTUP);
+    Sleep(500); // the last step may be under way
     clock.home = PlaceOf(clock.window);
     Say("  left button drags the clock's box into web: the clock is at %d, %d", clock.home.left,
         clock.home.top);
@@ -235,7 +238,7 @@ void PushAtTheEdge() {
 void Rearrange() {
     PressKeys({VK_CONTROL, VK_MENU, 'A'});
     PressKeys({VK_CONTROL, VK_MENU, 'E'});
-    SeeView("Ctrl+Alt+A adds a desktop on the right, Ctrl+Alt+E goes there", 4 * SCREEN_W, SCREEN_H);
+    SeeView("Ctrl+Alt+A adds a desktop on the right, Ctrl+Alt+E goes there", 4 * SCREEN_W, 0);
     const Place wanted = Moved(PlaceOf(QuorlWindow()), 100, 0);
     PressKeys({VK_CONTROL, VK_MENU, 'R'});
     Insist(Soon([] { return PlaceOf(QuorlWindow()); }, wanted) == wanted, "the map 100 pixels to the right");

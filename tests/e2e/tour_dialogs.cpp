@@ -46,17 +46,18 @@ void BindAKey() {
     const HWND options = OpenByRow(54, "Options...");
     const HWND dialog = OpenByButton(options, ACTIONS_BUTTON, "Actions...");
     CloseBy(options, IDOK);
-    Until([] { return StandAt(SCREEN_W, 0); },
+    Until([] { return Stored("Action30") == "-1|-1|6|81|0"; },
           [dialog] {
               PressItem(Control(dialog, LIST), RIGHT_BY_SCREEN);
               ChooseLetter(Control(dialog, KEYS), 'Q');
               Press(Control(dialog, APPLY));
-              PressKeys({VK_CONTROL, VK_MENU, 'Q'});
+              DoRow(SAVE);
           });
-    SeeView("Apply: Ctrl+Alt+Q moves one desktop to the right", SCREEN_W, 0);
-    GoHome();
     TakePicture("11-actions");
     CloseBy(dialog, IDOK);
+    PressKeys({VK_CONTROL, VK_MENU, 'Q'});
+    SeeView("Apply: Ctrl+Alt+Q moves one desktop to the right", SCREEN_W, 0);
+    GoHome();
 }
 
 void ComposeMenu() {

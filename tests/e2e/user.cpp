@@ -162,8 +162,21 @@ void DoRow(int row) {
 }
 
 void Activate(HWND window) {
-    SetForegroundWindow(window);
-    EXPECT_SOON(GetForegroundWindow(), window);
+    const auto isActive = [window] { return GetForegroundWindow() == window; };
+    Until(isActive, [&] {
+        SetForegroundWindow(window);
+        Soon(isActive, true);
+        Settle(window);
+    });
+    EXPECT_TRUE(isActive()) << TextOf(window);
+}
+
+// Quorl and the window's program do all that an activation means to them; one that comes in between is undone
+// under Wine.
+void Settle(HWND window) {
+    EXPECT_TRUE(Answers(QuorlWindow()) || !QuorlWindow());
+    EXPECT_TRUE(Answers(window));
+    Sleep(200);
 }
 
 Place PlaceOf(HWND window) {

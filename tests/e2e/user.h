@@ -52,8 +52,9 @@ bool PressKeys(std::initializer_list<WORD> keys);
 void PressInTurn(std::initializer_list<WORD> keys);
 // Has Quorl run a row of its table as if by a hotkey, after all that it was told before.
 void DoRow(int row);
-// Makes a window the one that the user types into.
+// Makes a window the one that the user types into, and waits until it has settled there.
 void Activate(HWND window);
+void Settle(HWND window);
 
 Place PlaceOf(HWND window);
 std::string TextOf(HWND window);

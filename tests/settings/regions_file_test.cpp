@@ -15,7 +15,7 @@ TEST_F(RegionsFile, ANameReadsBackAsItIsShownAfterSaving) {
         std::snprintf(RegionTable[0].name, sizeof RegionTable[0].name, "%s", name);
         num_regions = 1;
         Command(47);
-        const std::string shown = RegionTable[0].name;
+        std::string shown = RegionTable[0].name;
         RegionTable[0] = {};
         Command(48);
         const RegionRow& read = RegionTable[0];

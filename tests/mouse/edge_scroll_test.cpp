@@ -18,6 +18,7 @@ TEST(EdgeDecision, TheFirstEdgeDecidesAndTheCursorLandsInsideTheOppositeOne) {
         {{500, 766},  1,  DIR_DOWN,  {2048, 900},  {500, 683} },
         {{500, 2},    2,  DIR_UP,    {2048, 0},    {500, 785} },
         {{1022, 300}, -1, DIR_RIGHT, {2058, 800},  {1029, 300}}, // an unknown type goes by 10
+        {{500, 766},  -1, DIR_DOWN,  {2048, 810},  {500, 773} },
         {{1019, 763}, 3,  DIR_NONE,  {2048, 800},  {1019, 763}}, // just not at any edge
         {{5, 5},      3,  DIR_NONE,  {2048, 800},  {5, 5}     },
     };

@@ -161,7 +161,7 @@ TEST_F(MouseNews, AfterAnyFailedCallTheNextNewsScrollsAgain) {
     do {
         GoBack();
         Desk.fault = {"", ++nth, 0, 0, 0};
-        News(WM_RBUTTONDOWN, RIGHT_EDGE);
+        EXPECT_EQ(News(WM_RBUTTONDOWN, RIGHT_EDGE), nth > 2);
         EXPECT_EQ(VDesk.left == 2048, nth > 2) << "only without news or a cursor nothing happens, " << nth;
         Desk.fault.callsLeft = 0;
         GoBack();

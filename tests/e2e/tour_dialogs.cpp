@@ -133,7 +133,8 @@ void ResizeAWindow() {
               Press(Control(dialog, APPLY));
           });
     const Place now = PlaceOf(notepad.window);
-    Say("  Apply: notepad is %d x %d in size", now.right - now.left, now.bottom - now.top);
+    Say("  Apply: notepad is at %d, %d and %d x %d in size", now.left, now.top, now.right - now.left,
+        now.bottom - now.top);
     Insist(now == notepad.home, "420 x 300");
     TakePicture("16-resize");
     CloseBy(dialog, OK);

@@ -62,14 +62,12 @@ constexpr DWORD WS_OVERLAPPEDWINDOW = 0x00CF0000;
 constexpr DWORD WS_EX_TOPMOST = 0x00000008;
 constexpr DWORD WS_EX_TOOLWINDOW = 0x00000080;
 constexpr DWORD WS_EX_LAYERED = 0x00080000;
-constexpr DWORD WS_EX_NOACTIVATE = 0x08000000;
 
 constexpr int SW_HIDE = 0;
 constexpr int SW_MAXIMIZE = 3;
 constexpr int SW_SHOWNOACTIVATE = 4;
 constexpr int SW_SHOW = 5;
 constexpr int SW_MINIMIZE = 6;
-constexpr int SW_SHOWNA = 8;
 constexpr int SW_RESTORE = 9;
 
 constexpr int GWLP_HINSTANCE = -6;

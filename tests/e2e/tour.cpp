@@ -169,15 +169,13 @@ const char* const FileLines[][2] = {
     {"Action60",         "-1|-1|6|65|0"                  }, // one more desktop: Ctrl+Alt+A
     {"Action38",         "-1|-1|-1|-1|0"                 },
     {"Action39",         "0|8|-1|-1|0"                   }, // left button: drag a window's box
-    {"Action85",         "-1|-1|-1|-1|1"                 }, // follow the mouse over the screen's edge
-    {"Action114",        "-1|-1|-1|-1|0"                 }, // and take the cursor along
+    {"Action114",        "-1|-1|-1|-1|0"                 }, // take the cursor along over the screen's edge
 };
 
 void StartWithFile() {
     OpenPrograms();
     for (const auto& [key, value] : FileLines)
         Store(key, value);
-    MoveMouse({500, 600}); // away from the edges, over which Quorl follows it now
     StartQuorl();
     ShowMap("quorl.exe starts with three regions and keys of our own in quorl.ini");
     TakePicture("6-regions");
@@ -228,7 +226,11 @@ void DragABox() {
     TakePicture("8-drag");
 }
 
+// On for this chapter only: under Wine news of a mouse at rest in a corner may come late.
 void PushAtTheEdge() {
+    constexpr int FOLLOW_MOUSE = 85;
+    DoRow(FOLLOW_MOUSE);
+    MoveMouse({500, 600});
     PushMouseTo({SCREEN_W - 1, 600});
     SeeView("the mouse goes over the right edge", 2 * SCREEN_W, SCREEN_H);
     constexpr LONG LANDING = 15; // three borders from the other edge
@@ -238,6 +240,7 @@ void PushAtTheEdge() {
     MoveMouse({500, 600});
     PushMouseTo({0, 600});
     SeeView("and back over the left edge", SCREEN_W, SCREEN_H);
+    DoRow(FOLLOW_MOUSE);
     MoveMouse({500, 600});
 }
 

@@ -18,6 +18,15 @@ void GoHome() {
     SeeView("Ctrl+Alt+Shift+0 jumps home", 0, 0);
 }
 
+// Waits until Quorl has looked at the desktop and moves the dialog with the view, as it does each window. One
+// that it did not know when the view left would be carried off when the view comes back.
+HWND OpenAndBeKnown(int row, const char* title) {
+    constexpr DWORD LONGEST_LOOK = 2000; // ms
+    const HWND dialog = OpenByRow(row, title);
+    Sleep(LONGEST_LOOK);
+    return dialog;
+}
+
 std::string Joined(const std::vector<std::string>& texts) {
     std::string all;
     for (const std::string& text : texts)
@@ -95,7 +104,7 @@ void NameTheView() {
 void FindAWindow() {
     constexpr int LIST = 1041;
     const Exhibit& mines = Exhibits[WINEMINE];
-    const HWND dialog = OpenByRow(52, "Find Windows...");
+    const HWND dialog = OpenAndBeKnown(52, "Find Windows...");
     const HWND list = Control(dialog, LIST);
     Say("  it lists %s", Joined(ListTexts(list)).c_str());
     TakePicture("14-find-window");
@@ -109,7 +118,7 @@ void FindAWindow() {
 
 void FindARegion() {
     constexpr int LIST = 1041;
-    const HWND dialog = OpenByRow(111, "Find Region...");
+    const HWND dialog = OpenAndBeKnown(111, "Find Region...");
     const HWND list = Control(dialog, LIST);
     Say("  it lists %s", Joined(ListTexts(list)).c_str());
     TakePicture("15-find-region");

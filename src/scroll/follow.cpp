@@ -64,8 +64,8 @@ static void GoTo(HWND active, const RECT& place) {
         return;
     RECT now{};
     CenterOnActiveWindow(active);
-    if (GetWindowRect(active, &now) && IsSameRect(now, place))
-        Unmoved = {active, place, Quorl, IsLockedWindow(active)};
+    const int bStayed = GetWindowRect(active, &now) && IsSameRect(now, place);
+    Unmoved = {bStayed ? active : nullptr, place, Quorl, IsLockedWindow(active)};
 }
 
 int FollowActiveWindow() {

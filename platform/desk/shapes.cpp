@@ -1,5 +1,7 @@
-// Lines and rectangles: recorded with the tools that draw them.
+// Lines and rectangles: recorded with the tools that draw them, and played back where a pixel is asked for.
 #include "ground.h"
+
+#include <algorithm>
 
 void Record(const DeskContext& on, const char* what, const RECT& rect) {
     if (!Desk.bTrace)
@@ -45,6 +47,7 @@ BOOL Rectangle(HDC context, int left, int top, int right, int bottom) {
     return on != nullptr;
 }
 
+// An edge or a polygon is only remembered: no pixel of it is ever asked for.
 BOOL DrawEdge(HDC context, RECT* rect, UINT edge, UINT flags) {
     const DeskContext* on = Fails("DrawEdge") ? nullptr : ContextOf(context);
     if (!on)
@@ -70,4 +73,53 @@ BOOL DrawFocusRect(HDC context, const RECT* rect) {
     if (on)
         Record(*on, "DrawFocusRect", *rect);
     return on != nullptr;
+}
+
+static COLORREF Mixed(COLORREF pen, COLORREF ground, int rop) {
+    return rop == R2_MERGEPENNOT ? pen | (~ground & 0xffffff) : pen;
+}
+
+// The far sides belong to no rectangle.
+static int IsInside(const RECT& rect, int x, int y) {
+    return x >= rect.left && x < rect.right && y >= rect.top && y < rect.bottom;
+}
+
+static int IsOnFrame(const RECT& rect, int x, int y) {
+    return IsInside(rect, x, y) &&
+           (x == rect.left || x == rect.right - 1 || y == rect.top || y == rect.bottom - 1);
+}
+
+// A level or upright line of one pixel's width; its end belongs to the next line.
+static int IsOnLine(const RECT& line, int x, int y) {
+    if (x == line.right && y == line.bottom)
+        return 0;
+    return x >= std::min(line.left, line.right) && x <= std::max(line.left, line.right) &&
+           y >= std::min(line.top, line.bottom) && y <= std::max(line.top, line.bottom);
+}
+
+static COLORREF After(const DeskStroke& stroke, int x, int y, COLORREF ground) {
+    const RECT& rect = stroke.rect;
+    if (!IsInside(stroke.clip, x, y))
+        return ground;
+    if (stroke.what == "LineTo")
+        return IsOnLine(rect, x, y) ? Mixed(stroke.pen.color, ground, stroke.rop) : ground;
+    if (stroke.what == "DrawFocusRect") // every second pixel is inverted
+        return IsOnFrame(rect, x, y) && (x + y) % 2 ? ground ^ 0xffffff : ground;
+    if (stroke.what == "FillRect")
+        return IsInside(rect, x, y) ? stroke.fill : ground;
+    if (stroke.what != "Rectangle" || !IsInside(rect, x, y))
+        return ground;
+    return Mixed(IsOnFrame(rect, x, y) ? stroke.pen.color : stroke.fill, ground, stroke.rop);
+}
+
+COLORREF GetPixel(HDC context, int x, int y) {
+    const DeskContext* on = Fails("GetPixel") ? nullptr : ContextOf(context);
+    const DeskWindow* row = on ? Living(on->window) : nullptr;
+    if (!row || !IsInside(ClientArea(*row), x, y))
+        return CLR_INVALID;
+    COLORREF color = 0xffffff;
+    for (const DeskStroke& stroke : Desk.strokes)
+        if (stroke.window == on->window)
+            color = After(stroke, x, y, color);
+    return color;
 }

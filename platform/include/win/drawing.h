@@ -23,6 +23,8 @@ constexpr int PS_DOT = 2;
 constexpr int R2_COPYPEN = 13;
 constexpr int R2_MERGEPENNOT = 14;
 
+constexpr COLORREF CLR_INVALID = 0xffffffff;
+
 constexpr UINT DT_WORDBREAK = 0x10;
 constexpr UINT DT_NOPREFIX = 0x800;
 constexpr UINT DT_END_ELLIPSIS = 0x8000;
@@ -66,3 +68,4 @@ BOOL WINAPI Rectangle(HDC context, int left, int top, int right, int bottom);
 BOOL WINAPI DrawEdge(HDC context, RECT* rect, UINT edge, UINT flags);
 BOOL WINAPI Polygon(HDC context, const POINT* points, int count);
 BOOL WINAPI DrawFocusRect(HDC context, const RECT* rect);
+COLORREF WINAPI GetPixel(HDC context, int x, int y);

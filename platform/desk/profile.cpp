@@ -21,7 +21,7 @@ struct Entry {
 static Line LineAt(const std::string& text, std::size_t start) {
     const std::size_t end = text.find('\n', start);
     Line line{start, end == std::string::npos ? text.size() : end};
-    if (line.end > line.start && text[line.end - 1] == '\r')
+    if (end != std::string::npos && line.end > line.start && text[line.end - 1] == '\r')
         --line.end;
     return line;
 }
@@ -31,8 +31,9 @@ static std::size_t NextLine(const std::string& text, std::size_t start) {
     return end == std::string::npos ? text.size() : end + 1;
 }
 
+// A carriage return that ends no line is one.
 static int IsBlank(char letter) {
-    return letter == ' ' || letter == '\t';
+    return letter == ' ' || letter == '\t' || letter == '\r';
 }
 
 static std::string_view Trimmed(const std::string& text, std::size_t from, std::size_t to) {

@@ -1,10 +1,12 @@
 // What the frequent deeds cost among real windows of another program, each beside its bare platform calls,
 // taking turns in one run; and what a start is spent on.
 //   quorl_bench.exe            all of it
+//   quorl_bench.exe N          among N windows only, without the starts
 //   quorl_bench.exe --play N   the other program, with N windows
 //   quorl_bench.exe --start    one start, its parts
 #include "deeds.h"
 
+#include "actions/default_bindings.h"
 #include "actions/hotkeys.h"
 #include "core/main.h"
 #include "core/state.h"
@@ -111,7 +113,7 @@ double TimeOf(void (*does)()) {
 
 // Prints the medians of both sides, and that of the ratios of neighbours, which one slow moment hardly moves.
 void Measure(const Deed& deed, int windows) {
-    const int rounds = windows >= 1000 ? 15 : 51;
+    const int rounds = windows >= 1000 ? 5 : 51; // a scroll of a thousand takes half a minute
     std::vector<double> quorl, bare, ratios;
     deed.quorl();
     deed.bare();
@@ -226,13 +228,18 @@ int main(int count, char** words) {
         return Play(std::atoi(words[2]));
     if (count == 2 && std::strcmp(words[1], "--start") == 0)
         return StartOnce();
-    MeasureStarts();
+    const int only = count == 2 ? std::atoi(words[1]) : 0;
+    if (!only)
+        MeasureStarts();
     if (!StartUp(GetModuleHandleA(nullptr)))
         return 1;
     UpdateWindow(MainWnd);
     std::printf("%-22s %5s %12s %12s %8s\n", "deed", "among", "quorl us", "bare us", "ratio");
-    for (const int windows : {10, 100, 1000})
-        MeasureAmong(windows);
+    if (only)
+        MeasureAmong(only);
+    else
+        for (const int windows : {10, 100, 1000})
+            MeasureAmong(windows);
     End();
     return 0;
 }

@@ -6,7 +6,7 @@
 #include "actions/program_rows.h"
 #include "actions/toolwin_rows.h"
 #include "actions/view_rows.h"
-#include "core/quit.h"
+#include "core/state.h"
 #include "dialogs/dialog_rows.h"
 #include "menus/action_menu.h"
 #include "regions/region_rows.h"
@@ -168,7 +168,7 @@ static int JumpToRegion(HWND window, int region) {
 }
 
 int DoAction(HWND window, int id, ActionPoint* point) {
-    if (IsQuitting())
+    if (bQuitting)
         return 0; // the windows are folded back by now
     if (id > NUM_ACTIONS)
         return JumpToRegion(window, id - FIRST_REGION_ID);

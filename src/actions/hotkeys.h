@@ -14,10 +14,6 @@ int ClearActionKey(HWND window, ActionId row, DWORD kinds);
 
 void ClearAllActionKeys(HWND window);
 
-// The combinations that a new user finds. A refused one is reported; the others still work. Where the
-// settings are about to be loaded, a row with a line of its own in the file gets no hotkey here.
-void SetDefaultBindings(HWND window);
-
 // Pure but for the keyboard's layout: the virtual key for a key value as rows and lists hold it, with the
 // shift state of VkKeyScanA in the high byte, or -1. `key` is overwritten with the value that was looked up.
 int VirtualKey(int* key);

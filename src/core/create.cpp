@@ -2,7 +2,7 @@
 #include "core/create.h"
 
 #include "actions/action_table.h"
-#include "actions/hotkeys.h"
+#include "actions/default_bindings.h"
 #include "core/coordinates.h"
 #include "core/quit.h"
 #include "core/state.h"

@@ -4,7 +4,6 @@
 #include "actions/action_table.h"
 #include "core/crash.h"
 #include "core/main_window.h"
-#include "core/quit.h"
 #include "core/state.h"
 #include "dialogs/registry.h"
 #include "menus/tray.h"
@@ -99,7 +98,7 @@ int StartUp(HINSTANCE instance) {
         MessageBoxA(nullptr, "Can't start app.", "Alas!", MB_OK);
         return 0;
     }
-    if (IsQuitting())
+    if (bQuitting)
         return 1; // a box of the creation let the user do so; the message loop ends at once
     if (pSetLayeredWindowAttributes)
         pSetLayeredWindowAttributes(MainWnd, 0, static_cast<BYTE>(Options.alpha), LWA_ALPHA);

@@ -2,16 +2,12 @@
 #include "core/quit.h"
 
 #include "actions/hotkeys.h"
+#include "core/state.h"
 #include "menus/tray.h"
 #include "scroll/gather.h"
 #include "settings/settings.h"
 
-static int bQuitting;
 static int bMaySave;
-
-int IsQuitting() {
-    return bQuitting;
-}
 
 void SavingMakesSense() {
     bMaySave = 1;

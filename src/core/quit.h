@@ -15,6 +15,3 @@ int ConfirmQuit(HWND window);
 // Windows ends the process after this, without the message loop: the settings are saved if row 72 says so.
 // `bOthersStay`: only Quorl is ended, as for an update; then the windows fold back onto the screen too.
 void EndWithSession(HWND window, int bOthersStay);
-
-// 1 from the user's Yes on. News that still waits in the queue must not move windows that are folded back.
-int IsQuitting();

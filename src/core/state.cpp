@@ -11,6 +11,7 @@ HWND TipWnd;
 HINSTANCE AppInstance;
 HBRUSH BackBrush;
 HICON TrayImage;
+int bQuitting;
 
 decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;
 decltype(&LockWorkStation) pLockWorkStation;

@@ -44,6 +44,10 @@ extern HINSTANCE AppInstance; // for dialogs
 extern HBRUSH BackBrush;      // the class's background
 extern HICON TrayImage;       // 16 by 16 pixels
 
+// 1 from the user's Yes to "QUIT?" on, which only ConfirmQuit notes. News that still waits in the queue must
+// not move windows that are folded back.
+extern int bQuitting;
+
 // Null where the running system lacks the function.
 extern decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;
 extern decltype(&LockWorkStation) pLockWorkStation;

@@ -2,7 +2,6 @@
 #include "scroll/shift.h"
 
 #include "actions/action_table.h"
-#include "core/quit.h"
 #include "core/state.h"
 #include "scroll/locked_windows.h"
 #include "scroll/window_table.h"
@@ -77,7 +76,7 @@ static void ShiftWindow(HWND window, int dx, int dy) {
 }
 
 void ShiftWindows(int dx, int dy) {
-    if (IsQuitting())
+    if (bQuitting)
         return;
     for (int row = 0; row < num_windows; ++row) {
         const HWND window = WindowTable[row].hwnd;

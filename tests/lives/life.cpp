@@ -3,7 +3,6 @@
 
 #include "actions/dispatch.h"
 #include "core/main.h"
-#include "core/quit.h"
 #include "dialogs/registry.h"
 #include "menus/menu_list.h"
 #include "mouse/hook_mouse.h"
@@ -278,7 +277,7 @@ void ExpectAllGivenBack() {
             windows.push_back(window);
     AnswerAll(IDYES);
     Command(QUIT_ROW);
-    EXPECT_TRUE(IsQuitting());
+    EXPECT_TRUE(bQuitting);
     ShutDown();
     for (const HWND window : windows) {
         const RECT place = PlaceOf(window);

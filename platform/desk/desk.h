@@ -245,6 +245,7 @@ struct DeskState {
     BYTE keysRead[256] = {}; // GetKeyState: as of the last input message that the thread has read
     std::vector<DeskHotkey> hotkeys;
 
+    int pixelsPerInch{96};
     std::vector<RECT> monitors{
         {0, 0, 1024, 768}
     };                    // the first is the primary one

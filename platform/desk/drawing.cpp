@@ -114,6 +114,11 @@ int ReleaseDC(HWND, HDC context) {
     return !Fails("ReleaseDC") && Release(context);
 }
 
+int GetDeviceCaps(HDC context, int index) {
+    const bool bKnown = !Fails("GetDeviceCaps") && ContextOf(context) && index == LOGPIXELSX;
+    return bKnown ? Desk.pixelsPerInch : 0;
+}
+
 DWORD GetSysColor(int index) {
     constexpr COLORREF grey = 0xc0c0c0;
     if (Fails("GetSysColor"))

@@ -14,7 +14,7 @@ constexpr int TRAY_ICON_RESOURCE = 118;
 static const DWORD BASE_STYLE = WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
 
 static HMODULE HookLibrary;
-static void(WINAPI* pSetMouseHook)(int);
+static void (*pSetMouseHook)(int);
 
 static void RegisterMainClass(HINSTANCE instance) {
     WNDCLASSA description{};
@@ -71,7 +71,7 @@ static void StartMouseHook() {
         TurnEdgeScrollingOff();
         return;
     }
-    if (const auto SaveSharedData = Find<void(WINAPI*)(HWND)>(HookLibrary, "SaveSharedData"))
+    if (const auto SaveSharedData = Find<void (*)(HWND)>(HookLibrary, "SaveSharedData"))
         SaveSharedData(MainWnd);
     pSetMouseHook = Find<decltype(pSetMouseHook)>(HookLibrary, "SetMouseHook");
     if (pSetMouseHook) {

@@ -40,7 +40,7 @@ struct TabControl {
 };
 
 struct ListColumn {
-    int width; // pixels, in a list of LIST_WIDTH
+    int width; // pixels, on a display that is not scaled
     const char* title;
 };
 
@@ -76,7 +76,7 @@ static const TabControl TabControls[] = {
 
 static const char* const TabTitles[] = {"Keyboard Actions", "Mouse Actions"};
 
-static const int LIST_WIDTH = 356; // pixels, on a display that is not scaled
+static const int NOT_SCALED = 96; // pixels an inch
 
 static const ListColumn Columns[] = {
     {120, "ActionKeys" },
@@ -297,16 +297,22 @@ static void InsertTabs(HWND tabs) {
     SendMessageA(tabs, TCM_SETCURSEL, 0, 0);
 }
 
-// On a scaled display the columns grow with the list, or the texts would be cut off.
+static int PixelsPerInch(HWND window) {
+    const HDC context = GetDC(window);
+    const int pixels = GetDeviceCaps(context, LOGPIXELSX);
+    ReleaseDC(window, context);
+    return pixels ? pixels : NOT_SCALED;
+}
+
+// On a scaled display the columns grow with the texts, which would be cut off.
 static void InsertColumns(HWND list) {
-    RECT area{};
-    GetWindowRect(list, &area);
+    const int inch = PixelsPerInch(list);
     WPARAM place = 0;
     for (const ListColumn& row : Columns) {
         LVCOLUMNA column{};
         column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT;
         column.fmt = LVCFMT_LEFT;
-        column.cx = Scaled(row.width, area.right - area.left, LIST_WIDTH);
+        column.cx = Scaled(row.width, inch, NOT_SCALED);
         column.pszText = ReadOnly(row.title);
         SendMessageA(list, LVM_INSERTCOLUMNA, place++, reinterpret_cast<LPARAM>(&column));
     }

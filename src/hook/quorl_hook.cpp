@@ -173,7 +173,7 @@ static void EndWatching() {
         ForgetWatcher();
 }
 
-void WINAPI SaveSharedData(HWND window) {
+void SaveSharedData(HWND window) {
     const int bWatching = !HasEnded(0) && window != MainWindow;
     if (bWatching)
         EndWatching();
@@ -182,7 +182,7 @@ void WINAPI SaveSharedData(HWND window) {
         BeginWatching();
 }
 
-void WINAPI SetMouseHook(int bWatch) {
+void SetMouseHook(int bWatch) {
     if (bWatch)
         BeginWatching();
     else

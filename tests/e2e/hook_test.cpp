@@ -66,8 +66,8 @@ class HookLibrary : public testing::Test {
     HMODULE library = nullptr;
     HWND window = nullptr;
     std::vector<DWORD> threadsBefore;
-    void(WINAPI* SaveSharedData)(HWND) = nullptr;
-    void(WINAPI* SetMouseHook)(int) = nullptr;
+    void (*SaveSharedData)(HWND) = nullptr;
+    void (*SetMouseHook)(int) = nullptr;
 
     void SetUp() override {
         MoveMouse(TARGET);

@@ -23,6 +23,8 @@ constexpr int PS_DOT = 2;
 constexpr int R2_COPYPEN = 13;
 constexpr int R2_MERGEPENNOT = 14;
 
+constexpr int LOGPIXELSX = 88;
+
 constexpr COLORREF CLR_INVALID = 0xffffffff;
 
 constexpr UINT DT_WORDBREAK = 0x10;
@@ -46,6 +48,7 @@ HDC WINAPI BeginPaint(HWND window, PAINTSTRUCT* paint);
 BOOL WINAPI EndPaint(HWND window, const PAINTSTRUCT* paint);
 HDC WINAPI GetDC(HWND window);
 int WINAPI ReleaseDC(HWND window, HDC context);
+int WINAPI GetDeviceCaps(HDC context, int index);
 
 DWORD WINAPI GetSysColor(int index);
 HBRUSH WINAPI GetSysColorBrush(int index);

@@ -24,6 +24,7 @@ namespace {
 constexpr char PLAYER_CLASS[] = "QuorlBenchPlayer";
 constexpr UINT CALM_MESSAGE = WM_APP; // answered when everything that waits has been handled
 constexpr int STARTS = 11;
+constexpr int COLUMNS = 34;
 
 double Now() { // milliseconds
     LARGE_INTEGER count, second;
@@ -50,6 +51,8 @@ LRESULT CALLBACK PlayerProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
+// Side by side: where a thousand windows lie over each other, a system is busy with what of each is to be
+// seen.
 int Play(int count) {
     WNDCLASSA type{};
     type.lpfnWndProc = PlayerProc;
@@ -57,8 +60,9 @@ int Play(int count) {
     type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
     RegisterClassA(&type);
     for (int i = 0; i < count; ++i) {
-        const HWND window = CreateWindowExA(0, PLAYER_CLASS, "player", WS_OVERLAPPEDWINDOW, i % 500,
-                                            i % 300 + 100, 300, 200, nullptr, nullptr, nullptr, nullptr);
+        const HWND window =
+            CreateWindowExA(WS_EX_TOOLWINDOW, PLAYER_CLASS, "player", WS_POPUP | WS_BORDER, i % COLUMNS * 30,
+                            i / COLUMNS * 20, 28, 18, nullptr, nullptr, nullptr, nullptr);
         ShowWindow(window, SW_SHOWNOACTIVATE);
     }
     MSG message;

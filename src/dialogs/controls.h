@@ -20,6 +20,13 @@ INT_PTR RunCommand(const CommandRow (&rows)[COUNT], HWND dialog, WPARAM wParam) 
     return FALSE;
 }
 
+// Adds a row to a list box, with a number of the program's as its item data; in its sorted place, if the list
+// sorts. A text that the list box refuses is left out of it.
+void AddListRow(HWND listBox, const char* text, LPARAM data);
+
+// The item data of the row that is selected in a list box of the dialog; LB_ERR if there is none.
+LRESULT SelectedData(HWND dialog, int listBox);
+
 // Lets Tab find a radio button of a group in which none is checked: clearing one takes it out of Tab's way.
 inline void KeepTabStop(HWND radio) {
     SetWindowLongPtrA(radio, GWL_STYLE, GetWindowLongPtrA(radio, GWL_STYLE) | WS_TABSTOP);

@@ -52,22 +52,14 @@ static void Select(HWND dialog, int list, int place) {
 
 // The number that the selected row of the list carries; NOTHING when none is selected.
 static int SelectedNumber(HWND dialog, int list) {
-    return static_cast<int>(
-        SendDlgItemMessageA(dialog, list, LB_GETITEMDATA, static_cast<WPARAM>(Selection(dialog, list)), 0));
-}
-
-// A text that the list box refuses is left out of it.
-static void AddRow(HWND list, const char* text, int number) {
-    const LRESULT place = SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-    if (place >= 0)
-        SendMessageA(list, LB_SETITEMDATA, static_cast<WPARAM>(place), number);
+    return static_cast<int>(SelectedData(dialog, list));
 }
 
 // The menu's own row is not offered: it would open the menu that it stands in.
 static void AddAvailableActions(HWND list) {
     for (ActionId row = 1; row < NUM_ACTIONS; ++row)
         if (IsAvailable(row))
-            AddRow(list, ActionTable[row].desc, row);
+            AddListRow(list, ActionTable[row].desc, row);
 }
 
 static int NumberOf(int entry) {
@@ -77,7 +69,7 @@ static int NumberOf(int entry) {
 static void AddMenuEntries(HWND list) {
     for (int place = 0; place < quorl_menu_count; ++place) {
         const int number = NumberOf(MenuList[place]);
-        AddRow(list, number == LINE ? "<---------------->" : ActionTable[number].desc, number);
+        AddListRow(list, number == LINE ? "<---------------->" : ActionTable[number].desc, number);
     }
 }
 

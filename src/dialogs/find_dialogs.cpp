@@ -2,6 +2,7 @@
 #include "dialogs/find_dialogs.h"
 
 #include "core/foreground.h"
+#include "dialogs/controls.h"
 #include "dialogs/registry.h"
 #include "regions/region_table.h"
 #include "scroll/follow.h"
@@ -11,26 +12,13 @@
 static const int ID_LIST = 1041;
 static const int FROM_DIALOG = 0; // to ScrollView: no row of the action table asked
 
-static void AddRow(HWND listBox, const char* text, LPARAM data) {
-    const LRESULT index = SendMessageA(listBox, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-    if (index >= 0)
-        SendMessageA(listBox, LB_SETITEMDATA, static_cast<WPARAM>(index), data);
-}
-
 BOOL CALLBACK AddWindowToList(HWND window, LPARAM listBox) {
     if (!IsManagedWindow(window))
         return TRUE;
     char title[256] = "";
     GetWindowTextA(window, title, sizeof title);
-    AddRow(reinterpret_cast<HWND>(listBox), title, reinterpret_cast<LPARAM>(window));
+    AddListRow(reinterpret_cast<HWND>(listBox), title, reinterpret_cast<LPARAM>(window));
     return TRUE;
-}
-
-LRESULT SelectedData(HWND dialog, int listBox) {
-    const LRESULT row = SendDlgItemMessageA(dialog, listBox, LB_GETCURSEL, 0, 0);
-    if (row < 0)
-        return LB_ERR;
-    return SendDlgItemMessageA(dialog, listBox, LB_GETITEMDATA, static_cast<WPARAM>(row), 0);
 }
 
 static void OnInitWindows(HWND dialog) {
@@ -59,7 +47,7 @@ static void OnInitRegions(HWND dialog) {
     SetWindowTextA(dialog, "Find Region...");
     DialogHandles[KEYS_FIND_REGION] = dialog;
     for (int row = 0; row < num_regions; ++row)
-        AddRow(GetDlgItem(dialog, ID_LIST), RegionTable[row].name, row);
+        AddListRow(GetDlgItem(dialog, ID_LIST), RegionTable[row].name, row);
 }
 
 // A region that has been unmarked meanwhile leads to what its row holds now, as its hotkey does.

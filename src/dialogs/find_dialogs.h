@@ -7,9 +7,6 @@
 // the handle as item data. Always 1, so that the enumeration goes on.
 BOOL CALLBACK AddWindowToList(HWND window, LPARAM listBox);
 
-// The item data of the row that is selected in a list box of the dialog; LB_ERR if there is none.
-LRESULT SelectedData(HWND dialog, int listBox);
-
 // For template 117. The list is that of the moment of opening. A window that is gone or does not answer is
 // not gone to.
 INT_PTR CALLBACK FindWindowDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);

@@ -2,6 +2,7 @@
 #include "dialogs/resize_windows_dialog.h"
 
 #include "core/state.h"
+#include "dialogs/controls.h"
 #include "dialogs/find_dialogs.h"
 #include "dialogs/registry.h"
 #include "scroll/shift.h"

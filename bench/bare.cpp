@@ -52,12 +52,10 @@ static void AskWhetherManaged(const BareRow& row) {
 }
 
 static void PaintWindow(HDC context, const BareRow& row, HWND active, HPEN red, HPEN dotted) {
-    RECT place;
     char name[128];
     AskWhetherManaged(row);
     if (!row.bManaged)
         return;
-    GetWindowRect(row.hwnd, &place);
     if (row.hwnd != active) {
         DrawFocusRect(context, &row.box);
         return;
@@ -161,12 +159,10 @@ static void PingAndMove(const BareRow& row, int dx, UINT patience) {
 
 static void ScrollRow(const BareRow& row, int dx) {
     char name[256];
-    RECT place;
     GetClassNameA(row.hwnd, name, 255);
     AskWhetherManaged(row);
     if (!row.bManaged)
         return;
-    GetWindowRect(row.hwnd, &place);
     PingAndMove(row, dx, SCROLL_PATIENCE);
     ShowWindow(row.hwnd, SW_SHOW);
 }
@@ -218,13 +214,11 @@ void BareMouseMove() {
 }
 
 void BareFold() {
-    RECT place;
     EnumWindows(LookAtWindow, 0);
     for (int row = 0; row < num_rows; ++row) {
         AskWhetherManaged(Rows[row]);
         if (!Rows[row].bManaged)
             continue;
-        GetWindowRect(Rows[row].hwnd, &place);
         PingAndMove(Rows[row], 0, GATHER_PATIENCE);
     }
 }

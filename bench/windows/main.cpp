@@ -24,7 +24,7 @@ namespace {
 constexpr char PLAYER_CLASS[] = "QuorlBenchPlayer";
 constexpr UINT CALM_MESSAGE = WM_APP; // answered when everything that waits has been handled
 constexpr int STARTS = 11;
-constexpr int COLUMNS = 34;
+constexpr int CROWD = 1000;
 
 double Now() { // milliseconds
     LARGE_INTEGER count, second;
@@ -51,20 +51,32 @@ LRESULT CALLBACK PlayerProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
-// Side by side: where a thousand windows lie over each other, a system is busy with what of each is to be
-// seen.
+HWND OpenPlayer(DWORD exStyle, DWORD style, const POINT& at, const SIZE& size) {
+    return CreateWindowExA(exStyle, PLAYER_CLASS, "player", style, at.x, at.y, size.cx, size.cy, nullptr,
+                           nullptr, nullptr, nullptr);
+}
+
+// One of many: as a program's window stands among others.
+HWND OpenOrdinary(int number) {
+    return OpenPlayer(0, WS_OVERLAPPEDWINDOW, {number % 500, number % 300 + 100}, {300, 200});
+}
+
+// One of a crowd, side by side: where a thousand lie over each other, the system spends minutes on what is to
+// be seen of each.
+HWND OpenTile(int number) {
+    constexpr int columns = 34;
+    return OpenPlayer(WS_EX_TOOLWINDOW, WS_POPUP | WS_BORDER, {number % columns * 30, number / columns * 20},
+                      {28, 18});
+}
+
 int Play(int count) {
     WNDCLASSA type{};
     type.lpfnWndProc = PlayerProc;
     type.lpszClassName = PLAYER_CLASS;
     type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
     RegisterClassA(&type);
-    for (int i = 0; i < count; ++i) {
-        const HWND window =
-            CreateWindowExA(WS_EX_TOOLWINDOW, PLAYER_CLASS, "player", WS_POPUP | WS_BORDER, i % COLUMNS * 30,
-                            i / COLUMNS * 20, 28, 18, nullptr, nullptr, nullptr, nullptr);
-        ShowWindow(window, SW_SHOWNOACTIVATE);
-    }
+    for (int i = 0; i < count; ++i)
+        ShowWindow(count < CROWD ? OpenOrdinary(i) : OpenTile(i), SW_SHOWNOACTIVATE);
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0)
         DispatchMessageA(&message);
@@ -117,7 +129,7 @@ double TimeOf(void (*does)()) {
 
 // Prints the medians of both sides, and that of the ratios of neighbours, which one slow moment hardly moves.
 void Measure(const Deed& deed, int windows) {
-    const int rounds = windows >= 1000 ? 5 : 51; // a scroll of a thousand takes half a minute
+    const int rounds = windows < CROWD ? 51 : 15;
     std::vector<double> quorl, bare, ratios;
     deed.quorl();
     deed.bare();

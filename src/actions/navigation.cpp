@@ -27,7 +27,7 @@ static int CollectCandidates(HWND own) {
     int count = 0;
     for (int row = 0; row < num_windows; ++row) {
         const HWND window = WindowTable[row].hwnd;
-        if (window != own && IsManagedWindow(window) && GetWindowRect(window, &CandidatePlaces[count]))
+        if (window != own && IsManagedWindow(window, &CandidatePlaces[count]))
             Candidates[count++] = window;
     }
     return count;
@@ -66,7 +66,7 @@ int HasCornerIn(const RECT& window, const RECT& rect) {
 
 int IsWindowInRect(HWND window, const RECT* rect, int strict) {
     RECT place{};
-    if (!IsManagedWindow(window) || !GetWindowRect(window, &place))
+    if (!IsManagedWindow(window, &place))
         return 0;
     const RECT& in = rect ? *rect : ScreenRect;
     return strict ? LiesWithin(place, in) : HasCornerIn(place, in);

@@ -75,7 +75,7 @@ int FollowActiveWindow() {
     RECT place{};
     if (active != Unmoved.window)
         Unmoved.window = nullptr;
-    if (!IsManagedWindow(active) || !GetWindowRect(active, &place))
+    if (!IsManagedWindow(active, &place))
         return 0;
     const FollowNeed need = NeedToFollow(place, ScreenW(), ScreenH(), Quorl);
     if (need == FOLLOW_SCROLL && !IsHeldBack())
@@ -85,7 +85,7 @@ int FollowActiveWindow() {
 
 int CenterOnWindow(HWND window, HWND target) {
     RECT place{};
-    if (!IsManagedWindow(target) || !GetWindowRect(target, &place))
+    if (!IsManagedWindow(target, &place))
         return 0;
     const POINT middle = MiddleOf(place);
     ScrollView(window, middle.x + VDesk.left, middle.y + VDesk.top, SV_CENTER, ROW_CENTER_ON_ACTIVE);

@@ -25,10 +25,7 @@ static void TellRefusal() {
     MessageBoxA(nullptr, "Not a timeout! A window won't restore!", "ok", MB_OK);
 }
 
-static void FoldWindow(HWND window, void (*refused)()) {
-    RECT before{};
-    if (!GetWindowRect(window, &before))
-        return;
+static void FoldWindow(HWND window, const RECT& before, void (*refused)()) {
     WindowPlace place{FoldedCorner(before.left, ScreenW()), FoldedCorner(before.top, ScreenH()),
                       before.right - before.left, before.bottom - before.top};
     if (AcceptsPlace(window, &place, GATHER_PATIENCE))
@@ -44,9 +41,11 @@ void FoldWindows(void (*refused)()) {
     const int count = num_windows;
     for (int row = 0; row < count; ++row)
         windows[row] = WindowTable[row].hwnd;
-    for (int row = 0; row < count; ++row)
-        if (IsManagedWindow(windows[row]))
-            FoldWindow(windows[row], refused);
+    for (int row = 0; row < count; ++row) {
+        RECT before{};
+        if (IsManagedWindow(windows[row], &before))
+            FoldWindow(windows[row], before, refused);
+    }
 }
 
 void GatherWindows() {

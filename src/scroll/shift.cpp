@@ -69,9 +69,8 @@ static int RestoreIfZoomed(HWND window) {
     return 1;
 }
 
-static void ShiftWindow(HWND window, int dx, int dy) {
-    RECT before{};
-    if (GetWindowRect(window, &before) && RestoreIfZoomed(window))
+static void ShiftWindow(HWND window, const RECT& before, int dx, int dy) {
+    if (RestoreIfZoomed(window))
         PlaceWindow(window, ShiftedPlace(before, dx, dy, VDesk, Quorl, Options.border));
 }
 
@@ -82,7 +81,8 @@ void ShiftWindows(int dx, int dy) {
         const HWND window = WindowTable[row].hwnd;
         if (IsListView(window) && !ScrollListView(window, dx, dy))
             continue; // the ping would wait a second time for the same program
-        if (IsManagedWindow(window) && !IsLockedWindow(window))
-            ShiftWindow(window, dx, dy);
+        RECT before{};
+        if (IsManagedWindow(window, &before) && !IsLockedWindow(window))
+            ShiftWindow(window, before, dx, dy);
     }
 }

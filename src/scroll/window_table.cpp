@@ -65,11 +65,15 @@ int IsManagedPlace(const RECT& place, const RECT& quorl) {
 }
 
 // The cheap tests come first; most windows of a system are invisible.
-int IsManagedWindow(HWND window) {
+int IsManagedWindow(HWND window, RECT* place) {
     if (!window || !IsWindowEnabled(window) || !IsWindowVisible(window) || window == GetDesktopWindow() ||
         IsIconic(window) || HasFixedClass(window) || window == MainWnd || window == TipWnd ||
         IsCloaked(window))
         return 0;
-    RECT place{};
-    return GetWindowRect(window, &place) && IsManagedPlace(place, Quorl);
+    RECT now{};
+    if (!GetWindowRect(window, &now) || !IsManagedPlace(now, Quorl))
+        return 0;
+    if (place)
+        *place = now;
+    return 1;
 }

@@ -23,8 +23,8 @@ BOOL CALLBACK AddWindowRow(HWND window, LPARAM parameter);
 void RebuildWindowTable();
 
 // 1 if Quorl may move and show this window. Asks the platform each time; a window that is gone, and the null
-// handle, give 0.
-int IsManagedWindow(HWND window);
+// handle, give 0. `place` receives where a managed window stands, in screen pixels.
+int IsManagedWindow(HWND window, RECT* place = nullptr);
 
 // The decision by numbers: has the window an area, and does it not stand past the desktop's far edges? Screen
 // pixels are compared with the desktop's size as they are.

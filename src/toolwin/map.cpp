@@ -97,7 +97,7 @@ static void DrawActiveBox(const MapPaint& paint, const RECT& box) {
 
 static void DrawWindow(const MapPaint& paint, HWND window) {
     RECT place{};
-    if (!IsManagedWindow(window) || !GetWindowRect(window, &place))
+    if (!IsManagedWindow(window, &place))
         return;
     const RECT box = WindowBox(place, paint.map, VDesk, Quorl);
     if (window == paint.active)

@@ -23,9 +23,7 @@ TEST_F(Creation, FillsInTheDefaultsWhateverWasThere) {
         row.value = 7;
     LockWindow(OpenWindow("locked by an earlier life", {1, 1, 2, 2}));
     TipWnd = GetDesktopWindow();
-
     ASSERT_EQ(StartQuorl(), 1);
-
     std::string values;
     for (const ActionRow& row : ActionTable)
         if (row.value != 7)

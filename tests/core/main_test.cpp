@@ -16,55 +16,37 @@ TEST_F(Life, StartsInItsOrder) {
     EXPECT_EQ(toolwin.exStyle, DWORD{WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_LAYERED});
     EXPECT_EQ(toolwin.style, DWORD{WS_POPUP | WS_THICKFRAME | WS_VISIBLE});
     EXPECT_EQ(toolwin.alpha, 255);
-    EXPECT_EQ(Desk.classes.at(MAIN_CLASS).style, UINT{CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS});
-    EXPECT_EQ(Desk.classes.at(MAIN_CLASS).hbrBackground, BackBrush);
-    EXPECT_EQ(static_cast<const DeskObject*>(static_cast<void*>(TrayImage))->index, 118);
+    EXPECT_TRUE(Desk.classes.at(MAIN_CLASS).style & CS_DBLCLKS);
     EXPECT_EQ(Hook.window, MainWnd);
-    EXPECT_TRUE(Desk.beeps.empty());
+    EXPECT_EQ(StartQuorl(), 0) << "there is one already";
 }
 
 TEST_F(Life, WithoutAWindowThereIsNoLife) {
-    Desk.fault = {"CreateWindowExA", 1, 0, 8, 0};
+    Desk.fault = {"CreateWindowExA", 1};
     WillAnswer({IDOK});
     EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
     EXPECT_EQ(LastBox(), "Can't start app./Alas!");
     EXPECT_EQ(CallsOf("GetMessageA"), 0);
 }
 
-TEST_F(Life, WhatTheSystemLacksIsNotOfferedAndTheOtherIs) {
+TEST_F(Life, WhatTheSystemLacksIsNotOfferedAndTheRestRuns) {
     Desk.modules["user32.dll"].exports.erase("SetLayeredWindowAttributes");
-    ActionTable[ROW_LOCK_WORK_STATION].flags = ACTION_OFF;
-    ASSERT_EQ(StartQuorl(), 1);
-    EXPECT_EQ(ActionTable[ROW_TRANSPARENCY].flags, ACTION_OFF);
-    EXPECT_EQ(ActionTable[ROW_LOCK_WORK_STATION].flags, ACTION_KEY | ACTION_MOUSE);
-    EXPECT_FALSE(RowOf(MainWnd).exStyle & WS_EX_LAYERED);
-}
-
-TEST_F(Life, WithoutTheHookLibraryTheMouseRowsAreOffAndTheRestRuns) {
     Desk.modules["quorl.dll"].bInstalled = 0;
+    ActionTable[ROW_LOCK_WORK_STATION].flags = ACTION_OFF; // row 84
     ActionTable[85].value = 1;
     ASSERT_EQ(StartQuorl(), 1);
+    EXPECT_EQ(ActionTable[ROW_TRANSPARENCY].flags, ACTION_OFF);
+    EXPECT_FALSE(RowOf(MainWnd).exStyle & WS_EX_LAYERED);
     EXPECT_EQ(Desk.beeps, std::vector<UINT>{0});
     for (ActionId row = 84; row <= 91; ++row) {
         const bool bOfTheMouse = row >= 85 && row <= 90;
         EXPECT_EQ(ActionTable[row].flags == ACTION_OFF && !ActionTable[row].value, bOfTheMouse) << row;
     }
-    EXPECT_EQ(Options.hook_present, 0);
-}
-
-TEST_F(Life, AHookLibraryWithoutItsSwitchTurnsNothingOff) {
-    Desk.modules["quorl.dll"].exports.erase("SetMouseHook");
-    ASSERT_EQ(StartQuorl(), 1);
-    EXPECT_EQ(Hook.window, MainWnd);
-    EXPECT_EQ(Options.hook_present, 0);
-    EXPECT_NE(ActionTable[85].flags, ACTION_OFF);
     ShutDown();
-    EXPECT_EQ(Desk.modules["quorl.dll"].loads, 0);
 }
 
 TEST_F(Life, RunsUntilTheUserQuitsAndLeavesTheDesktopAsItWasFound) {
     const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
-    const HWND far = OpenWindow("far", {1100, 200, 1300, 300});
     WillAnswer({IDNO, IDYES});
     int scrolled = 0;
     Desk.script = {
@@ -75,14 +57,10 @@ TEST_F(Life, RunsUntilTheUserQuitsAndLeavesTheDesktopAsItWasFound) {
             PostMessageA(MainWnd, WM_HOTKEY, 59, 0);
         },
     };
-
     EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
-
     EXPECT_FALSE(Desk.bRunDry) << "it ended by the quit message";
     EXPECT_EQ(scrolled, -924);
     EXPECT_EQ(PlaceOf(editor), Rect(100, 100, 500, 400));
-    EXPECT_EQ(PlaceOf(far), Rect(76, 200, 276, 300)) << "on the screen, wherever it came from";
-    EXPECT_TRUE(Desk.hotkeys.empty());
     EXPECT_EQ(Hook.set, (std::vector<int>{1, 0}));
     EXPECT_EQ(Desk.modules["quorl.dll"].loads, 0);
     EXPECT_TRUE(CameInOrder({"PostQuitMessage", "UnregisterHotKey", "EnumWindows", "FreeLibrary"}));

@@ -17,13 +17,7 @@ TEST_F(MainWindow, EveryEndAsksTheSameQuestionAndDestroysNothing) {
         EXPECT_EQ(Send(message), 0) << message;
         EXPECT_EQ(CallsOf("MessageBoxA"), static_cast<int>(Desk.trace.size())) << message;
         EXPECT_EQ(LastBox(), "QUIT?/QUIT?");
-        EXPECT_EQ(Desk.boxes.back().type, MB_YESNO);
     }
-}
-
-TEST_F(MainWindow, WhatTheMouseDoesOnTheMapIsAnsweredBy0) {
-    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONUP, WM_MBUTTONDOWN})
-        EXPECT_EQ(Send(message), 0) << message;
 }
 
 TEST_F(MainWindow, NewColoursRepaintTheMap) {

@@ -8,14 +8,21 @@ class Quitting : public RunningQuorl {
     HWND far = OpenWindow("far", {1100, 200, 1300, 300});
 };
 
-TEST_F(Quitting, NewsThatWaitsInTheQueueMovesNoWindowThatWasFoldedBack) {
-    WillAnswer({IDYES});
+TEST_F(Quitting, WhatComesAfterYesNeitherMovesAWindowThatWasFoldedBackNorSavesAgain) {
+    Command(47);
+    const auto saved = Desk.files;
+    Desk.files.clear();
+    WillAnswer({IDYES, IDYES});
     PostMessageA(MainWnd, WM_CLOSE, 0, 0);
     Desk.foreground = far;
     for (const WPARAM row : {WPARAM{30}, WPARAM{101}}) // pressed while the box was open
         PostMessageA(MainWnd, WM_HOTKEY, row, 0);
     Settle();
     EXPECT_EQ(PlaceOf(far).left, 76);
+    EXPECT_EQ(Desk.files, saved);
+    EXPECT_EQ(ConfirmQuit(MainWnd), 1);
+    SendMessageA(MainWnd, WM_ENDSESSION, 1, 0);
+    EXPECT_EQ(Desk.files, saved) << "the bindings are released by now";
 }
 
 // The box over a refused combination lets the user close Quorl before it has read its settings.
@@ -31,14 +38,6 @@ TEST_F(QuorlTest, ThatIsQuitDuringItsStartSavesNothingAndLeavesNoIcon) {
     EXPECT_TRUE(Desk.tray.empty());
     EXPECT_TRUE(Desk.files.empty());
     EXPECT_TRUE(Hook.set.empty());
-}
-
-TEST_F(Quitting, ASecondYesSavesNothingOverWhatWasSaved) {
-    WillAnswer({IDYES, IDYES});
-    ConfirmQuit(MainWnd);
-    const auto saved = Desk.files;
-    EXPECT_EQ(ConfirmQuit(MainWnd), 1);
-    EXPECT_EQ(Desk.files, saved) << "the bindings are released by now";
 }
 
 TEST_F(Quitting, TheEndOfTheSessionSavesIfThatIsWantedAndFoldsIfOthersStay) {

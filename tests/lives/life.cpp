@@ -11,41 +11,38 @@
 #include "scroll/window_table.h"
 #include "settings/ini.h"
 #include "support/map_mouse.h"
-#include "support/quorl_test.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <iterator>
 
 namespace {
 
-// Bytes that are read up give 0.
+// Bytes that are read up give 0. What is read in one statement is read from left to right only in braces.
 struct Day {
-    const std::uint8_t* next;
-    const std::uint8_t* end;
+    const char* next;
+    const char* end;
 
-    int Byte() { return next < end ? *next++ : 0; }
-    int Below(int limit) { return (Byte() * 256 + Byte()) % limit; }
-    template <typename Item, std::size_t COUNT>
-    const Item& OneOf(const Item (&items)[COUNT]) {
-        return items[static_cast<std::size_t>(Byte()) % COUNT];
+    int Byte() { return next < end ? static_cast<unsigned char>(*next++) : 0; }
+    std::size_t Place(std::size_t count) { return static_cast<std::size_t>(Byte()) % count; }
+    int Below(int limit) {
+        const int high = Byte();
+        return (high * 256 + Byte()) % limit;
     }
-    bool IsOver() const { return next >= end; }
+    template <typename Item>
+    Item OneOf(std::initializer_list<Item> items) {
+        return items.begin()[Place(items.size())];
+    }
 };
 
-constexpr int QUIT_ROW = 59;
-constexpr int LOCK_STATION_ROW = 84;
 constexpr std::size_t MANY = 40; // boxes that the user answers at most before anything else happens
-
-const char INI[] = "quorl.ini";
 
 int Faults;               // calls that were made to fail
 std::vector<HWND> Others; // windows of other programs, dead ones too
 
-HWND SomeOther(Day& day) {
+DeskWindow& SomeOther(Day& day) {
     if (Others.empty())
         Others.push_back(OpenWindow("first", {100, 100, 400, 300}));
-    return Others[static_cast<std::size_t>(day.Byte()) % Others.size()];
+    return RowOf(Others[day.Place(Others.size())]);
 }
 
 RECT SomePlace(Day& day) {
@@ -61,7 +58,7 @@ void AnswerAll(int answer) {
 
 void RunRow(Day& day) {
     const int row = day.Byte() % (NUM_ACTIONS + 1);
-    if (row != LOCK_STATION_ROW)
+    if (row != ROW_LOCK_WORK_STATION)
         Command(row);
 }
 
@@ -72,91 +69,96 @@ void JumpToRegion(Day& day) {
 // What the menu does not hold is a choice of nothing.
 void ChooseFromMenu(Day& day) {
     const int before = Desk.surprises;
-    Desk.choices = {
-        static_cast<UINT>(day.Byte() % 2 ? day.Byte() % NUM_ACTIONS : FIRST_REGION_ID + day.Byte())};
+    const int choice = day.Byte() % 2 ? day.Byte() % NUM_ACTIONS : FIRST_REGION_ID + day.Byte();
+    Desk.choices = {static_cast<UINT>(choice)};
     Command(0);
     Desk.surprises = before;
 }
 
 void MoveTheMouse(Day& day) {
-    static const int buttons[] = {0, VK_LBUTTON, VK_RBUTTON, VK_MBUTTON};
-    static const UINT news[] = {WM_MOUSEMOVE, WM_NCMOUSEMOVE, WM_LBUTTONDOWN, WM_RBUTTONDOWN, WM_LBUTTONUP};
-    const int held = day.OneOf(buttons);
+    const int held = day.OneOf({0, VK_LBUTTON, VK_RBUTTON, VK_MBUTTON});
     HoldKey(held, 1);
-    MoveMouse(day.Below(1024), day.Below(768));
+    const POINT at{day.Below(1024), day.Below(768)};
+    MoveMouse(at.x, at.y);
     if (day.Byte() % 2)
         MoveMouse(day.Byte() % 2 ? 0 : ScreenW() - 1, Desk.cursor.y);
-    PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, day.OneOf(news), 0);
+    const UINT news =
+        day.OneOf<UINT>({WM_MOUSEMOVE, WM_NCMOUSEMOVE, WM_LBUTTONDOWN, WM_RBUTTONDOWN, WM_LBUTTONUP});
+    PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, news, 0);
     Settle();
     HoldKey(held, 0);
 }
 
+void MoveToSomePlaceOnMap(Day& day) {
+    const POINT at{day.Byte() - 20, day.Byte() - 20};
+    MoveOnMap(at.x, at.y);
+}
+
 void WorkOnTheMap(Day& day) {
-    static const int buttons[] = {VK_LBUTTON, VK_RBUTTON, VK_MBUTTON};
-    static const int keys[] = {VK_LSHIFT, VK_LCONTROL, VK_LMENU, VK_RSHIFT};
-    const int held = day.Byte();
-    for (std::size_t key = 0; key < std::size(keys); ++key)
-        HoldKey(keys[key], held >> key & 1);
-    const int button = day.OneOf(buttons);
-    MoveOnMap(day.Byte() - 20, day.Byte() - 20);
+    const auto keys = {VK_LSHIFT, VK_LCONTROL, VK_LMENU, VK_RSHIFT};
+    int held = day.Byte();
+    for (const int key : keys) {
+        HoldKey(key, held & 1);
+        held >>= 1;
+    }
+    const int button = day.OneOf({VK_LBUTTON, VK_RBUTTON, VK_MBUTTON});
+    MoveToSomePlaceOnMap(day);
     PressOnMap(button);
     for (int steps = day.Byte() % 3; steps > 0; --steps)
-        MoveOnMap(day.Byte() - 20, day.Byte() - 20);
+        MoveToSomePlaceOnMap(day);
     ReleaseOnMap(button);
     for (const int key : keys)
         HoldKey(key, 0);
 }
 
 void OpenOther(Day& day) {
-    static const char* const classes[] = {"Program", "SysListView32", "Shell_TrayWnd", "BaseBar"};
-    static const char* const titles[] = {"editor", "", "a|b & c",
-                                         "a title that is longer than a region's name"};
-    if (Others.size() < MANY)
-        Others.push_back(OpenWindow(day.OneOf(titles), SomePlace(day), day.OneOf(classes)));
+    if (Others.size() >= MANY)
+        return;
+    const auto* title = day.OneOf({"editor", "", "a|b & c", "a title that is longer than a region's name"});
+    const RECT place = SomePlace(day);
+    const auto* kind = day.OneOf({"Program", "SysListView32", "Shell_TrayWnd", "BaseBar"});
+    Others.push_back(OpenWindow(title, place, kind));
 }
 
 void ChangeOther(Day& day) {
-    DeskWindow& window = RowOf(SomeOther(day));
-    if (window.handle)
+    if (DeskWindow& window = SomeOther(day); window.handle)
         window.place = SomePlace(day);
 }
 
 void HangOther(Day& day) {
-    static const DWORD errors[] = {0, ERROR_TIMEOUT, ERROR_ACCESS_DENIED};
-    DeskWindow& window = RowOf(SomeOther(day));
+    DeskWindow& window = SomeOther(day);
     window.answer = static_cast<DeskAnswer>(day.Byte() % 5);
-    window.error = day.OneOf(errors);
+    window.error = day.OneOf<DWORD>({0, ERROR_TIMEOUT, ERROR_ACCESS_DENIED});
     window.bRewrites = day.Byte() % 8 == 0;
     window.rewritten = SomePlace(day);
     window.diesAtCall = day.Byte() % 8 == 0 ? day.Byte() : 0;
 }
 
 void EndOther(Day& day) {
-    const HWND window = SomeOther(day);
-    if (RowOf(window).handle)
+    if (const HWND window = SomeOther(day).handle)
         KillWindow(window);
 }
 
 void ShowOther(Day& day) {
-    static const int ways[] = {SW_HIDE, SW_SHOW, SW_MINIMIZE, SW_MAXIMIZE, SW_RESTORE};
-    const HWND window = SomeOther(day);
-    if (RowOf(window).handle)
-        ShowWindow(window, day.OneOf(ways));
+    if (const HWND window = SomeOther(day).handle)
+        ShowWindow(window, day.OneOf({SW_HIDE, SW_SHOW, SW_MINIMIZE, SW_MAXIMIZE, SW_RESTORE}));
 }
 
 void GoToOther(Day& day) {
-    const HWND window = SomeOther(day);
-    if (RowOf(window).handle)
+    if (const HWND window = SomeOther(day).handle)
         SetForegroundWindow(window);
 }
 
 void ChangeDisplays(Day& day) {
-    static const RECT screens[] = {Rect(0, 0, 1024, 768), Rect(0, 0, 640, 480), Rect(0, 0, 1920, 1080),
-                                   Rect(0, 0, 3840, 2160)};
-    const RECT screen = day.OneOf(screens);
-    Desk.monitors.assign(1, screen);
+    const SIZE screen = day.OneOf<SIZE>({
+        {1024, 768 },
+        {640,  480 },
+        {1920, 1080},
+        {3840, 2160}
+    });
+    Desk.monitors = {Rect(0, 0, screen.cx, screen.cy)};
     if (day.Byte() % 4 == 0)
-        Desk.monitors.push_back({screen.right, 0, screen.right + 800, 600});
+        Desk.monitors.push_back({screen.cx, 0, screen.cx + 800, 600});
     SendMessageA(MainWnd, WM_SETTINGCHANGE, 0, 0);
 }
 
@@ -169,74 +171,44 @@ void HaveACallFail(Day& day) {
     Desk.fault = {"", day.Byte() + 1, 0, 87, 0};
 }
 
-HWND SomeDialog(Day& day) {
-    const HWND dialog = DialogSlots[day.Byte() % NUM_DIALOGS].handle;
-    return dialog && RowOf(dialog).handle ? dialog : nullptr;
-}
-
 void WorkInADialog(Day& day) {
-    static const char* const texts[] = {"", "0", "7", "4096", "99999999999", "name|with & bar"};
-    const HWND dialog = SomeDialog(day);
-    if (!dialog || RowOf(dialog).children.empty())
+    const HWND dialog = DialogSlots[day.Byte() % NUM_DIALOGS].handle;
+    if (!dialog || !RowOf(dialog).handle || RowOf(dialog).children.empty())
         return;
     const std::vector<HWND>& children = RowOf(dialog).children;
-    const HWND control = children[static_cast<std::size_t>(day.Byte()) % children.size()];
+    const HWND control = children[day.Place(children.size())];
     const std::string& kind = RowOf(control).className;
     const DeskControl& kept = RowOf(control).control;
     const int rows = std::max(static_cast<int>(kept.rows.size()), kept.count);
     if (kind == "Button" || kind == "BUTTON")
         ClickControl(control);
     else if (kind == "Edit" || kind == "EDIT")
-        TypeInto(control, day.OneOf(texts));
+        TypeInto(control, day.OneOf({"", "0", "7", "4096", "99999999999", "name|with & bar"}));
     else if (rows > 0)
         ChooseRow(control, day.Byte() % rows);
     Settle();
 }
 
 void EditTheFile(Day& day) {
-    static const char* const keys[] = {"Quorl.right",    "border",  "num_regions", "quorl_menu_count",
-                                       "quorl_menu",     "Region0", "Action28",    "minscroll",
-                                       "quorl_pos.left", "delay",   "alpha",       "mousescroll_type"};
-    static const char* const values[] = {
-        "0",     "-1",          "2147483647", "-2147483648", "99999999999999", "1|2|3|4|5",
-        "|||||", "x|1|2|3|4|5", "200",        "500",         "-1|-1|6|39|0",   "\"  a\""};
-    WritePrivateProfileStringA("Quorl", day.OneOf(keys), day.OneOf(values), INI);
+    const auto* key =
+        day.OneOf({"Quorl.right", "border", "num_regions", "quorl_menu_count", "quorl_menu", "Region0",
+                   "Action28", "minscroll", "quorl_pos.left", "delay", "alpha", "mousescroll_type"});
+    const auto* value = day.OneOf({"0", "-1", "2147483647", "-2147483648", "99999999999999", "1|2|3|4|5",
+                                   "|||||", "x|1|2|3|4|5", "200", "500", "-1|-1|6|39|0", "\"  a\""});
+    WritePrivateProfileStringA(SETTINGS_SECTION, key, value, SETTINGS_FILE);
 }
 
 void PressAKey(Day& day) {
-    static const int keys[] = {VK_TAB, VK_RETURN, VK_ESCAPE, VK_SPACE, VK_LEFT, VK_DOWN};
-    PressKey(day.OneOf(keys));
+    PressKey(day.OneOf({VK_TAB, VK_RETURN, VK_ESCAPE, VK_SPACE, VK_LEFT, VK_DOWN}));
     Settle();
 }
 
-const struct Act {
-    const char* name;
-    void (*does)(Day& day);
-} Acts[] = {
-    {"row",      RunRow        },
-    {"row",      RunRow        },
-    {"row",      RunRow        },
-    {"region",   JumpToRegion  },
-    {"menu",     ChooseFromMenu},
-    {"mouse",    MoveTheMouse  },
-    {"map",      WorkOnTheMap  },
-    {"map",      WorkOnTheMap  },
-    {"open",     OpenOther     },
-    {"open",     OpenOther     },
-    {"change",   ChangeOther   },
-    {"hang",     HangOther     },
-    {"end",      EndOther      },
-    {"show",     ShowOther     },
-    {"go to",    GoToOther     },
-    {"displays", ChangeDisplays},
-    {"time",     LetTimePass   },
-    {"time",     LetTimePass   },
-    {"fault",    HaveACallFail },
-    {"dialog",   WorkInADialog },
-    {"dialog",   WorkInADialog },
-    {"dialog",   WorkInADialog },
-    {"file",     EditTheFile   },
-    {"key",      PressAKey     },
+// What is done often stands here often.
+const auto Acts = {
+    RunRow,        RunRow,        RunRow,        JumpToRegion,   ChooseFromMenu, MoveTheMouse,
+    WorkOnTheMap,  WorkOnTheMap,  OpenOther,     OpenOther,      ChangeOther,    HangOther,
+    EndOther,      ShowOther,     GoToOther,     ChangeDisplays, LetTimePass,    LetTimePass,
+    HaveACallFail, WorkInADialog, WorkInADialog, WorkInADialog,  EditTheFile,    PressAKey,
 };
 
 void ExpectTablesWhole() {
@@ -260,23 +232,21 @@ void ExpectScrollsStayInside() {
 void ExpectSavedIsLoaded() {
     MoveWindow(MainWnd, 100, 100, 200, 100, TRUE);
     Command(47);
-    const std::string saved = Desk.files[INI];
+    const std::string saved = Desk.files[SETTINGS_FILE];
     Command(48);
     Command(47);
-    EXPECT_EQ(Desk.files[INI], saved);
-}
-
-bool Answers(const DeskWindow& window) {
-    return window.handle && window.answer == DeskAnswer::Answers && !window.bRewrites && !window.diesAtCall;
+    EXPECT_EQ(Desk.files[SETTINGS_FILE], saved);
 }
 
 void ExpectAllGivenBack() {
     std::vector<HWND> windows; // FoldWindows walks those that are managed when the user says Yes
-    for (const HWND window : Others)
-        if (Answers(RowOf(window)) && IsManagedWindow(window))
-            windows.push_back(window);
+    std::copy_if(Others.begin(), Others.end(), std::back_inserter(windows), [](HWND window) {
+        const DeskWindow& row = RowOf(window);
+        return row.answer == DeskAnswer::Answers && !row.bRewrites && !row.diesAtCall &&
+               IsManagedWindow(window);
+    });
     AnswerAll(IDYES);
-    Command(QUIT_ROW);
+    Command(59);
     EXPECT_TRUE(bQuitting);
     ShutDown();
     for (const HWND window : windows) {
@@ -287,26 +257,26 @@ void ExpectAllGivenBack() {
     EXPECT_TRUE(Desk.tray.empty());
     for (const DeskHotkey& hotkey : Desk.hotkeys) // those of regions go with the process
         EXPECT_TRUE(hotkey.window != MainWnd || hotkey.id >= FIRST_REGION_ID) << hotkey.id;
-    EXPECT_TRUE(Faults || std::none_of(Desk.menus.begin(), Desk.menus.end(),
-                                       [](const DeskMenu& menu) { return menu.bLive; }));
+    for (const DeskMenu& menu : Desk.menus)
+        EXPECT_TRUE(!menu.bLive || Faults);
     EXPECT_EQ(Hook.set, (std::vector<int>{1, 0}));
     EXPECT_TRUE(Desk.deletedInUse == 0 || Faults) << "while it was selected";
 }
 
 } // namespace
 
-void Live(const std::uint8_t* bytes, std::size_t count) {
-    Day day{bytes, bytes + count};
+void Live(std::string_view bytes) {
+    Day day{bytes.data(), bytes.data() + bytes.size()};
     std::string told;
+    PrepareDesk();
     AnswerAll(IDOK);
     StartQuorl();
-    while (!day.IsOver() && !testing::Test::HasFailure()) {
-        const Act& act = day.OneOf(Acts);
-        told += act.name;
-        told += ' ';
+    while (day.next < day.end && !testing::Test::HasFailure()) {
+        const std::size_t act = day.Place(Acts.size());
+        told += std::to_string(act) + " ";
         AnswerAll(IDNO);
         Desk.choices.assign(MANY, 0);
-        act.does(day);
+        Acts.begin()[act](day);
         ExpectTablesWhole();
     }
     Desk.fault = {};
@@ -317,5 +287,5 @@ void Live(const std::uint8_t* bytes, std::size_t count) {
     ExpectSavedIsLoaded();
     ExpectAllGivenBack();
     if (testing::Test::HasFailure())
-        std::printf("The day: %s\n", told.c_str());
+        std::printf("The day, as places in the table of acts: %s\n", told.c_str());
 }

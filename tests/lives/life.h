@@ -2,9 +2,8 @@
 // other.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include <string_view>
 
 // Lives the day in this process, which must be fresh, and expects after each act and at the end what must
 // hold whatever happens. The same bytes are the same day. Tells the acts of a day that did not hold.
-void Live(const std::uint8_t* bytes, std::size_t count);
+void Live(std::string_view bytes);

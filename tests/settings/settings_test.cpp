@@ -50,71 +50,40 @@ TEST_F(Settings, AllIsWrittenInItsOrderAndComesBackInTheNextRun) {
     EXPECT_EQ(File(), kept);
 }
 
-TEST_F(Settings, AreSavedAsAWholeOrNotAtAll) {
-    Desk.fault = {"WritePrivateProfileStringA", 2};
-    SaveSettings(MainWnd);
-    EXPECT_TRUE(Desk.files.empty()) << "nor is a first file begun";
-    EXPECT_EQ(DoAction(MainWnd, 47, nullptr), 0);
-    const std::string before = File();
-    ChangeAll();
-    Command(47);
-    const std::string after = File();
-    const int writes = 18 + 1 + 2 + 123;
-    for (int nth = 1; nth <= writes; ++nth) {
-        File() = before;
-        Desk.fault = {"WritePrivateProfileStringA", nth};
-        SaveSettings(MainWnd);
-        EXPECT_EQ(Desk.fault.hits, 1) << nth;
-        EXPECT_EQ(File(), before) << "write " << nth;
-        EXPECT_EQ(Desk.files.size(), 1U) << "no copy is left";
-    }
-    for (const char* call : {"GetWindowsDirectoryA", "CopyFileA", "MoveFileExA"}) {
-        File() = before;
-        Desk.fault = {call, 1};
-        SaveSettings(MainWnd);
-        EXPECT_EQ(File(), after) << call;
-        EXPECT_EQ(Desk.files.size(), 1U) << call;
-    }
-}
-
-TEST_F(Settings, AWriteProtectedFileLeavesNoCopyInTheWayOfLaterSaves) {
-    Command(47);
-    const std::string before = File();
-    Desk.protectedFiles = {SETTINGS_FILE};
-    Options.border = 9;
-    Command(47);
-    EXPECT_EQ(File(), before);
-    EXPECT_EQ(Desk.files.size(), 1U);
-
-    Desk.protectedFiles = {"quorl.new"};
-    Desk.files["quorl.new"] = "";
-    Command(47);
-    EXPECT_NE(File(), before);
-    EXPECT_EQ(Desk.files.size(), 1U);
-}
-
-TEST_F(Settings, AnUnfinishedCopyOfAnEarlierRunCountsForNothing) {
-    Command(47);
-    const std::string whole = File();
-    Desk.files = {
+TEST_F(Settings, AreSavedAsAWholeOrNotAtAllAndLeaveNoCopyInTheWay) {
+    using Files = std::map<std::string, std::string>;
+    const auto saved = [](const Files& found, const char* call = "", int nth = 0) {
+        Desk.files = found;
+        Desk.fault = {call, nth};
+        Command(47);
+        return Desk.files;
+    };
+    const Files unfinished{
         {"quorl.new", "[Quorl]\r\nhalf=1"}
     };
-    Command(47);
-    EXPECT_EQ(File(), whole);
+    const Files before = saved({});
+    EXPECT_EQ(saved(unfinished), before) << "of an earlier run";
+    ChangeAll();
+    const Files after = saved(before);
+    for (int nth = 1; nth <= 18 + 1 + 2 + 123; ++nth)
+        EXPECT_EQ(saved(before, "WritePrivateProfileStringA", nth), before) << "write " << nth;
+    EXPECT_EQ(saved({}, "WritePrivateProfileStringA", 2), Files{}) << "nor is a first file begun";
+    for (const char* call : {"GetWindowsDirectoryA", "CopyFileA", "MoveFileExA"})
+        EXPECT_EQ(saved(before, call, 1), after) << call;
+
+    Desk.protectedFiles = {SETTINGS_FILE};
+    EXPECT_EQ(saved(before), before);
+    Desk.protectedFiles = {"quorl.new"};
+    EXPECT_EQ(saved({*before.begin(), *unfinished.begin()}), after);
 }
 
-class AnyFile : public QuorlTest {};
-
-TEST_F(AnyFile, DoesNoHarmHoweverLongItsValuesAre) {
+TEST_F(QuorlTest, TakesNoHarmFromAFileHoweverLongItsValuesAre) {
     const std::string marks(100000, '|');
-    const std::string files[] = {
-        "border=" + marks + "9\nnum_regions=1\nRegion0=" + marks + "a\nAction5=" + marks,
-        "quorl_menu_count=999\nquorl_menu=" + std::string(4046, '1') + marks + "|5",
-        "Action5=1|2" + std::string(10 << 20, '7') + "\nnum_regions=1\nRegion0=a|1",
-    };
-    for (const std::string& lines : files)
-        EXPECT_TRUE(HoldsInItsOwnProcess([&] { EXPECT_STREQ(TrySettings("\2" + lines), nullptr); }))
-            << lines.substr(0, 20);
+    for (const std::string& lines :
+         {"border=" + marks + "9\nnum_regions=1\nRegion0=" + marks + "a\nAction5=" + marks,
+          "quorl_menu_count=999\nquorl_menu=" + std::string(4046, '1') + marks + "|5",
+          "Action5=1|2" + std::string(10 << 20, '7') + "\nnum_regions=1\nRegion0=a|1"})
+        EXPECT_TRUE(HoldsInItsOwnProcess([&] { TrySettings("\2" + lines); })) << lines.substr(0, 20);
 }
 
 } // namespace

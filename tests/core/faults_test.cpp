@@ -2,18 +2,16 @@
 #include "support/faults.h"
 #include "support/quorl_test.h"
 
-namespace {
-
 class BadLuck : public QuorlTest {};
 
-int IsLost(HWND window) {
+static int IsLost(HWND window) {
     const RECT place = PlaceOf(window);
     return place.left < 0 || place.left >= 1024 || place.top < 0 || place.top >= 768;
 }
 
 // The user starts Quorl, scrolls, waits for the map, scrolls back half the way and quits, more than once
 // should that not be heard. The settings file stays out of it: it has its own bad luck.
-void OneDay() {
+static void OneDay() {
     Desk.files["quorl.ini"] = "[Quorl]\r\nAction71=-1|-1|-1|-1|0\r\n";
     const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
     const HWND far = OpenWindow("far", {1100, 900, 1300, 1000});
@@ -39,5 +37,3 @@ void OneDay() {
 TEST_F(BadLuck, NoPlatformCallThatFailsLosesWindowsOrEndsQuorl) {
     EXPECT_GT(FailEachCall(OneDay), 250);
 }
-
-} // namespace

@@ -2,11 +2,9 @@
 
 #include "support/quorl_test.h"
 
-namespace {
-
 class MainWindow : public RunningQuorl {};
 
-LRESULT Send(UINT message, void* record = nullptr) {
+static LRESULT Send(UINT message, void* record = nullptr) {
     Desk.trace.clear();
     return MainWndProc(MainWnd, message, 0, reinterpret_cast<LPARAM>(record));
 }
@@ -35,5 +33,3 @@ TEST_F(MainWindow, AnotherProgramMayAskForTheDesktopsSize) {
     EXPECT_EQ(record.ptMaxTrackSize, (POINT{4096, 1536}));
     EXPECT_EQ(Send(1134), 0) << "without a record, too";
 }
-
-} // namespace

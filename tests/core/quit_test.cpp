@@ -41,23 +41,16 @@ TEST_F(QuorlTest, ThatIsQuitDuringItsStartSavesNothingAndLeavesNoIcon) {
 }
 
 TEST_F(Quitting, TheEndOfTheSessionSavesIfThatIsWantedAndFoldsIfOthersStay) {
-    struct {
-        int bSave;
-        WPARAM bEnds;
-        LPARAM why;
-        bool bSaved;
-        int left;
-    } const cases[] = {
-        {1, 0, 0,                   false, 1100},
-        {0, 1, 0,                   false, 1100},
-        {1, 1, 0,                   true,  1100},
-        {0, 1, ENDSESSION_CLOSEAPP, false, 76  },
-    };
-    for (const auto& [bSave, bEnds, why, bSaved, left] : cases) {
+    const auto saves = [](int bWanted, WPARAM bEnds, LPARAM why) {
         Desk.files.clear();
-        ActionTable[ROW_SAVE_SETTINGS].value = bSave;
+        ActionTable[ROW_SAVE_SETTINGS].value = bWanted;
         SendMessageA(MainWnd, WM_ENDSESSION, bEnds, why);
-        EXPECT_EQ(!Desk.files.empty(), bSaved);
-        EXPECT_EQ(PlaceOf(far).left, left);
-    }
+        return !Desk.files.empty();
+    };
+    EXPECT_FALSE(saves(1, 0, 0));
+    EXPECT_FALSE(saves(0, 1, 0));
+    EXPECT_TRUE(saves(1, 1, 0));
+    EXPECT_EQ(PlaceOf(far).left, 1100);
+    EXPECT_FALSE(saves(0, 1, ENDSESSION_CLOSEAPP));
+    EXPECT_EQ(PlaceOf(far).left, 76);
 }

@@ -13,7 +13,6 @@
 #include "support/map_mouse.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -267,13 +266,12 @@ void ExpectAllGivenBack() {
 
 void Live(std::string_view bytes) {
     Day day{bytes.data(), bytes.data() + bytes.size()};
-    std::string told;
     PrepareDesk();
     AnswerAll(IDOK);
     StartQuorl();
     while (day.next < day.end && !testing::Test::HasFailure()) {
         const std::size_t act = day.Place(Acts.size());
-        told += std::to_string(act) + " ";
+        SCOPED_TRACE(act);
         AnswerAll(IDNO);
         Desk.choices.assign(MANY, 0);
         Acts.begin()[act](day);
@@ -286,6 +284,4 @@ void Live(std::string_view bytes) {
     ExpectScrollsStayInside();
     ExpectSavedIsLoaded();
     ExpectAllGivenBack();
-    if (testing::Test::HasFailure())
-        std::printf("The day, as places in the table of acts: %s\n", told.c_str());
 }

@@ -5,5 +5,5 @@
 #include <string_view>
 
 // Lives the day in this process, which must be fresh, and expects after each act and at the end what must
-// hold whatever happens. The same bytes are the same day. Tells the acts of a day that did not hold.
+// hold whatever happens. The same bytes are the same day.
 void Live(std::string_view bytes);

@@ -2,20 +2,16 @@
 
 #include <algorithm>
 
-namespace {
-
 class ActionsFile : public QuorlTest {};
 
-bool IsRegistered(int row, UINT modifiers, UINT key) {
+static bool IsRegistered(int row, UINT modifiers, UINT key) {
     return std::ranges::any_of(Desk.hotkeys, [=](const DeskHotkey& held) {
         return held.window == MainWnd && held.id == row && held.modifiers == modifiers && held.key == key;
     });
 }
 
 TEST_F(ActionsFile, AStoredCombinationTakesThePlaceOfTheDefault) {
-    Desk.hotkeys = {
-        {nullptr, 0, MOD_CONTROL | MOD_ALT, VK_LEFT}
-    }; // the default of row 28, held elsewhere
+    Desk.hotkeys.push_back({nullptr, 0, MOD_CONTROL | MOD_ALT, VK_LEFT}); // row 28's default, held elsewhere
     StoreFile("Action28=-1|-1|4|112|0\nAction54=1|8|0|66|1\n");
     StartQuorl();
     EXPECT_TRUE(IsRegistered(28, MOD_CONTROL, VK_F1));
@@ -30,9 +26,7 @@ TEST_F(ActionsFile, AStoredCombinationTakesThePlaceOfTheDefault) {
 }
 
 TEST_F(ActionsFile, ARefusedCombinationIsReportedOnceAndKept) {
-    Desk.hotkeys = {
-        {nullptr, 0, MOD_CONTROL, VK_F1}
-    };
+    Desk.hotkeys.push_back({nullptr, 0, MOD_CONTROL, VK_F1});
     StoreFile("Action28=-1|-1|4|112|0\n");
     WillAnswer({IDOK});
     StartQuorl();
@@ -59,5 +53,3 @@ TEST_F(ActionsFile, ALineThatIsTooShortLeavesItsRowUnboundAndTheValueAsItWas) {
     EXPECT_EQ(ActionTable[72].value, 1);
     EXPECT_EQ(ActionTable[71].value, 1);
 }
-
-} // namespace

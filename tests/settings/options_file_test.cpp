@@ -5,17 +5,13 @@
 
 #include <climits>
 
-namespace {
-
 class OptionsFile : public RunningQuorl {};
 
 TEST_F(OptionsFile, WhatIsAbsentOrNegativeStaysAsItIs) {
     Options.maxscroll = 77;
-    Quorl.left = 3;
-    Load("border=-3\nQuorl.left=-20\nquorl_menu_count=-1\nmousescroll=\nminscroll=x\nalpha=300\n");
+    Load("border=-3\nquorl_menu_count=-1\nmousescroll=\nminscroll=x\nalpha=300\n");
     EXPECT_EQ(Options.border, 5);
     EXPECT_EQ(Options.maxscroll, 77);
-    EXPECT_EQ(Quorl.left, 3);
     EXPECT_EQ(quorl_menu_count, 10);
     EXPECT_EQ(Options.mousescroll, 800);
     EXPECT_EQ(Options.minscroll, 0) << "what is no number reads as 0";
@@ -40,7 +36,7 @@ TEST_F(OptionsFile, TheToolwinGoesToAStoredPlaceRightOfZero) {
              "\nquorl_pos.right=" + std::to_string(right) + "\nquorl_pos.bottom=" + std::to_string(bottom));
         return PlaceOf(MainWnd);
     };
-    EXPECT_EQ(placed(0, 5, 300, 300), Rect(100, 100, 300, 200)) << "it stays";
+    EXPECT_EQ(placed(0, 5, 300, 300), Rect(100, 100, 300, 200));
     EXPECT_EQ(placed(1, 0, INT_MAX, 9), Rect(1, 0, 32001, 13)) << "as far as the window's own limits go";
     EXPECT_EQ(placed(1024, 5, 1200, 80), Rect(1, 0, 32001, 13)) << "from a display that is gone";
     EXPECT_EQ(placed(300, 200, -1, -1), Rect(300, 200, 340, 213)) << "only its corner is stored";
@@ -72,5 +68,3 @@ TEST_F(OptionsFile, AFullMenuSurvivesAndOneTooLongLosesItsEnd) {
         EXPECT_EQ(Stored("quorl_menu_count"), std::to_string(kept));
     }
 }
-
-} // namespace

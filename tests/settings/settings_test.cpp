@@ -8,12 +8,10 @@
 #include "settings/settings_test.h"
 #include "support/faults.h"
 
-namespace {
-
 class Settings : public RunningQuorl {};
 
 // Nothing is as it was at first, and no two numbers are the same.
-void ChangeAll() {
+static void ChangeAll() {
     Options = {6, 101, 7, 801, 102, 254, 2, 3, Options.hook_present};
     Quorl = {1, 4, 5000, 1600};
     MoveWindow(MainWnd, 40, 50, 300, 200, TRUE);
@@ -58,11 +56,9 @@ TEST_F(Settings, AreSavedAsAWholeOrNotAtAllAndLeaveNoCopyInTheWay) {
         Command(47);
         return Desk.files;
     };
-    const Files unfinished{
-        {"quorl.new", "[Quorl]\r\nhalf=1"}
-    };
+    const Files::value_type unfinished{"quorl.new", "[Quorl]\r\nhalf=1"}; // by an earlier run
     const Files before = saved({});
-    EXPECT_EQ(saved(unfinished), before) << "of an earlier run";
+    EXPECT_EQ(saved({unfinished}), before);
     ChangeAll();
     const Files after = saved(before);
     for (int nth = 1; nth <= 18 + 1 + 2 + 123; ++nth)
@@ -74,7 +70,7 @@ TEST_F(Settings, AreSavedAsAWholeOrNotAtAllAndLeaveNoCopyInTheWay) {
     Desk.protectedFiles = {SETTINGS_FILE};
     EXPECT_EQ(saved(before), before);
     Desk.protectedFiles = {"quorl.new"};
-    EXPECT_EQ(saved({*before.begin(), *unfinished.begin()}), after);
+    EXPECT_EQ(saved({*before.begin(), unfinished}), after);
 }
 
 TEST_F(QuorlTest, TakesNoHarmFromAFileHoweverLongItsValuesAre) {
@@ -85,5 +81,3 @@ TEST_F(QuorlTest, TakesNoHarmFromAFileHoweverLongItsValuesAre) {
           "Action5=1|2" + std::string(10 << 20, '7') + "\nnum_regions=1\nRegion0=a|1"})
         EXPECT_TRUE(HoldsInItsOwnProcess([&] { TrySettings("\2" + lines); })) << lines.substr(0, 20);
 }
-
-} // namespace

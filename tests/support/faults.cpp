@@ -8,11 +8,7 @@
 
 #include <cstdio>
 
-namespace {
-
 enum Outcome { HELD, BROKEN, NOTHING_FAILED }; // the exit code of a story's process
-
-} // namespace
 
 constexpr unsigned PATIENCE = 30; // seconds
 
@@ -29,18 +25,17 @@ static int InItsOwnProcess(const std::function<Outcome()>& story) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : BROKEN;
 }
 
-static Outcome Tell(const std::function<void()>& story, int nth) {
-    Desk.fault = {"", nth, 0, 87, 0};
-    const std::size_t before = Desk.trace.size();
-    story();
-    if (testing::Test::HasFailure() && Desk.fault.hits)
-        std::printf("The call that failed was %s.\n", Desk.trace[before + static_cast<std::size_t>(nth) - 1]);
-    return Desk.fault.hits ? HELD : NOTHING_FAILED;
-}
-
 int FailEachCall(const std::function<void()>& story) {
     for (int nth = 1;; ++nth) {
-        const int outcome = InItsOwnProcess([&] { return Tell(story, nth); });
+        const int outcome = InItsOwnProcess([&] {
+            Desk.fault = {"", nth, 0, 87, 0};
+            const std::size_t before = Desk.trace.size();
+            story();
+            if (testing::Test::HasFailure() && Desk.fault.hits)
+                std::printf("The call that failed was %s.\n",
+                            Desk.trace[before + static_cast<std::size_t>(nth) - 1]);
+            return Desk.fault.hits ? HELD : NOTHING_FAILED;
+        });
         if (outcome == NOTHING_FAILED)
             return nth - 1;
         EXPECT_EQ(outcome, HELD) << "with call " << nth << " failing";
@@ -50,8 +45,5 @@ int FailEachCall(const std::function<void()>& story) {
 }
 
 bool HoldsInItsOwnProcess(const std::function<void()>& story) {
-    return InItsOwnProcess([&] {
-               story();
-               return HELD;
-           }) == HELD;
+    return InItsOwnProcess([&] { return story(), HELD; }) == HELD;
 }

@@ -1,12 +1,10 @@
 // libFuzzer's door to the settings file.
 #include "fuzz/settings_input.h"
-#include "support/faults.h"
+#include "fuzz/shared_coverage.h"
 
 #include <cstdint>
-#include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (!HoldsInItsOwnProcess([=] { TrySettings({reinterpret_cast<const char*>(data), size}); }))
-        std::abort();
+    TryInput([=] { TrySettings({reinterpret_cast<const char*>(data), size}); });
     return 0;
 }

@@ -4,10 +4,8 @@
 
 #include "user.h"
 
-#include <string>
-#include <vector>
-
-// Has Quorl run the row, and insists on the dialog with this title. The same by a button of an open dialog.
+// Has Quorl run the row, and insists on the dialog with this title. The same by a button of an open dialog,
+// which then closes by its OK.
 HWND OpenByRow(int row, const char* title);
 HWND OpenByButton(HWND dialog, int button, const char* title);
 
@@ -20,30 +18,20 @@ int Focused(HWND dialog);
 // second one does not wait, for a click that opens something modal.
 void Press(HWND window);
 void PressOnly(HWND window);
-
 // Clicks at a point of a window's client area.
 void PressAt(HWND window, POINT at);
 
-// Clicks a button of the dialog that closes it, and waits for its end.
+// Clicks a button of the dialog that closes it, or presses a key, and waits for its end.
 void CloseBy(HWND dialog, int id);
-// The same by a key.
 void CloseByKey(HWND dialog, WORD key);
 
 // Clicks into an edit box and types over what it holds; letters, digits and blanks.
 void TypeOver(HWND edit, const std::string& text);
-
 std::string ControlText(HWND dialog, int id);
-bool IsChecked(HWND dialog, int id);
 
-// List boxes.
+// List boxes. The row with this text is insisted on.
 std::vector<std::string> ListTexts(HWND list);
-int SelectedRow(HWND list); // -1: none
-void PressRow(HWND list, int row);
-void PressRow(HWND list, const std::string& text); // insists on it
+void PressRow(HWND list, const std::string& text);
 
 // Scrolls a row of a list view into sight and clicks it.
 void PressItem(HWND list, int item);
-
-// Chooses a capital letter of a drop-down list. The first press opens it, the second one closes it; the key
-// then goes to the closed list.
-void ChooseLetter(HWND combo, char letter);

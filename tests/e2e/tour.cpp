@@ -1,32 +1,19 @@
 // Shows what Quorl does, on a screen that nobody needs to look at.
-#include "tour.h"
-
-#include "dialogs.h"
-#include "mouse.h"
-#include "settings_file.h"
 #include "tour_words.h"
 
 namespace {
 
-void ShowMap(const char* act) {
-    const Place map = PlaceOf(QuorlWindow());
-    Say("  %s: the map is at %d, %d and %d x %d in size", act, map.left, map.top, map.right - map.left,
-        map.bottom - map.top);
-}
-
-void OpenExhibit(Exhibit& exhibit) {
-    const Place& home = exhibit.home;
-    exhibit.window = OpenProgram(exhibit.command, exhibit.windowClass);
-    Insist(exhibit.window != nullptr, exhibit.name);
-    SetWindowPos(exhibit.window, nullptr, home.left, home.top, home.right - home.left, home.bottom - home.top,
-                 SWP_NOZORDER | (home.right == home.left ? SWP_NOSIZE : 0U));
-    exhibit.home = PlaceOf(exhibit.window);
-}
-
 void OpenPrograms() {
-    for (Exhibit& exhibit : Exhibits)
-        if (!IsWindow(exhibit.window))
-            OpenExhibit(exhibit);
+    for (Exhibit& exhibit : Exhibits) {
+        const Place& home = exhibit.home;
+        if (IsWindow(exhibit.window))
+            continue;
+        exhibit.window = OpenProgram(exhibit.command, exhibit.windowClass);
+        Insist(exhibit.window != nullptr, exhibit.name);
+        SetWindowPos(exhibit.window, nullptr, home.left, home.top, home.right - home.left,
+                     home.bottom - home.top, SWP_NOZORDER | (home.right == home.left ? SWP_NOSIZE : 0U));
+        exhibit.home = PlaceOf(exhibit.window);
+    }
     SetWindowTextA(FindWindowExA(Exhibits[NOTEPAD].window, nullptr, "Edit", nullptr),
                    "Four screens by two, of which you see one.\r\n\r\nCtrl+Alt+arrow: a whole screen\r\n"
                    "Ctrl+Alt+Shift+arrow: a few pixels\r\nCtrl+Alt+Shift+Space: the menu\r\n");
@@ -35,65 +22,64 @@ void OpenPrograms() {
 void Open() {
     OpenPrograms();
     StartQuorl();
-    ShowMap("quorl.exe starts");
+    ShowPlace("quorl.exe starts", "the map", QuorlWindow());
     SeeView("four programs are open", 0, 0);
     TakePicture("1-start");
 }
 
 void PressTheKeys() {
-    static const KeyStep steps[] = {
-        {"Ctrl+Alt+Right",       {VK_CONTROL, VK_MENU, VK_RIGHT},           SCREEN_W,     0       },
-        {"Ctrl+Alt+Shift+Right", {VK_CONTROL, VK_MENU, VK_SHIFT, VK_RIGHT}, SCREEN_W + 5, 0       },
-        {"Ctrl+Alt+Shift+Down",  {VK_CONTROL, VK_MENU, VK_SHIFT, VK_DOWN},  SCREEN_W + 5, 5       },
-        {"Ctrl+Alt+Shift+Left",  {VK_CONTROL, VK_MENU, VK_SHIFT, VK_LEFT},  SCREEN_W,     5       },
-        {"Ctrl+Alt+Shift+Up",    {VK_CONTROL, VK_MENU, VK_SHIFT, VK_UP},    SCREEN_W,     0       },
-        {"Ctrl+Alt+Left",        {VK_CONTROL, VK_MENU, VK_LEFT},            0,            0       },
-        {"Ctrl+Alt+Down",        {VK_CONTROL, VK_MENU, VK_DOWN},            0,            SCREEN_H},
-        {"Ctrl+Alt+Up",          {VK_CONTROL, VK_MENU, VK_UP},              0,            0       },
-        {"Ctrl+Alt+Right",       {VK_CONTROL, VK_MENU, VK_RIGHT},           SCREEN_W,     0       },
-    };
-    SeeKeys(steps);
+    SeeKeys("Ctrl+Alt+Right", {VK_CONTROL, VK_MENU, VK_RIGHT}, SCREEN_W, 0);
+    SeeKeys("Ctrl+Alt+Shift+Right", {VK_CONTROL, VK_MENU, VK_SHIFT, VK_RIGHT}, SCREEN_W + 5, 0);
+    SeeKeys("Ctrl+Alt+Shift+Down", {VK_CONTROL, VK_MENU, VK_SHIFT, VK_DOWN}, SCREEN_W + 5, 5);
+    SeeKeys("Ctrl+Alt+Shift+Left", {VK_CONTROL, VK_MENU, VK_SHIFT, VK_LEFT}, SCREEN_W, 5);
+    SeeKeys("Ctrl+Alt+Shift+Up", {VK_CONTROL, VK_MENU, VK_SHIFT, VK_UP}, SCREEN_W, 0);
+    SeeKeys("Ctrl+Alt+Left", {VK_CONTROL, VK_MENU, VK_LEFT}, 0, 0);
+    SeeKeys("Ctrl+Alt+Down", {VK_CONTROL, VK_MENU, VK_DOWN}, 0, SCREEN_H);
+    SeeKeys("Ctrl+Alt+Up", {VK_CONTROL, VK_MENU, VK_UP}, 0, 0);
+    SeeKeys("Ctrl+Alt+Right", {VK_CONTROL, VK_MENU, VK_RIGHT}, SCREEN_W, 0);
     TakePicture("2-keys");
 }
 
 // Clicks on the map until the view has come there.
-template <typename Act>
-void GoByMap(const char* act, POINT at, LONG x, LONG y, Act click) {
+void GoByMap(const char* act, WORD key, DWORD press, DWORD release, POINT at, LONG x, LONG y) {
     Until([&] { return StandAt(x, y); },
           [&] {
               AfterMoving(QuorlWindow(), at);
-              click();
+              SendKey(key, 0);
+              Click(press, release);
+              SendKey(key, KEYEVENTF_KEYUP);
           });
     SeeView(act, x, y);
 }
 
 void PressTheMap() {
     const POINT at = OnMap(1200, 800);
-    const POINT middle = OnDesktop(at);
-    GoByMap("middle button in the midst of the map", at, middle.x - SCREEN_W / 2, middle.y - SCREEN_H / 2,
-            [] { Click(MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP); });
+    RECT map = {};
+    GetClientRect(QuorlWindow(), &map);
+    POINT middle = at;
+    ScreenToClient(QuorlWindow(), &middle);
+    GoByMap("middle button in the midst of the map", 0, MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP, at,
+            middle.x * 4 * SCREEN_W / map.right - SCREEN_W / 2,
+            middle.y * 2 * SCREEN_H / map.bottom - SCREEN_H / 2);
     TakePicture("3-map");
-    GoByMap("Shift and left button on the map's first screen", OnMap(100, 100), 0, 0,
-            [] { ClickHolding(VK_LSHIFT, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP); });
+    GoByMap("Shift and left button on the map's first screen", VK_LSHIFT, MOUSEEVENTF_LEFTDOWN,
+            MOUSEEVENTF_LEFTUP, OnMap(100, 100), 0, 0);
 }
 
 void DragTheMap() {
-    constexpr LONG dx = 60;
-    constexpr LONG dy = -60;
-    const Place wanted = Moved(PlaceOf(QuorlWindow()), dx, dy);
+    const Place wanted = Moved(PlaceOf(QuorlWindow()), 60, -60);
     const POINT at = OnMap(3000, 1200);
     AfterMoving(QuorlWindow(), at);
     PressButton(MOUSEEVENTF_LEFTDOWN);
-    MoveMouse({at.x + dx / 2, at.y + dy / 2});
-    const Place now = Soon([&] { return AfterMoving(QuorlWindow(), {at.x + dx, at.y + dy}); }, wanted);
+    MoveMouse({at.x + 30, at.y - 30});
+    const Place now = Soon([&] { return AfterMoving(QuorlWindow(), {at.x + 60, at.y - 60}); }, wanted);
     PressButton(MOUSEEVENTF_LEFTUP);
-    ShowMap("left button held while the mouse moves");
+    ShowPlace("left button held while the mouse moves", "the map", QuorlWindow());
     Insist(now == wanted, "the map under the mouse");
 }
 
 // Under Wine on a busy machine a menu closes again at once now and then, and loses keys at first.
-template <typename Act>
-void OpenMenu(const char* act, Act open) {
+void OpenMenu(const char* act, void (*open)()) {
     Until([] { return OpenedMenu() != nullptr; },
           [&] {
               open();
@@ -105,9 +91,9 @@ void OpenMenu(const char* act, Act open) {
     Say("  %s: the menu opens at %d, %d", act, menu.left, menu.top);
 }
 
-void OpenMenuByKeys(POINT at) {
-    OpenMenu("Ctrl+Alt+Shift+Space", [at] {
-        MoveMouse(at);
+void OpenMenuByKeys() {
+    OpenMenu("Ctrl+Alt+Shift+Space", [] {
+        MoveMouse({500, 120});
         PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, VK_SPACE});
     });
 }
@@ -118,11 +104,10 @@ void PressInMenu(std::initializer_list<WORD> keys) {
 }
 
 void UseTheMenu() {
-    OpenMenuByKeys({600, 120});
-    TakePicture("4-menu");
     for (const bool shown : {false, true}) {
-        if (shown)
-            OpenMenuByKeys({600, 120});
+        OpenMenuByKeys();
+        if (!shown)
+            TakePicture("4-menu");
         PressInMenu({VK_DOWN, VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN});
         Insist(Soon(IsMapShown, shown) == shown, "another state of the map");
         Say("  Show Quorl Toolwin is chosen: the map is %s", shown ? "back" : "away");
@@ -138,8 +123,7 @@ void SeeAllGathered() {
 }
 
 void QuitByTheMenu() {
-    PressKeys({VK_CONTROL, VK_MENU, VK_RIGHT});
-    SeeView("Ctrl+Alt+Right", SCREEN_W, 0);
+    SeeKeys("Ctrl+Alt+Right", {VK_CONTROL, VK_MENU, VK_RIGHT}, SCREEN_W, 0);
     OpenMenu("right button on the map", [] {
         MoveMouse(OnMap(2500, 400));
         Click(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
@@ -177,52 +161,45 @@ void StartWithFile() {
     for (const auto& [key, value] : FileLines)
         Store(key, value);
     StartQuorl();
-    ShowMap("quorl.exe starts with three regions and keys of our own in quorl.ini");
+    ShowPlace("quorl.exe starts with three regions and keys of our own in quorl.ini", "the map",
+              QuorlWindow());
     TakePicture("6-regions");
 }
 
 void VisitRegions() {
-    static const KeyStep steps[] = {
-        {"Ctrl+Alt+Shift+2 jumps to web", {VK_CONTROL, VK_MENU, VK_SHIFT, '2'}, 1024, 768},
-        {"Ctrl+Alt+N steps on to home",   {VK_CONTROL, VK_MENU, 'N'},           0,    0  },
-        {"Ctrl+Alt+N steps on to mail",   {VK_CONTROL, VK_MENU, 'N'},           2048, 0  },
-        {"Ctrl+Alt+P steps back to home", {VK_CONTROL, VK_MENU, 'P'},           0,    0  },
-    };
-    SeeKeys(steps);
-    OpenMenuByKeys({500, 120});
+    SeeKeys("Ctrl+Alt+Shift+2 jumps to web", {VK_CONTROL, VK_MENU, VK_SHIFT, '2'}, 1024, 768);
+    SeeKeys("Ctrl+Alt+N steps on to home", {VK_CONTROL, VK_MENU, 'N'}, 0, 0);
+    SeeKeys("Ctrl+Alt+N steps on to mail", {VK_CONTROL, VK_MENU, 'N'}, 2048, 0);
+    SeeKeys("Ctrl+Alt+P steps back to home", {VK_CONTROL, VK_MENU, 'P'}, 0, 0);
+    OpenMenuByKeys();
     PressInTurn({VK_UP, VK_RIGHT});
     TakePicture("7-view-region");
     PressInMenu({'2'});
     SeeView("View Region, web is chosen", SCREEN_W, SCREEN_H);
 }
 
-// Moves the mouse there until the window has followed.
-void MoveOn(HWND window, POINT to) {
-    const Place before = PlaceOf(window);
-    for (int tries = 0; tries < 20 && AfterMoving(window, to) == before; ++tries)
-        Sleep(20);
-}
-
 void DragABox() {
     Exhibit& clock = Exhibits[CLOCK];
-    PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, '0'});
-    SeeView("Ctrl+Alt+Shift+0 jumps home", 0, 0);
+    SeeKeys("Ctrl+Alt+Shift+0 jumps home", {VK_CONTROL, VK_MENU, VK_SHIFT, '0'}, 0, 0);
     constexpr int STEPS = 20; // the box is lost when the mouse leaves it
     const POINT at =
         OnMap((clock.home.left + clock.home.right) / 2, (clock.home.top + clock.home.bottom) / 2);
     const POINT way = {OnMap(1500, 1100).x - at.x, OnMap(1500, 1100).y - at.y};
     AfterMoving(QuorlWindow(), at);
     PressButton(MOUSEEVENTF_LEFTDOWN);
-    for (int step = 1; step <= STEPS; ++step)
-        MoveOn(clock.window, {at.x + way.x * step / STEPS, at.y + way.y * step / STEPS});
+    for (int step = 1; step <= STEPS; ++step) {
+        const Place before = PlaceOf(clock.window);
+        const POINT to = {at.x + way.x * step / STEPS, at.y + way.y * step / STEPS};
+        for (int tries = 0; tries < 20 && AfterMoving(clock.window, to) == before; ++tries)
+            Sleep(20); // until the window has followed
+    }
     PressButton(MOUSEEVENTF_LEFTUP);
     Sleep(500); // the last step may be under way
     clock.home = PlaceOf(clock.window);
     Say("  left button drags the clock's box into web: the clock is at %d, %d", clock.home.left,
         clock.home.top);
     Insist(clock.home.left > SCREEN_W && clock.home.top > SCREEN_H, "the clock on another screen");
-    PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, '2'});
-    SeeView("Ctrl+Alt+Shift+2 jumps there", SCREEN_W, SCREEN_H);
+    SeeKeys("Ctrl+Alt+Shift+2 jumps there", {VK_CONTROL, VK_MENU, VK_SHIFT, '2'}, SCREEN_W, SCREEN_H);
     TakePicture("8-drag");
 }
 
@@ -246,12 +223,12 @@ void PushAtTheEdge() {
 
 void Rearrange() {
     PressKeys({VK_CONTROL, VK_MENU, 'A'});
-    PressKeys({VK_CONTROL, VK_MENU, 'E'});
-    SeeView("Ctrl+Alt+A adds a desktop on the right, Ctrl+Alt+E goes there", 4 * SCREEN_W, 0);
+    SeeKeys("Ctrl+Alt+A adds a desktop on the right, Ctrl+Alt+E goes there", {VK_CONTROL, VK_MENU, 'E'},
+            4 * SCREEN_W, 0);
     const Place wanted = Moved(PlaceOf(QuorlWindow()), 100, 0);
     PressKeys({VK_CONTROL, VK_MENU, 'R'});
     Insist(Soon([] { return PlaceOf(QuorlWindow()); }, wanted) == wanted, "the map 100 pixels to the right");
-    ShowMap("Ctrl+Alt+R nudges the map");
+    ShowPlace("Ctrl+Alt+R nudges the map", "the map", QuorlWindow());
 }
 
 void StartAgain() {
@@ -259,12 +236,10 @@ void StartAgain() {
     Quit();
     SeeAllGathered();
     StartQuorl();
-    ShowMap("quorl.exe starts again");
+    ShowPlace("quorl.exe starts again", "the map", QuorlWindow());
     Insist(PlaceOf(QuorlWindow()) == map, "the map where it was left");
-    PressKeys({VK_CONTROL, VK_MENU, 'E'});
-    SeeView("Ctrl+Alt+E goes to the fifth screen", 4 * SCREEN_W, 0);
-    PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, '1'});
-    SeeView("Ctrl+Alt+Shift+1 jumps to mail", 2 * SCREEN_W, 0);
+    SeeKeys("Ctrl+Alt+E goes to the fifth screen", {VK_CONTROL, VK_MENU, 'E'}, 4 * SCREEN_W, 0);
+    SeeKeys("Ctrl+Alt+Shift+1 jumps to mail", {VK_CONTROL, VK_MENU, VK_SHIFT, '1'}, 2 * SCREEN_W, 0);
     TakePicture("9-again");
 }
 

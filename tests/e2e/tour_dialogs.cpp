@@ -1,6 +1,5 @@
 // The chapters of the tour that walk through the dialogs.
 #include "dialogs.h"
-#include "settings_file.h"
 #include "tour_words.h"
 
 namespace {
@@ -14,24 +13,7 @@ void SeeStored(const char* act, const char* key, const std::string& wanted) {
 }
 
 void GoHome() {
-    PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, '0'});
-    SeeView("Ctrl+Alt+Shift+0 jumps home", 0, 0);
-}
-
-// Waits until Quorl has looked at the desktop and moves the dialog with the view, as it does each window. One
-// that it did not know when the view left would be carried off when the view comes back.
-HWND OpenAndBeKnown(int row, const char* title) {
-    constexpr DWORD LONGEST_LOOK = 2000; // ms
-    const HWND dialog = OpenByRow(row, title);
-    Sleep(LONGEST_LOOK);
-    return dialog;
-}
-
-std::string Joined(const std::vector<std::string>& texts) {
-    std::string all;
-    for (const std::string& text : texts)
-        all += (all.empty() ? "" : ", ") + text;
-    return all;
+    SeeKeys("Ctrl+Alt+Shift+0 jumps home", {VK_CONTROL, VK_MENU, VK_SHIFT, '0'}, 0, 0);
 }
 
 void SetOptions() {
@@ -52,28 +34,25 @@ void SetOptions() {
 
 void BindAKey() {
     constexpr int ACTIONS_BUTTON = 3, KEYS = 1038, LIST = 1051, APPLY = 1053, RIGHT_BY_SCREEN = 25;
-    const HWND options = OpenByRow(54, "Options...");
-    const HWND dialog = OpenByButton(options, ACTIONS_BUTTON, "Actions...");
-    CloseBy(options, IDOK);
+    const HWND dialog = OpenByButton(OpenByRow(54, "Options..."), ACTIONS_BUTTON, "Actions...");
     Until([] { return Stored("Action30") == "-1|-1|6|81|0"; },
           [dialog] {
               PressItem(Control(dialog, LIST), RIGHT_BY_SCREEN);
-              ChooseLetter(Control(dialog, KEYS), 'Q');
+              Press(Control(dialog, KEYS)); // drops the list
+              Press(Control(dialog, KEYS));
+              PressKeys({'Q'});
               Press(Control(dialog, APPLY));
               DoRow(SAVE);
           });
     TakePicture("11-actions");
     CloseBy(dialog, IDOK);
-    PressKeys({VK_CONTROL, VK_MENU, 'Q'});
-    SeeView("Apply: Ctrl+Alt+Q moves one desktop to the right", SCREEN_W, 0);
+    SeeKeys("Apply: Ctrl+Alt+Q moves one desktop to the right", {VK_CONTROL, VK_MENU, 'Q'}, SCREEN_W, 0);
     GoHome();
 }
 
 void ComposeMenu() {
     constexpr int MENUS_BUTTON = 1064, INTO = 3, ACTION_LIST = 1062, MENU_LIST = 1061;
-    const HWND options = OpenByRow(54, "Options...");
-    const HWND dialog = OpenByButton(options, MENUS_BUTTON, "Customize Menu...");
-    CloseBy(options, IDOK);
+    const HWND dialog = OpenByButton(OpenByRow(54, "Options..."), MENUS_BUTTON, "Customize Menu...");
     const auto last = [dialog] { return ListTexts(Control(dialog, MENU_LIST)).back(); };
     PressRow(Control(dialog, ACTION_LIST), "Find Window...");
     Until([&] { return last() == "Find Window..."; }, [&] { Press(Control(dialog, INTO)); });
@@ -85,8 +64,7 @@ void ComposeMenu() {
 
 void NameTheView() {
     constexpr int NAME = 1025;
-    PressKeys({VK_CONTROL, VK_MENU, 'Q'});
-    SeeView("Ctrl+Alt+Q", SCREEN_W, 0);
+    SeeKeys("Ctrl+Alt+Q", {VK_CONTROL, VK_MENU, 'Q'}, SCREEN_W, 0);
     const HWND dialog = OpenByRow(49, "Name Region");
     Until([&] { return ControlText(dialog, NAME) == "Notes"; },
           [&] { TypeOver(Control(dialog, NAME), "Notes"); });
@@ -96,55 +74,60 @@ void NameTheView() {
     CloseBy(dialog, IDOK);
     SeeStored("OK makes a region of the view", "num_regions", "4");
     GoHome();
-    PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, '3'});
-    SeeView("Ctrl+Alt+Shift+3 jumps to Notes", SCREEN_W, 0);
+    SeeKeys("Ctrl+Alt+Shift+3 jumps to Notes", {VK_CONTROL, VK_MENU, VK_SHIFT, '3'}, SCREEN_W, 0);
     GoHome();
+}
+
+// Opens a list and chooses from it once Quorl has looked at the desktop and moves the dialog with the view,
+// as it does each window. One that it did not know when the view left would be carried off when the view
+// comes back.
+void Find(int row, const char* title, const char* picture, const std::string& text) {
+    constexpr DWORD LONGEST_LOOK = 2000; // ms
+    constexpr int LIST = 1041;
+    const HWND dialog = OpenByRow(row, title);
+    Sleep(LONGEST_LOOK);
+    std::string all;
+    for (const std::string& each : ListTexts(Control(dialog, LIST)))
+        all += (all.empty() ? "" : ", ") + each;
+    Say("  it lists %s", all.c_str());
+    TakePicture(picture);
+    PressRow(Control(dialog, LIST), text);
+}
+
+void LeaveFind(const char* title) {
+    GoHome();
+    CloseBy(WaitForBox(title), IDOK);
 }
 
 void FindAWindow() {
-    constexpr int LIST = 1041;
     const Exhibit& mines = Exhibits[WINEMINE];
-    const HWND dialog = OpenAndBeKnown(52, "Find Windows...");
-    const HWND list = Control(dialog, LIST);
-    Say("  it lists %s", Joined(ListTexts(list)).c_str());
-    TakePicture("14-find-window");
-    PressRow(list, TextOf(mines.window));
-    const int left = (mines.home.left + mines.home.right - SCREEN_W) / 2;
-    const int top = (mines.home.top + mines.home.bottom - SCREEN_H) / 2;
-    SeeView("winemine is chosen and comes to the middle", left, top);
-    GoHome();
-    CloseBy(dialog, IDOK);
+    Find(52, "Find Windows...", "14-find-window", TextOf(mines.window));
+    SeeView("winemine is chosen and comes to the middle", (mines.home.left + mines.home.right - SCREEN_W) / 2,
+            (mines.home.top + mines.home.bottom - SCREEN_H) / 2);
+    LeaveFind("Find Windows...");
 }
 
 void FindARegion() {
-    constexpr int LIST = 1041;
-    const HWND dialog = OpenAndBeKnown(111, "Find Region...");
-    const HWND list = Control(dialog, LIST);
-    Say("  it lists %s", Joined(ListTexts(list)).c_str());
-    TakePicture("15-find-region");
-    PressRow(list, "mail");
+    Find(111, "Find Region...", "15-find-region", "mail");
     SeeView("mail is chosen", 2 * SCREEN_W, 0);
-    GoHome();
-    CloseBy(dialog, IDOK);
+    LeaveFind("Find Region...");
 }
 
 void ResizeAWindow() {
     constexpr int APPLY = 2, HEIGHT = 1000, WIDTH = 1001, LIST = 1041, OK = 1044;
     Exhibit& notepad = Exhibits[NOTEPAD];
+    Place& home = notepad.home;
     const HWND dialog = OpenByRow(53, "Resize Windows...");
-    notepad.home.right = notepad.home.left + 420;
-    notepad.home.bottom = notepad.home.top + 300;
-    Until([&] { return PlaceOf(notepad.window) == notepad.home; },
+    home = {home.left, home.top, home.left + 420, home.top + 300};
+    Until([&] { return PlaceOf(notepad.window) == home; },
           [&] {
               PressRow(Control(dialog, LIST), TextOf(notepad.window));
               TypeOver(Control(dialog, WIDTH), "420");
               TypeOver(Control(dialog, HEIGHT), "300");
               Press(Control(dialog, APPLY));
           });
-    const Place now = PlaceOf(notepad.window);
-    Say("  Apply: notepad is at %d, %d and %d x %d in size", now.left, now.top, now.right - now.left,
-        now.bottom - now.top);
-    Insist(now == notepad.home, "420 x 300");
+    ShowPlace("Apply", "notepad", notepad.window);
+    Insist(PlaceOf(notepad.window) == home, "420 x 300");
     TakePicture("16-resize");
     CloseBy(dialog, OK);
 }
@@ -165,20 +148,20 @@ void SeeThrough() {
     SeeStored("the End key and OK make it solid again", "alpha", "255");
 }
 
+void Read(int row, const char* title, int control, const char* says, const char* wanted,
+          const char* picture) {
+    const HWND dialog = OpenByRow(row, title);
+    const std::string text = ControlText(dialog, control);
+    Say("  %s: %s", says, text.substr(0, text.find_first_of("\r\n")).c_str());
+    Insist(text.find(wanted) != std::string::npos, wanted);
+    TakePicture(picture);
+    CloseBy(dialog, IDOK);
+}
+
 void ReadHelp() {
     constexpr int HELP_TEXT = 1068, PROGRAM = 1072;
-    const HWND help = OpenByRow(56, "Quorl Help");
-    const std::string text = ControlText(help, HELP_TEXT);
-    Say("  Help says: %s", text.substr(0, text.find('\r')).c_str());
-    Insist(text.find("index.html") != std::string::npos, "where to find help");
-    TakePicture("18-help");
-    CloseBy(help, IDOK);
-    const HWND about = OpenByRow(57, "About...");
-    const std::string program = ControlText(about, PROGRAM);
-    Say("  About says: %s", program.substr(0, program.find('\n')).c_str());
-    Insist(program.starts_with("Quorl "), "the program's name");
-    TakePicture("19-about");
-    CloseBy(about, IDOK);
+    Read(56, "Quorl Help", HELP_TEXT, "Help says", "index.html", "18-help");
+    Read(57, "About...", PROGRAM, "About says", "Quorl ", "19-about");
 }
 
 } // namespace

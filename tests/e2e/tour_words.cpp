@@ -1,9 +1,7 @@
 // What the chapters of the tour have in common.
 #include "tour_words.h"
 
-#include <algorithm>
 #include <cstdarg>
-#include <cstdio>
 
 Exhibit Exhibits[NUM_EXHIBITS] = {
     {"notepad",  "notepad",  "Notepad",         {60, 250, 560, 640},    nullptr},
@@ -31,23 +29,26 @@ void TakePicture(const char* name) {
     Insist(fgets(line, sizeof line, stdin) != nullptr, "an answer from who takes the pictures");
 }
 
-static std::string Standing(const Exhibit& exhibit, const Place& place) {
-    char text[64];
-    snprintf(text, sizeof text, "%s at %d, %d", exhibit.name, place.left, place.top);
-    return text;
-}
-
 void SeeView(const char* act, LONG x, LONG y) {
-    std::string report, wanted;
+    std::string report;
     for (const Exhibit& exhibit : Exhibits) {
-        const Place place = Moved(exhibit.home, -x, -y);
-        const Place now = Soon([&] { return PlaceOf(exhibit.window); }, place);
-        report += (report.empty() ? "" : "; ") + Standing(exhibit, now);
-        if (now != place)
-            wanted += Standing(exhibit, place) + " ";
+        const Place now = Soon([&] { return PlaceOf(exhibit.window); }, Moved(exhibit.home, -x, -y));
+        report += std::string(report.empty() ? "" : "; ") + exhibit.name + " at " + std::to_string(now.left) +
+                  ", " + std::to_string(now.top);
     }
     Say("  %s: %s", act, report.c_str());
-    Insist(wanted.empty(), wanted);
+    Insist(StandAt(x, y), "the view at " + std::to_string(x) + ", " + std::to_string(y));
+}
+
+void SeeKeys(const char* act, std::initializer_list<WORD> keys, LONG x, LONG y) {
+    Insist(PressKeys(keys), act);
+    SeeView(act, x, y);
+}
+
+void ShowPlace(const char* act, const char* name, HWND window) {
+    const Place now = PlaceOf(window);
+    Say("  %s: %s is at %d, %d and %d x %d in size", act, name, now.left, now.top, now.right - now.left,
+        now.bottom - now.top);
 }
 
 bool StandAt(LONG x, LONG y) {

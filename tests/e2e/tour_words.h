@@ -3,7 +3,11 @@
 
 #include "user.h"
 
-#include <vector>
+// A guided tour: real programs, real keys, and what they did, in numbers read back from the windows. Tells
+// each step in one line on the standard output. A line "picture NAME" asks the caller for a picture of the
+// screen; the tour goes on when it reads a line. Returns the exit code: 0 if everything came as announced.
+// Without pictures its parts are tests.
+int Tour();
 
 struct Chapter {
     const char* title;
@@ -30,19 +34,9 @@ void Say(const char* format, ...);
 extern bool bPictures;
 void TakePicture(const char* name);
 
-// Tells where all programs stand, which should be as the view at this place of the desktop shows them.
+// Tells where all programs stand, which should be as the view at this place of the desktop shows them. The
+// same after the keys are pressed.
 void SeeView(const char* act, LONG x, LONG y);
+void SeeKeys(const char* act, std::initializer_list<WORD> keys, LONG x, LONG y);
 bool StandAt(LONG x, LONG y);
-
-struct KeyStep {
-    const char* name;
-    std::initializer_list<WORD> keys;
-    LONG x, y; // where the view is then
-};
-template <std::size_t COUNT>
-void SeeKeys(const KeyStep (&steps)[COUNT]) {
-    for (const KeyStep& step : steps) {
-        Insist(PressKeys(step.keys), step.name);
-        SeeView(step.name, step.x, step.y);
-    }
-}
+void ShowPlace(const char* act, const char* name, HWND window);

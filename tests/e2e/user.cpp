@@ -1,35 +1,30 @@
 // The user's hands and eyes, made of plain Win32 calls from outside of Quorl.
 #include "user.h"
 
-#include "settings_file.h"
-
-#include <algorithm>
-
 namespace {
 
 HANDLE Programs; // a job: closing it ends every program in it
+HANDLE Quorl;    // the last one that was started
 
-HANDLE NewJob() {
-    const HANDLE job = CreateJobObjectA(nullptr, nullptr);
-    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limit = {};
-    limit.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
-    SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limit, sizeof limit);
-    return job;
-}
-
-HANDLE Launch(const std::string& command, const std::string& folder, DWORD* id) {
+// Null if it does not start.
+HANDLE Launch(std::string command) {
     STARTUPINFOA how = {};
     how.cb = sizeof how;
     PROCESS_INFORMATION program = {};
-    std::string line = command;
-    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED, nullptr,
-                        folder.empty() ? nullptr : folder.c_str(), &how, &program))
-        return nullptr;
+    CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED, nullptr, nullptr, &how,
+                   &program);
     AssignProcessToJobObject(Programs, program.hProcess);
     ResumeThread(program.hThread);
     CloseHandle(program.hThread);
-    *id = program.dwProcessId;
     return program.hProcess;
+}
+
+// A program that stands beside this one.
+HANDLE LaunchOwn(const char* program, const std::string& words = "") {
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(nullptr, path, sizeof path);
+    *(strrchr(path, '\\') + 1) = 0;
+    return Launch("\"" + std::string(path) + program + "\" " + words);
 }
 
 // 0: of any process; null: with any title.
@@ -45,6 +40,19 @@ HWND WaitForVisible(DWORD process, const char* windowClass, const char* title) {
     HWND found = nullptr;
     Soon([&] { return (found = FindVisible(process, windowClass, title)) != nullptr; }, true);
     return found;
+}
+
+void Send(LONG dx, LONG dy, DWORD data, DWORD flags) {
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi = {dx, dy, data, flags, 0, 0};
+    SendInput(1, &input, sizeof input);
+}
+
+std::string SettingsFile() {
+    char folder[MAX_PATH] = "";
+    GetWindowsDirectoryA(folder, sizeof folder);
+    return std::string(folder) + "\\quorl.ini";
 }
 
 } // namespace
@@ -68,32 +76,26 @@ void Insist(bool came, const std::string& wanted) {
 void CleanDesktop() {
     if (Programs)
         CloseHandle(Programs);
-    Programs = NewJob();
+    Programs = CreateJobObjectA(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limit = {};
+    limit.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    SetInformationJobObject(Programs, JobObjectExtendedLimitInformation, &limit, sizeof limit);
     EXPECT_SOON(QuorlWindow(), HWND{});
     DeleteFileA(SettingsFile().c_str());
     SetCursorPos(SCREEN_W - 1, SCREEN_H - 1); // out of the way of the windows
-}
-
-std::string ProgramFolder() {
-    char path[MAX_PATH] = "";
-    GetModuleFileNameA(nullptr, path, sizeof path);
-    const std::string name = path;
-    return name.substr(0, name.rfind('\\'));
 }
 
 HWND QuorlWindow() {
     return FindWindowA("Quorltop", "Quorltop");
 }
 
-HANDLE LaunchQuorl(const std::string& folder) {
-    const std::string home = folder.empty() ? ProgramFolder() : folder;
-    DWORD id = 0;
-    return Launch("\"" + home + "\\quorl.exe\"", home, &id);
+HANDLE LaunchQuorl() {
+    return Quorl = LaunchOwn("quorl.exe");
 }
 
 // It shows its window before it reads messages; answering one says that it is ready for keys.
-HWND StartQuorl(const std::string& folder) {
-    Insist(LaunchQuorl(folder) && Soon(IsMapShown, true) && Answers(QuorlWindow()), "Quorl on the screen");
+HWND StartQuorl() {
+    Insist(LaunchQuorl() && Soon(IsMapShown, true) && Answers(QuorlWindow()), "Quorl on the screen");
     return QuorlWindow();
 }
 
@@ -107,21 +109,16 @@ bool Answers(HWND window) {
 }
 
 HWND OpenWindow(const char* title, const Place& place, const char* part) {
-    char command[512];
-    snprintf(command, sizeof command, "\"%s\\e2e_tests.exe\" --play %s \"%s\" %d %d %d %d",
-             ProgramFolder().c_str(), part, title, place.left, place.top, place.right - place.left,
-             place.bottom - place.top);
-    DWORD id = 0;
-    Launch(command, "", &id);
-    const HWND window = WaitForVisible(id, "Player", title);
+    char words[256];
+    snprintf(words, sizeof words, "--play %s \"%s\" %d %d %d %d", part, title, place.left, place.top,
+             place.right - place.left, place.bottom - place.top);
+    const HWND window = WaitForVisible(GetProcessId(LaunchOwn("e2e_tests.exe", words)), "Player", title);
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
     return window;
 }
 
 HWND OpenProgram(const char* command, const char* windowClass) {
-    DWORD id = 0;
-    Launch(command, "", &id);
-    return WaitForVisible(id, windowClass, nullptr);
+    return WaitForVisible(GetProcessId(Launch(command)), windowClass, nullptr);
 }
 
 void SendKey(WORD key, DWORD flags) {
@@ -152,9 +149,64 @@ bool PressKeys(std::initializer_list<WORD> keys) {
     return held;
 }
 
-void PressInTurn(std::initializer_list<WORD> keys) {
+void PressInTurn(const std::vector<WORD>& keys) {
     for (const WORD key : keys)
         PressKeys({key});
+}
+
+// A move that was only sent is forgotten after some 100 ms under Wine, for the pointer's own place; one that
+// follows the pointer at once may be lost.
+void MoveMouse(POINT to) {
+    SetCursorPos(to.x, to.y);
+    Sleep(60);
+    SendMouse(to.x, to.y);
+    Sleep(60);
+}
+
+POINT MousePlace() {
+    POINT place = {};
+    GetCursorPos(&place);
+    return place;
+}
+
+// The move is sent unless placing the pointer was news enough.
+void PushMouseTo(POINT to) {
+    MoveMouse({SCREEN_W / 2, to.y});
+    SetCursorPos(to.x, to.y);
+    Sleep(60);
+    const POINT now = MousePlace();
+    if (now.x == to.x && now.y == to.y)
+        SendMouse(to.x, to.y);
+    Sleep(60);
+}
+
+Place AfterMoving(HWND window, POINT to) {
+    MoveMouse({to.x - 1, to.y});
+    MoveMouse(to);
+    return PlaceOf(window);
+}
+
+void SendMouse(LONG x, LONG y) {
+    const auto scaled = [](LONG at, int size) { return (at * 65536 + 32768) / size; };
+    Send(scaled(x, SCREEN_W), scaled(y, SCREEN_H), 0, MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
+}
+
+void Click(DWORD press, DWORD release) {
+    const DWORD data = press == MOUSEEVENTF_WHEEL ? WHEEL_DELTA : 0;
+    Send(0, 0, data, press);
+    Send(0, 0, data, release);
+}
+
+void PressButton(DWORD flag) {
+    Send(0, 0, 0, flag);
+}
+
+POINT OnMap(LONG x, LONG y) {
+    RECT map = {};
+    GetClientRect(QuorlWindow(), &map);
+    POINT at = {x * map.right / (4 * SCREEN_W), y * map.bottom / (2 * SCREEN_H)};
+    ClientToScreen(QuorlWindow(), &at);
+    return at;
 }
 
 void DoRow(int row) {
@@ -205,35 +257,43 @@ HWND OpenedMenu() {
     return FindVisible(0, "#32768", nullptr);
 }
 
+std::string Stored(const std::string& key) {
+    char text[8192] = "";
+    GetPrivateProfileStringA("Quorl", key.c_str(), "", text, sizeof text, SettingsFile().c_str());
+    return text;
+}
+
+void Store(const std::string& key, const std::string& value) {
+    EXPECT_TRUE(WritePrivateProfileStringA("Quorl", key.c_str(), value.c_str(), SettingsFile().c_str()));
+}
+
+void ExpectSaved(const std::string& key, const std::string& wanted) {
+    DoRow(SAVE);
+    EXPECT_SOON(Stored(key), wanted) << key;
+}
+
 HWND WaitForBox(const char* caption) {
     const HWND box = WaitForVisible(0, "#32770", caption);
     Insist(box != nullptr, caption);
     return box;
 }
 
-void AnswerBox(const char* caption, WORD key) {
+std::string AnswerBox(const char* caption, WORD key) {
+    constexpr int TEXT_ID = 0xffff; // of the text in every message box
     const HWND box = WaitForBox(caption);
+    const std::string text = TextOf(GetDlgItem(box, TEXT_ID));
     Until([box] { return !IsWindow(box); },
           [box, key] {
               Activate(box);
               PressKeys({key});
           });
     Insist(WaitForEnd(box), std::string("an end of ") + caption);
-}
-
-std::string BoxText(HWND box) {
-    constexpr int TEXT_ID = 0xffff; // of the text in every message box
-    char text[1024] = "";
-    GetDlgItemTextA(box, TEXT_ID, text, sizeof text);
     return text;
 }
 
 void AnswerYesToQuit() {
-    const HANDLE quorl =
-        OpenProcess(SYNCHRONIZE | PROCESS_QUERY_INFORMATION, FALSE, ProcessOf(QuorlWindow()));
     AnswerBox("QUIT?", 'Y');
-    Insist(WaitForExit(quorl) == 0, "an end of Quorl with exit code 0");
-    CloseHandle(quorl);
+    Insist(WaitForExit(Quorl) == 0, "an end of Quorl with exit code 0");
 }
 
 void Quit() {

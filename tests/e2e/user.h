@@ -6,9 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <initializer_list>
-#include <ostream>
 #include <string>
+#include <vector>
 
 constexpr int SCREEN_W = 1024;
 constexpr int SCREEN_H = 768;
@@ -29,16 +30,15 @@ void Insist(bool came, const std::string& wanted);
 // Ends all programs that were started, and removes Quorl's settings: each test begins and ends so.
 void CleanDesktop();
 
-// Starts quorl.exe from the folder of this program, or from `folder`. Gives its process at once.
-HANDLE LaunchQuorl(const std::string& folder = "");
+// Starts quorl.exe from the folder of this program. Gives its process at once.
+HANDLE LaunchQuorl();
 // Starts it and insists on its window.
-HWND StartQuorl(const std::string& folder = "");
+HWND StartQuorl();
 HWND QuorlWindow();
 bool IsMapShown();
 bool Answers(HWND window);
-std::string ProgramFolder();
 
-// Opens a window of another program which plays `part` (player.h), inactive, on top of the others. A running
+// Opens a window of another program which plays `part` (main.cpp), inactive, on top of the others. A running
 // Quorl moves it only after its next look at the desktop, up to two seconds later.
 HWND OpenWindow(const char* title, const Place& place, const char* part = "plain");
 // Starts one of the programs that the system brings along and waits for its window of the class.
@@ -49,12 +49,31 @@ void SendKey(WORD key, DWORD flags);
 // Presses the keys in this order and lets them go in the opposite one. 0 if they could not be held.
 bool PressKeys(std::initializer_list<WORD> keys);
 // Presses and releases one key after the other.
-void PressInTurn(std::initializer_list<WORD> keys);
+void PressInTurn(const std::vector<WORD>& keys);
 // Has Quorl run a row of its table as if by a hotkey, after all that it was told before.
 void DoRow(int row);
 // Makes a window the one that the user types into, and waits until it has settled there.
 void Activate(HWND window);
 void Settle(HWND window);
+
+// Puts the pointer there, and waits until every program is told so.
+void MoveMouse(POINT to);
+// Moves as the device does: hooks see it at once, though the pointer of the screen below may stay.
+void SendMouse(LONG x, LONG y);
+// The same, and the pointer stays there: a move that was only sent is forgotten before a busy machine has
+// handled it.
+void PushMouseTo(POINT to);
+// Where a window is after the mouse has come to this place. A single move is lost now and then under Wine.
+Place AfterMoving(HWND window, POINT to);
+POINT MousePlace();
+
+// Presses and releases a button where the mouse is; MOUSEEVENTF_ values. For the wheel, two notches.
+void Click(DWORD press, DWORD release);
+// One half of a click.
+void PressButton(DWORD flag);
+
+// The place on the screen where Quorl's map shows this point of the desktop, which is four screens by two.
+POINT OnMap(LONG x, LONG y);
 
 Place PlaceOf(HWND window);
 std::string TextOf(HWND window);
@@ -64,11 +83,16 @@ HWND TipStrip();
 // The popup menu that is open; else null.
 HWND OpenedMenu();
 
+// A key of Quorl's settings file, where Windows puts it, and one put down before Quorl starts. Has the
+// settings saved and looks for a line of the file.
+std::string Stored(const std::string& key);
+void Store(const std::string& key, const std::string& value);
+void ExpectSaved(const std::string& key, const std::string& wanted);
+
 // Insists on a dialog or a box with this caption.
 HWND WaitForBox(const char* caption);
-// The text of a message box. How a box is answered: by a key, until it has gone.
-std::string BoxText(HWND box);
-void AnswerBox(const char* caption, WORD key);
+// Answers a message box by a key, until it has gone. Gives its text.
+std::string AnswerBox(const char* caption, WORD key);
 // Answers the question that stands before Quorl's end with Yes, and insists on an end with exit code 0.
 void AnswerYesToQuit();
 // The same when the question is yet to be asked for.

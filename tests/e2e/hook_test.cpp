@@ -36,6 +36,11 @@ void MoveBy(LONG dx) {
     SendMouse(TARGET.x + dx, TARGET.y);
 }
 
+// Another program's hook on our messages, which keeps what it sees to itself.
+LRESULT CALLBACK KeepToItself(int, WPARAM, LPARAM) {
+    return 0;
+}
+
 void Shake(const std::stop_token& stop) {
     for (LONG i = 0; !stop.stop_requested(); i = (i + 1) % 20) {
         MoveBy(i);
@@ -160,6 +165,18 @@ TEST_F(HookLibrary, OneMoveWaitsHoweverOftenTheWatchingEndsAndBegins) {
     EXPECT_EQ(CountOf(WM_MOUSEMOVE), 1);
     EXPECT_EQ(CountOf(WM_LBUTTONDOWN), 3);
     EXPECT_EQ(CountOf(WM_LBUTTONUP), 3);
+}
+
+TEST_F(HookLibrary, AForeignHookThatHidesTheMessagesHoldsTheNewsUpOnce) {
+    SetWindowsHookExA(WH_GETMESSAGE, KeepToItself, nullptr, GetCurrentThreadId());
+    for (int time = 1; time < 4; ++time) {
+        MoveBy(time);
+        EXPECT_SOON(CountOf(WM_MOUSEMOVE), time);
+        for (int i = 0; i < 65 && time == 1; ++i) { // a program that is alive takes messages all the time
+            Sleep(100);
+            Pump();
+        }
+    }
 }
 
 TEST_F(HookLibrary, AskedOrLoadedTwiceItWatchesOnce) {

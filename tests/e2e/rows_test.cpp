@@ -71,9 +71,7 @@ const Story Stories[] = {
     {"Tour.EachDialogOpensAndDoesItsWork",                    {49, 52, 53, 54, 55, 56, 57, 74, 111, 116}},
     {"Rows.WindowsAndTheMapGoWhereTheyAreSent",               {42, 43, 44, 45, 121}                     },
     {"Rows.TheActiveWindowIsLockedAndUnlocked",               {40, 41}                                  },
-    {"Rows.TheViewFollowsTheActiveWindow",                    {21, 79}                                  },
-    {"Rows.TheNextInTurnAndTheNeighboursAreActivated",        {24, 25, 117, 118, 119, 120}              },
-    {"Rows.TheFocusFollowsTheMouse",                          {115}                                     },
+    {"Rows.OtherWindowsAreActivatedByRowsAndByTheMouse",      {21, 24, 25, 79, 115, 117, 118, 119, 120} },
     {"Tables.AreFullAtTheirLimits",                           {50, 51}                                  },
     {"Scroll.AMaximizedWindowIsRestoredWhenAskedFor",         {82}                                      },
     {"Life.TheNextRunFindsWhatTheLastOneLeft",                {SAVE, 48}                                },
@@ -157,24 +155,9 @@ TEST(Rows, TheActiveWindowIsLockedAndUnlocked) {
     EXPECT_SOON(PlaceOf(editor), Moved(EDITOR, 0, -SCREEN_H));
 }
 
-TEST(Rows, TheViewFollowsTheActiveWindow) {
-    const Place place = {1524, 234, 2024, 534}; // its middle is that of the screen at 1262, 0
-    const HWND away = OpenWindow("away", place);
-    const HWND editor = OpenWindow("editor", EDITOR);
-    StartQuorl();
-    Activate(away);
-    DoRow(21);
-    EXPECT_SOON(PlaceOf(away), Moved(place, -1262, 0));
-    EXPECT_SOON(GetForegroundWindow(), away);
-    Settle(away);
-    DoRow(79);
-    Activate(editor);
-    EXPECT_SOON(PlaceOf(editor), EDITOR);
-    EXPECT_SOON(GetForegroundWindow(), editor);
-}
-
-TEST(Rows, TheNextInTurnAndTheNeighboursAreActivated) {
-    const HWND middle = OpenWindow("middle", {400, 300, 600, 450});
+TEST(Rows, OtherWindowsAreActivatedByRowsAndByTheMouse) {
+    const Place place = {400, 300, 600, 450};
+    const HWND middle = OpenWindow("middle", place);
     const HWND around[] = {
         OpenWindow("right", {1500, 300, 1700, 450}), // off the screen
         OpenWindow("left", {50, 300, 250, 450}),
@@ -192,16 +175,16 @@ TEST(Rows, TheNextInTurnAndTheNeighboursAreActivated) {
     expect(around[2], 25, middle); // the undermost in view
     for (int side = 0; side < 4; ++side)
         expect(middle, 117 + side, around[side]);
-}
 
-TEST(Rows, TheFocusFollowsTheMouse) {
-    const HWND editor = OpenWindow("editor", {400, 300, 600, 450});
-    const HWND other = OpenWindow("other", {700, 300, 900, 450});
-    StartQuorl();
+    expect(around[0], 21, around[0]); // the view comes to it
+    EXPECT_SOON(PlaceOf(around[0]), (Place{412, 300, 612, 450}));
+    DoRow(79); // and to any from now on
+    Activate(around[1]);
+    EXPECT_SOON(PlaceOf(middle), place);
     DoRow(115);
-    for (const HWND window : {editor, other, editor}) {
-        const Place place = PlaceOf(window);
-        EXPECT_SOON((AfterMoving(window, {place.left + 100, place.top + 100}), GetForegroundWindow()),
+    for (const HWND window : {middle, around[1], middle}) {
+        const Place under = PlaceOf(window);
+        EXPECT_SOON((AfterMoving(window, {under.left + 100, under.top + 100}), GetForegroundWindow()),
                     window);
     }
 }

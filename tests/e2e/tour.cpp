@@ -40,6 +40,15 @@ void PressTheKeys() {
     TakePicture("2-keys");
 }
 
+// The place on the screen where Quorl's map shows this point of the desktop, which is four screens by two.
+POINT OnMap(LONG x, LONG y) {
+    RECT map = {};
+    GetClientRect(QuorlWindow(), &map);
+    POINT at = {x * map.right / (4 * SCREEN_W), y * map.bottom / (2 * SCREEN_H)};
+    ClientToScreen(QuorlWindow(), &at);
+    return at;
+}
+
 // Clicks on the map until the view has come there.
 void GoByMap(const char* act, WORD key, DWORD press, DWORD release, POINT at, LONG x, LONG y) {
     Until([&] { return StandAt(x, y); },
@@ -203,18 +212,28 @@ void DragABox() {
     TakePicture("8-drag");
 }
 
+// Moves as the device does, but the pointer stays there: a move that was only sent is forgotten before a busy
+// machine has handled it. It is sent unless placing the pointer was news enough.
+void PushMouseTo(POINT to) {
+    MoveMouse({SCREEN_W / 2, to.y});
+    SetCursorPos(to.x, to.y);
+    Sleep(60);
+    const POINT now = MousePlace();
+    if (now.x == to.x && now.y == to.y)
+        SendMouse(to.x, to.y);
+    Sleep(60);
+}
+
 // On for this chapter only: under Wine news of a mouse at rest in a corner may come late.
 void PushAtTheEdge() {
     constexpr int FOLLOW_MOUSE = 85;
     DoRow(FOLLOW_MOUSE);
-    MoveMouse({500, 600});
     PushMouseTo({SCREEN_W - 1, 600});
     SeeView("the mouse goes over the right edge", 2 * SCREEN_W, SCREEN_H);
     constexpr LONG LANDING = 15; // three borders from the other edge
     const LONG x = Soon([] { return MousePlace().x; }, LANDING);
     Say("  the mouse goes on at %ld, %ld", x, MousePlace().y);
     Insist(x == LANDING, "the mouse at the other edge");
-    MoveMouse({500, 600});
     PushMouseTo({0, 600});
     SeeView("and back over the left edge", SCREEN_W, SCREEN_H);
     DoRow(FOLLOW_MOUSE);

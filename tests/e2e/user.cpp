@@ -169,17 +169,6 @@ POINT MousePlace() {
     return place;
 }
 
-// The move is sent unless placing the pointer was news enough.
-void PushMouseTo(POINT to) {
-    MoveMouse({SCREEN_W / 2, to.y});
-    SetCursorPos(to.x, to.y);
-    Sleep(60);
-    const POINT now = MousePlace();
-    if (now.x == to.x && now.y == to.y)
-        SendMouse(to.x, to.y);
-    Sleep(60);
-}
-
 Place AfterMoving(HWND window, POINT to) {
     MoveMouse({to.x - 1, to.y});
     MoveMouse(to);
@@ -199,14 +188,6 @@ void Click(DWORD press, DWORD release) {
 
 void PressButton(DWORD flag) {
     Send(0, 0, 0, flag);
-}
-
-POINT OnMap(LONG x, LONG y) {
-    RECT map = {};
-    GetClientRect(QuorlWindow(), &map);
-    POINT at = {x * map.right / (4 * SCREEN_W), y * map.bottom / (2 * SCREEN_H)};
-    ClientToScreen(QuorlWindow(), &at);
-    return at;
 }
 
 void DoRow(int row) {

@@ -60,9 +60,6 @@ void Settle(HWND window);
 void MoveMouse(POINT to);
 // Moves as the device does: hooks see it at once, though the pointer of the screen below may stay.
 void SendMouse(LONG x, LONG y);
-// The same, and the pointer stays there: a move that was only sent is forgotten before a busy machine has
-// handled it.
-void PushMouseTo(POINT to);
 // Where a window is after the mouse has come to this place. A single move is lost now and then under Wine.
 Place AfterMoving(HWND window, POINT to);
 POINT MousePlace();
@@ -71,9 +68,6 @@ POINT MousePlace();
 void Click(DWORD press, DWORD release);
 // One half of a click.
 void PressButton(DWORD flag);
-
-// The place on the screen where Quorl's map shows this point of the desktop, which is four screens by two.
-POINT OnMap(LONG x, LONG y);
 
 Place PlaceOf(HWND window);
 std::string TextOf(HWND window);

@@ -9,16 +9,13 @@ TEST(EdgeDecision, TheFirstEdgeDecidesAndTheCursorLandsInsideTheOppositeOne) {
         int type, dir;
         POINT view, landing;
     } cases[] = {
-        {{1020, 300}, 3,  DIR_RIGHT, {3072, 800},  {15, 300}  },
+        {{1020, 766}, 3,  DIR_RIGHT, {3072, 800},  {15, 766}  }, // sideways goes first
         {{4, 300},    3,  DIR_LEFT,  {1024, 800},  {1009, 300}},
         {{500, 764},  3,  DIR_DOWN,  {2048, 1568}, {500, 15}  },
-        {{500, 4},    3,  DIR_UP,    {2048, 32},   {500, 753} },
-        {{1022, 766}, 3,  DIR_RIGHT, {3072, 800},  {15, 766}  }, // corners: sideways goes first
-        {{1022, 300}, 0,  DIR_RIGHT, {2053, 800},  {1034, 300}}, // lands off the screen
+        {{500, 4},    2,  DIR_UP,    {2048, 0},    {500, 785} }, // lands off the screen
+        {{1022, 300}, 0,  DIR_RIGHT, {2053, 800},  {1034, 300}},
         {{500, 766},  1,  DIR_DOWN,  {2048, 900},  {500, 683} },
-        {{500, 2},    2,  DIR_UP,    {2048, 0},    {500, 785} },
-        {{1022, 300}, -1, DIR_RIGHT, {2058, 800},  {1029, 300}}, // an unknown type goes by 10
-        {{500, 766},  -1, DIR_DOWN,  {2048, 810},  {500, 773} },
+        {{500, 766},  -1, DIR_DOWN,  {2048, 810},  {500, 773} }, // an unknown type goes by 10
         {{1019, 763}, 3,  DIR_NONE,  {2048, 800},  {1019, 763}}, // just not at any edge
         {{5, 5},      3,  DIR_NONE,  {2048, 800},  {5, 5}     },
     };
@@ -38,14 +35,13 @@ TEST(EdgeDecision, TheFirstEdgeDecidesAndTheCursorLandsInsideTheOppositeOne) {
 }
 
 TEST(EdgeDecision, TheTimersTestReachesOnePixelFurther) {
-    const auto isStill = [](int dir, int x, int y) { return IsStillAtEdge({x, y}, dir, 5, 1024, 768); };
-    EXPECT_TRUE(isStill(DIR_RIGHT, 1019, 300));
-    EXPECT_FALSE(isStill(DIR_RIGHT, 1018, 300));
-    EXPECT_TRUE(isStill(DIR_LEFT, 5, 300));
-    EXPECT_FALSE(isStill(DIR_LEFT, 6, 300));
-    EXPECT_TRUE(isStill(DIR_DOWN, 500, 763));
-    EXPECT_FALSE(isStill(DIR_DOWN, 500, 762));
-    EXPECT_TRUE(isStill(DIR_UP, 500, 5));
-    EXPECT_FALSE(isStill(DIR_UP, 500, 6));
-    EXPECT_FALSE(isStill(DIR_NONE, 0, 0));
+    const auto edgesAt = [](POINT cursor) {
+        int edges = 0;
+        for (const int dir : {DIR_UP, DIR_DOWN, DIR_LEFT, DIR_RIGHT})
+            edges |= IsStillAtEdge(cursor, dir, 5, 1024, 768) ? dir : 0;
+        return edges;
+    };
+    EXPECT_EQ(edgesAt({1019, 763}), DIR_RIGHT | DIR_DOWN);
+    EXPECT_EQ(edgesAt({5, 5}), DIR_LEFT | DIR_UP);
+    EXPECT_EQ(edgesAt({1018, 762}) | edgesAt({6, 6}), 0);
 }

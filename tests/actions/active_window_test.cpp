@@ -26,7 +26,7 @@ TEST_F(ActiveWindow, MovesByItsRowsStep) {
     }
 }
 
-TEST_F(ActiveWindow, GoesToTheScreensEdgesAndMiddle) {
+TEST_F(ActiveWindow, GoesToTheScreensEdgesAndMiddleUnlessItHangs) {
     const auto placeAfter = [this](int row) {
         Command(row);
         return PlaceOf(active);
@@ -35,6 +35,9 @@ TEST_F(ActiveWindow, GoesToTheScreensEdgesAndMiddle) {
     EXPECT_EQ(placeAfter(105), Rect(824, 300, 1024, 400));
     EXPECT_EQ(placeAfter(106), Rect(824, 0, 1024, 100));
     EXPECT_EQ(placeAfter(107), Rect(824, 668, 1024, 768));
+    RowOf(active).answer = DeskAnswer::Hung;
+    EXPECT_EQ(placeAfter(22), Rect(824, 668, 1024, 768));
+    RowOf(active).answer = DeskAnswer::Answers;
     EXPECT_EQ(placeAfter(22), Rect(412, 334, 612, 434));
 }
 
@@ -49,45 +52,38 @@ TEST_F(ActiveWindow, StaysOnTheDesktopNotOnTheScreen) {
     EXPECT_EQ(kept({0, 0, 5000, 3000}), Rect(-1928, -2232, 5000, 3000)) << "the far edge wins";
 }
 
-TEST_F(ActiveWindow, ThatHangsOrIsGoneHarmsNothing) {
-    RowOf(active).answer = DeskAnswer::Hung;
-    Command(22);
-    Command(121);
-    EXPECT_EQ(PlaceOf(active), Rect(300, 300, 500, 400));
-    EXPECT_FALSE(RowOf(active).exStyle & WS_EX_TOPMOST);
+TEST_F(ActiveWindow, GoesTopmostAndBackUnlessItHangsOrIsGone) {
+    const auto isTopmostAfter = [this](DeskAnswer answer) {
+        RowOf(active).answer = answer;
+        Command(121);
+        return (RowOf(active).exStyle & WS_EX_TOPMOST) != 0;
+    };
+    EXPECT_FALSE(isTopmostAfter(DeskAnswer::Hung));
+    EXPECT_TRUE(isTopmostAfter(DeskAnswer::Answers));
+    EXPECT_FALSE(isTopmostAfter(DeskAnswer::Answers));
+    EXPECT_TRUE(IsWindowVisible(active));
     KillWindow(active);
     for (const int row : {22, 40, 92, 121})
         Command(row);
 }
 
-TEST_F(ActiveWindow, GoesTopmostAndBack) {
-    Command(121);
-    EXPECT_TRUE(RowOf(active).exStyle & WS_EX_TOPMOST);
-    Command(121);
-    EXPECT_FALSE(RowOf(active).exStyle & WS_EX_TOPMOST);
-    EXPECT_TRUE(IsWindowVisible(active));
-}
-
 TEST_F(ActiveWindow, LockedStaysThroughScrollsUntilItIsUnlocked) {
-    Command(40);
+    const auto placeAfter = [this](int lock, int scroll) {
+        Desk.tones.clear();
+        Command(lock);
+        Command(scroll);
+        return PlaceOf(active).left;
+    };
+    EXPECT_EQ(placeAfter(40, 30), 300);
     EXPECT_EQ(Desk.tones.size(), 12U);
     EXPECT_EQ(Desk.tones.back(), 11000U);
-    Command(30);
-    EXPECT_EQ(PlaceOf(active).left, 300);
-
-    Desk.tones.clear();
-    Command(41);
+    EXPECT_EQ(placeAfter(41, 28), 1324);
     EXPECT_EQ(Desk.tones.size(), 13U);
     EXPECT_EQ(Desk.tones.front(), 12000U);
-    Command(28);
-    EXPECT_EQ(PlaceOf(active).left, 1324);
-}
 
-TEST_F(ActiveWindow, ThatQuorlMayNotTouchCannotBeLocked) {
-    const HWND opened = OpenWindow("not in the table yet", {0, 0, 10, 10});
-    for (const HWND window : {MainWnd, opened}) {
+    for (const HWND window : {MainWnd, OpenWindow("not in the table yet", {0, 0, 10, 10})}) {
         Desk.foreground = window;
         Command(40);
-        EXPECT_EQ(LockedWindows[0], nullptr);
+        EXPECT_FALSE(IsLockedWindow(window)) << "nor can it be one that Quorl may not touch";
     }
 }

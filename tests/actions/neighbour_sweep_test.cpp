@@ -7,21 +7,9 @@
 
 namespace {
 
-const SweepDirection DIRECTIONS[] = {SWEEP_UP, SWEEP_DOWN, SWEEP_LEFT, SWEEP_RIGHT};
-
 int Meets(const RECT& a, const RECT& b) {
     return std::max(a.left, b.left) < std::min(a.right, b.right) &&
            std::max(a.top, b.top) < std::min(a.bottom, b.bottom);
-}
-
-// Where a strip of one pixel at the side of `start` has come after so many moves.
-RECT StripAfter(int moves, const RECT& start, SweepDirection direction) {
-    switch (direction) {
-    case SWEEP_UP: return {start.left, start.top - moves, start.right, start.top - moves + 1};
-    case SWEEP_DOWN: return {start.left, start.bottom + moves - 1, start.right, start.bottom + moves};
-    case SWEEP_LEFT: return {start.left - moves, start.top, start.left - moves + 1, start.bottom};
-    default: return {start.right + moves - 1, start.top, start.right + moves, start.bottom};
-    }
 }
 
 int HasLeft(const RECT& strip, const Sweep& sweep) {
@@ -34,41 +22,54 @@ int HasLeft(const RECT& strip, const Sweep& sweep) {
 }
 
 // The sweep as it is thought of: pixel by pixel.
-int PlainNeighbour(const Sweep& sweep) {
-    int moves = 0;
+int PlainNeighbour(const Sweep& sweep, RECT strip, POINT move) {
     int found = -1;
     for (int bStop = sweep.count == 0; !bStop;)
         for (int place = 0; place < sweep.count; ++place) {
-            if (Meets(StripAfter(moves, sweep.start, sweep.direction), sweep.windows[place])) {
+            if (Meets(strip, sweep.windows[place])) {
                 found = place;
                 bStop = 1;
                 continue;
             }
-            bStop |= HasLeft(StripAfter(++moves, sweep.start, sweep.direction), sweep);
+            strip = Moved(strip, move.x, move.y);
+            bStop |= HasLeft(strip, sweep);
         }
     return found;
 }
 
 TEST(NeighbourSweep, GivesWhatAPixelByPixelSweepGives) {
+    const struct {
+        SweepDirection direction;
+        RECT strip; // at that side of a rectangle of 40 by 20
+        POINT move;
+    } ways[] = {
+        {SWEEP_UP,    {0, 0, 40, 1},   {0, -1}},
+        {SWEEP_DOWN,  {0, 19, 40, 20}, {0, 1} },
+        {SWEEP_LEFT,  {0, 0, 1, 20},   {-1, 0}},
+        {SWEEP_RIGHT, {39, 0, 40, 20}, {1, 0} },
+    };
     std::mt19937 random(20); // always the same layouts
     const auto upTo = [&random](int limit) {
         return static_cast<int>(random() % static_cast<unsigned>(limit));
     };
     int hits = 0;
     for (int layout = 0; layout < 20000; ++layout) {
-        const RECT vdesk{upTo(200), upTo(100), 0, 0};
-        const RECT quorl{0, 0, 100 + upTo(300), 100 + upTo(200)};
+        const auto& [direction, strip, move] = ways[layout % 4];
+        const int x = upTo(200) - 100;
+        const int y = upTo(100) - 50;
         std::vector<RECT> windows(static_cast<std::size_t>(upTo(8)));
-        for (RECT& window : windows) {
-            window.left = upTo(500) - 250;
-            window.top = upTo(300) - 150;
-            window.right = window.left + upTo(40); // some without an area
-            window.bottom = window.top + upTo(40);
-        }
-        const RECT start{upTo(200) - 100, upTo(100) - 50, 110, 60};
-        const int count = static_cast<int>(windows.size());
-        const Sweep sweep{DIRECTIONS[layout % 4], start, windows.data(), count, vdesk, quorl};
-        const int expected = PlainNeighbour(sweep);
+        for (RECT& window : windows) // some without an area
+            window = Moved({0, 0, upTo(40), upTo(40)}, upTo(500) - 250, upTo(300) - 150);
+        const Sweep sweep{
+            direction,
+            Moved({0,         0,         40,              20             },
+            x, y),
+            windows.data(),
+            static_cast<int>(windows.size()),
+            {upTo(200), upTo(100), 0,               0              },
+            {0,         0,         100 + upTo(300), 100 + upTo(200)}
+        };
+        const int expected = PlainNeighbour(sweep, Moved(strip, x, y), move);
         ASSERT_EQ(FindNeighbour(sweep), expected) << "layout " << layout;
         hits += expected >= 0;
     }
@@ -76,9 +77,10 @@ TEST(NeighbourSweep, GivesWhatAPixelByPixelSweepGives) {
 }
 
 TEST(NeighbourSweep, StartsAtTheSideOfTheScreenThatItLeaves) {
-    const RECT sides[] = {Rect(0, 8, 10, 8), Rect(0, 0, 10, 0), Rect(10, 0, 10, 8), Rect(0, 0, 0, 8)};
-    for (int way = 0; way < 4; ++way)
-        EXPECT_EQ(FoldedToFarSide({0, 0, 10, 8}, DIRECTIONS[way]), sides[way]) << way;
+    EXPECT_EQ(FoldedToFarSide({0, 0, 10, 8}, SWEEP_UP), Rect(0, 8, 10, 8));
+    EXPECT_EQ(FoldedToFarSide({0, 0, 10, 8}, SWEEP_DOWN), Rect(0, 0, 10, 0));
+    EXPECT_EQ(FoldedToFarSide({0, 0, 10, 8}, SWEEP_LEFT), Rect(10, 0, 10, 8));
+    EXPECT_EQ(FoldedToFarSide({0, 0, 10, 8}, SWEEP_RIGHT), Rect(0, 0, 0, 8));
 }
 
 } // namespace

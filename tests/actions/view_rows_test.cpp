@@ -20,8 +20,8 @@ TEST_F(ViewRows, TheViewAndTheToolwinGoByTheSameEightSteps) {
 
 TEST_F(ViewRows, EachRowTakesTheViewToItsScreenFromWhereverItStands) {
     const auto goneTo = [](ActionId row, int left, int top) {
-        VDesk = Moved({0, 0, 1024, 768}, left, top);
-        EXPECT_EQ(DoAction(MainWnd, row, nullptr), 1);
+        VDesk = Rect(left, top, left + 1024, top + 768);
+        Command(row);
         return ViewCorner();
     };
     Quorl.bottom = 4 * 768;

@@ -70,7 +70,7 @@ TEST_F(MouseNews, TheDelaySaysWhatScrolls) {
     EXPECT_EQ(News(WM_LBUTTONDOWN, RIGHT_EDGE), 0) << "the station is locked";
 }
 
-TEST_F(MouseNews, TheShiftKeysHoldTheCursorBackByTheirStateOfTheMoment) {
+TEST_F(MouseNews, TheShiftKeysHoldTheCursorBackByTheirStateOfTheMomentAndTheDesktopsLimitDoes) {
     const auto jumps = [](int bLeft, int bRight) {
         HoldKey(VK_LSHIFT, bLeft);
         HoldKey(VK_RSHIFT, bRight);
@@ -82,14 +82,9 @@ TEST_F(MouseNews, TheShiftKeysHoldTheCursorBackByTheirStateOfTheMoment) {
     EXPECT_FALSE(jumps(0, 0));
     EXPECT_FALSE(jumps(1, 1));
     EXPECT_TRUE(jumps(1, 0));
-}
-
-TEST_F(MouseNews, AtTheDesktopsLimitTheCursorStaysAndTheMapIsPaintedAllTheSame) {
     ScrollView(MainWnd, 3072, 384, SV_ABSOLUTE, 0);
-    Desk.trace.clear();
-    EXPECT_EQ(News(WM_LBUTTONDOWN, RIGHT_EDGE), 1);
+    News(WM_MOUSEMOVE, RIGHT_EDGE);
     EXPECT_EQ(Desk.cursor.x, 1022);
-    EXPECT_GE(CallsOf("InvalidateRect"), 3) << "by the scroll, the edge and the click";
 }
 
 TEST_F(MouseNews, NewsThatComesInsideAScrollIsDropped) {
@@ -117,39 +112,20 @@ TEST_F(MouseNews, AHeldButtonSuppressesMovesAndRedrawsTheMapIfTheUserWishes) {
 }
 
 TEST_F(MouseNews, AChangeOfDisplayIsNoticedByMovesAndReleasesNotByClicks) {
-    int width = 1024;
-    for (const UINT message : {WM_MOUSEMOVE, WM_NCMOUSEMOVE, WM_LBUTTONUP, WM_RBUTTONUP}) {
-        Desk.monitors.assign(1, Rect(0, 0, width - 100, 600));
+    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONUP, WM_RBUTTONUP}) {
+        const int before = ScreenW();
+        Desk.monitors.assign(1, Rect(0, 0, before - 100, 600));
         News(WM_RBUTTONDOWN, MIDDLE);
-        EXPECT_EQ(ScreenW(), width) << message;
+        EXPECT_EQ(ScreenW(), before) << message;
         News(message, MIDDLE);
-        EXPECT_EQ(ScreenW(), width -= 100) << message;
+        EXPECT_EQ(ScreenW(), before - 100) << message;
     }
 }
 
-class DelayedScroll : public MouseNews {
-  protected:
-    void SetUp() override {
-        MouseNews::SetUp();
-        Options.mousescroll_delay = 3;
-        Options.mousescroll_delay_time = 250;
-        ActionTable[ROW_SHIFT_SUPPRESS].value = 1; // and no Shift is held: only scrolls at once ask that
-    }
-};
-
-TEST_F(DelayedScroll, ComesOnceTheTimeSinceTheFirstNewsIsOverAndTakesTheCursorAlong) {
-    News(WM_MOUSEMOVE, RIGHT_EDGE);
-    Wait(200);
-    News(WM_MOUSEMOVE, {500, 767});
-    EXPECT_EQ(VDesk.left, 1024);
-    Wait(50);
-    EXPECT_EQ(VDesk, Rect(2048, 384, 3072, 1152)) << "the first way, though it has slid to another edge";
-    EXPECT_EQ(Desk.cursor, (POINT{15, 300})) << "as the first news had it";
-    Wait(1000);
-    EXPECT_EQ(VDesk.left, 2048) << "one wait, one scroll";
-}
-
-TEST_F(DelayedScroll, IsOffWhenTheMouseWasSeenAwayFromTheEdges) {
+TEST_F(MouseNews, ADelayedScrollComesOnceTheTimeSinceTheFirstNewsIsOverUnlessTheMouseHasLeft) {
+    Options.mousescroll_delay = 3;
+    Options.mousescroll_delay_time = 250;
+    ActionTable[ROW_SHIFT_SUPPRESS].value = 1; // and no Shift is held: only scrolls at once ask that
     News(WM_MOUSEMOVE, RIGHT_EDGE);
     News(WM_MOUSEMOVE, MIDDLE);
     Desk.cursor = RIGHT_EDGE; // back again, but nobody has told
@@ -159,9 +135,16 @@ TEST_F(DelayedScroll, IsOffWhenTheMouseWasSeenAwayFromTheEdges) {
     Desk.cursor = {1018, 300}; // left it, and nobody has told
     Wait(250);
     EXPECT_EQ(VDesk.left, 1024);
+
     News(WM_MOUSEMOVE, RIGHT_EDGE);
-    Wait(250);
-    EXPECT_EQ(VDesk.left, 2048) << "each wait leaves the next one free";
+    Wait(200);
+    News(WM_MOUSEMOVE, {500, 767});
+    EXPECT_EQ(VDesk.left, 1024);
+    Wait(50);
+    EXPECT_EQ(VDesk, Rect(2048, 384, 3072, 1152)) << "the first way, though it has slid to another edge";
+    EXPECT_EQ(Desk.cursor, (POINT{15, 300})) << "as the first news had it";
+    Wait(1000);
+    EXPECT_EQ(VDesk.left, 2048) << "one wait, one scroll";
 }
 
 TEST_F(MouseNews, TheProgramUnderTheCursorIsNamedAndComesForwardUnlessItHangsOrHasNoTitle) {

@@ -3,6 +3,11 @@
 
 #include "core/state.h"
 
+void OnMap::SetUp() {
+    RunningQuorl::SetUp();
+    RowOf(MainWnd).place = {100, 100, 364, 204}; // with its frame
+}
+
 void MoveOnMap(int x, int y) {
     const POINT at = OnScreen(MainWnd, x, y);
     MoveMouse(at.x, at.y);
@@ -27,12 +32,4 @@ void ClickOnMap(int x, int y, int button, std::initializer_list<int> keys) {
     ReleaseOnMap(button);
     for (const int key : keys)
         HoldKey(key, 0);
-}
-
-void ResizeMap(int width, int height) {
-    RECT client{};
-    GetClientRect(MainWnd, &client);
-    RECT& place = RowOf(MainWnd).place;
-    place.right += width - client.right;
-    place.bottom += height - client.bottom;
 }

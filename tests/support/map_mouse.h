@@ -6,6 +6,12 @@
 
 #include <initializer_list>
 
+// A map of 256 by 96: a pixel on it is 16 on the desktop.
+class OnMap : public RunningQuorl {
+  protected:
+    void SetUp() override;
+};
+
 void MoveOnMap(int x, int y);
 
 // At the place where the cursor is.
@@ -14,6 +20,3 @@ void ReleaseOnMap(int button);
 
 // Goes there, presses and releases, while the keys are held.
 void ClickOnMap(int x, int y, int button, std::initializer_list<int> keys = {});
-
-// The map's client area gets this size; the Toolwin's corner stays.
-void ResizeMap(int width, int height);

@@ -1,7 +1,5 @@
 #include "actions/action_table.h"
 
-#include "actions/key_names.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
@@ -30,19 +28,6 @@ TEST(ActionTableRows, HaveTextsOfTheirOwnThatAReportCanHoldAndAreOfferedToKeysTo
     EXPECT_EQ(mouseOnly, (Rows{1, 2, 3, 4, 38, 39}));
     EXPECT_EQ(off, (Rows{23, 46, 75, 76, 78, 83, 86, 87, 88, 109, 110, 112, 113, 115}));
     EXPECT_EQ(on, (Rows{58, 70, 71, 72, 73, 77, 89, 114, 122}));
-}
-
-TEST(KeyNameTable, NamesEachKeyOnceAndEndsWithARowThatIsNone) {
-    std::set<std::string> names;
-    std::set<int> keys;
-    for (const KeyName& key : KeyNames)
-        if (key.vk != -1) {
-            names.insert(key.name);
-            keys.insert(key.vk);
-        }
-    EXPECT_TRUE(names.size() == 66 && keys.size() == 66);
-    EXPECT_EQ(*keys.rbegin(), 135) << "F24 is the last";
-    EXPECT_EQ(KeyNames[NUM_KEY_NAMES].vk, -1);
 }
 
 } // namespace

@@ -21,7 +21,7 @@ TEST_F(Hotkeys, KeysStandForThemselvesAndCharactersForTheKeyThatTypesThem) {
     EXPECT_EQ(look(36), Looked(0x100 + '4', 36)) << "just before the arrows";
 }
 
-TEST_F(Hotkeys, ANewUserFindsElevenKeysAndSevenMouseCombinations) {
+TEST_F(Hotkeys, ANewUserFindsElevenKeys) {
     ASSERT_EQ(StartQuorl(), 1);
     std::string registered; // in this order, so that boxes come in it
     for (const DeskHotkey& hotkey : Desk.hotkeys)
@@ -29,12 +29,6 @@ TEST_F(Hotkeys, ANewUserFindsElevenKeysAndSevenMouseCombinations) {
                       std::to_string(hotkey.key) + ", ";
     EXPECT_EQ(registered, "28: 3+37, 30: 3+39, 29: 3+38, 31: 3+40, 7: 7+37, 5: 7+39, 9: 7+38, 11: 7+40, "
                           "40: 8+40, 41: 8+38, 0: 7+32, ");
-    std::string mouse;
-    for (const ActionRow& action : ActionTable)
-        if (action.mouse_btn != UNBOUND)
-            mouse += std::to_string(action.id) + ": " + std::to_string(action.mouse_mods) + "+" +
-                     std::to_string(action.mouse_btn) + ", ";
-    EXPECT_EQ(mouse, "0: 0+16, 2: 0+32, 4: 1+8, 38: 0+8, 39: 5+8, 40: 2+1, 41: 2+2, ");
 }
 
 TEST_F(Hotkeys, ARefusedCombinationIsToldAndTheOthersWork) {
@@ -44,13 +38,12 @@ TEST_F(Hotkeys, ARefusedCombinationIsToldAndTheOthersWork) {
     EXPECT_EQ(ActionTable[40].key_mods, UNBOUND);
     EXPECT_EQ(ActionTable[41].vk, VK_UP);
 
+    EXPECT_EQ(Desk.boxes.at(0).text, "Hotkey registeration failed (1409): \n\t\"Lock window in view\" (40)\n"
+                                     "Another program has already registered the hotkey combination.");
     Desk.fault = {"RegisterHotKey", 1, 0, 87, 0};
     EXPECT_EQ(SetActionKey(MainWnd, 6, ACTION_KEY, KEY_CTRL, 'B'), 0);
-    ASSERT_EQ(Desk.boxes.size(), 2U);
-    EXPECT_EQ(Desk.boxes[0].text, "Hotkey registeration failed (1409): \n\t\"Lock window in view\" (40)\n"
-                                  "Another program has already registered the hotkey combination.");
-    EXPECT_EQ(Desk.boxes[1].text,
-              "Hotkey registeration failed (87): \n\t\"Move visible desktop right by <max>\" (6)");
+    EXPECT_EQ(LastBox(),
+              "Hotkey registeration failed (87): \n\t\"Move visible desktop right by <max>\" (6)/Error");
 }
 
 TEST_F(Hotkeys, EachKindOfBindingIsStoredAsItWasRegisteredAndClearedOnItsOwn) {

@@ -49,22 +49,15 @@ TEST_F(Navigation, CyclingTakesWindowsThatLieWhollyInView) {
 }
 
 TEST_F(Navigation, ACornerInTheRectangleCountsAndBothEndsOfASideDo) {
-    const struct {
-        RECT window;
-        int within, corner;
-    } cases[] = {
-        {{0, 0, 1024, 768},      1, 1},
-        {{-1, 0, 1024, 768},     0, 1},
-        {{0, -1, 1024, 768},     0, 1},
-        {{1024, 768, 1100, 800}, 0, 1},
-        {{1025, 0, 1100, 800},   0, 0},
-        {{-10, 100, 1100, 200},  0, 0}, // goes all the way across: no corner in it
-        {{100, -10, 200, 800},   0, 0},
-    };
-    for (const auto& [window, within, corner] : cases) {
-        EXPECT_EQ(LiesWithin(window, {0, 0, 1024, 768}), within) << testing::PrintToString(window);
-        EXPECT_EQ(HasCornerIn(window, {0, 0, 1024, 768}), corner) << testing::PrintToString(window);
-    }
+    const RECT screen{0, 0, 1024, 768};
+    EXPECT_TRUE(LiesWithin(screen, screen));
+    EXPECT_FALSE(LiesWithin({-1, 0, 1024, 768}, screen));
+    EXPECT_FALSE(LiesWithin({0, -1, 1024, 768}, screen));
+    EXPECT_TRUE(HasCornerIn({1024, 768, 1100, 800}, screen));
+    EXPECT_TRUE(HasCornerIn({-100, -100, 0, 0}, screen));
+    EXPECT_FALSE(HasCornerIn({1025, 0, 1100, 800}, screen));
+    EXPECT_FALSE(HasCornerIn({-10, 100, 1100, 200}, screen)) << "goes all the way across";
+    EXPECT_FALSE(HasCornerIn({100, -10, 200, 800}, screen));
 }
 
 TEST_F(Navigation, TilingHandsOverWhatSharesAPixelWithTheScreen) {

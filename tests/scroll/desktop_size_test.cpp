@@ -5,7 +5,6 @@
 TEST(DesktopSize, IsOneScreenAtLeastAndHasALargest) {
     EXPECT_EQ(ChangedSize(31744, 1, 1024), LARGEST_DESKTOP);
     EXPECT_EQ(ChangedSize(2000, -1, 1024), 1024);
-    EXPECT_EQ(ChangedSize(500, 0, 1024), 500) << "the other side stays as it is";
 }
 
 TEST_F(RunningQuorl, EachRowOfTheDesktopsSizeChangesOneSideAndSlidesOrAsksTheWindows) {

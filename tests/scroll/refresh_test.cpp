@@ -2,21 +2,15 @@
 
 #include "scroll/window_table.h"
 #include "support/quorl_test.h"
-#include "toolwin/map_scale.h"
 
 class Refresh : public RunningQuorl {
   protected:
     HWND editor = OpenWindow("editor", {100, 100, 500, 400});
     HWND other = OpenWindow("other", {600, 100, 900, 400});
-
-    void SetUp() override {
-        RunningQuorl::SetUp();
-        RebuildWindowTable(); // the Toolwin is in it, too
-        Desk.trace.clear();
-    }
 };
 
 TEST_F(Refresh, QuietTicksAskForEachWindowsPlaceAloneAndEachTwelfthRebuildsTheTable) {
+    RebuildWindowTable();                   // the Toolwin is in it, too
     OpenWindow("opened", {10, 10, 50, 50}); // changes no row
     const auto tick = [] { RefreshTimer(MainWnd, WM_TIMER, REFRESH_TIMER, Desk.now); };
     for (const std::size_t known : {3U, 4U}) {
@@ -37,16 +31,4 @@ TEST_F(Refresh, AWindowThatMovedOrClosedIsNoticedATenthOfASecondLater) {
     KillWindow(other);
     Wait(100);
     EXPECT_EQ(num_windows, 2);
-}
-
-TEST_F(Refresh, TheFlashTimerRepaintsTheActiveWindowsBoxAlone) {
-    Desk.foreground = editor;
-    RECT map{};
-    GetClientRect(MainWnd, &map);
-    RowOf(other).place.left += 1;
-    Desk.trace.clear();
-    RefreshTimer(MainWnd, WM_TIMER, FLASH_TIMER, Desk.now);
-    EXPECT_EQ(RowOf(MainWnd).invalid, WindowBox(PlaceOf(editor), map, VDesk, Quorl));
-    EXPECT_TRUE(CameInOrder({"InvalidateRect", "UpdateWindow"}));
-    EXPECT_EQ(CallsOf("EnumWindows"), 0);
 }

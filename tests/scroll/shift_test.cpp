@@ -22,46 +22,39 @@ TEST_F(Shift, AWindowIsHeldInsideTheDesktop) {
         << "too large for it";
 }
 
-TEST_F(Shift, EveryWindowIsAskedMovedAndShown) {
-    ShiftWindows(30, -20);
-    EXPECT_EQ(PlaceOf(editor), Rect(130, 80, 530, 380));
-    EXPECT_EQ(RowOf(editor).received.at(0).record, Rect(130, 80, 400, 300)) << "corner and size";
+TEST_F(Shift, EachWindowIsAskedMovedAndShownALockedOneStaysAndAListViewScrollsEvenThen) {
+    const HWND kin = OpenKnown("kin", {10, 10, 50, 50}, "SysListView32 of a library");
+    LockWindow(other);
+    LockWindow(list);
+    EnableWindow(kin, FALSE);
+    ShiftWindows(30, -7);
+    EXPECT_EQ(PlaceOf(editor), Rect(130, 93, 530, 393));
+    EXPECT_EQ(RowOf(editor).received.at(0).record, Rect(130, 93, 400, 300)) << "corner and size";
     EXPECT_TRUE(CameInOrder({"SendMessageTimeoutA", "MoveWindow", "ShowWindow"}));
+    EXPECT_TRUE(RowOf(other).received.empty());
+    for (const HWND scrolled : {list, kin}) {
+        ASSERT_EQ(RowOf(scrolled).received.size(), 1U);
+        const DeskMessage& got = RowOf(scrolled).received[0];
+        EXPECT_TRUE(got.message == LVM_SCROLL && got.wParam == 30 && got.lParam == -7);
+    }
 }
 
 TEST_F(Shift, AProgramThatDoesNotAnswerCostsItsPatienceOnceAndNothingElseSuffers) {
     const HWND zoomed = OpenKnown("zoomed", {10, 10, 50, 50});
     ShowWindow(zoomed, SW_MAXIMIZE);
+    ActionTable[ROW_RESTORE_MAXIMIZED].value = 1;
     for (const HWND silent : {editor, list, zoomed})
         RowOf(silent).answer = DeskAnswer::TimesOut;
-    ActionTable[ROW_RESTORE_MAXIMIZED].value = 1;
     const DWORD before = Desk.now;
     ShiftWindows(30, 0);
     EXPECT_EQ(Desk.now - before, 300U) << "100 ms for each of the three";
     EXPECT_EQ(PlaceOf(editor).left, 100);
     EXPECT_EQ(PlaceOf(other).left, 630);
-}
 
-TEST_F(Shift, AMaximizedWindowIsRestoredIfTheUserWishes) {
-    ShowWindow(editor, SW_MAXIMIZE);
+    RowOf(zoomed).answer = DeskAnswer::Answers;
     for (const int bRestored : {0, 1}) {
         ActionTable[ROW_RESTORE_MAXIMIZED].value = bRestored;
         ShiftWindows(30, 0);
-        EXPECT_EQ(IsZoomed(editor), !bRestored);
-    }
-}
-
-TEST_F(Shift, ALockedWindowStaysAndAListViewScrollsEvenThen) {
-    const HWND kin = OpenKnown("kin", {10, 10, 50, 50}, "SysListView32 of a library");
-    LockWindow(editor);
-    LockWindow(list);
-    EnableWindow(kin, FALSE);
-    ShiftWindows(30, -7);
-    EXPECT_TRUE(RowOf(editor).received.empty());
-    for (const HWND scrolled : {list, kin}) {
-        ASSERT_EQ(RowOf(scrolled).received.size(), 1U);
-        const DeskMessage& got = RowOf(scrolled).received[0];
-        EXPECT_EQ(got.message, LVM_SCROLL);
-        EXPECT_TRUE(got.wParam == 30 && got.lParam == -7);
+        EXPECT_EQ(IsZoomed(zoomed), !bRestored) << "as the user wishes";
     }
 }

@@ -2,8 +2,6 @@
 
 #include "support/quorl_test.h"
 
-namespace {
-
 class Table : public RunningQuorl {};
 
 TEST_F(Table, AManagedPlaceHasAnAreaWithinTheFarEdges) {
@@ -34,15 +32,14 @@ TEST_F(Table, AWindowIsManagedUnlessItIsOutOfUseOrPartOfTheDesktop) {
     }
 }
 
-HRESULT CloakedAsTold(HWND window, DWORD attribute, void* value, DWORD size) {
-    EXPECT_TRUE(attribute == 14 && size == 4);
-    *static_cast<DWORD*>(value) = RowOf(window).bCloaked ? 2 : 0;
-    return 0;
-}
-
 TEST_F(QuorlTest, DoesNotManageAWindowThatTheCompositorHides) {
+    const auto cloaked = [](HWND window, DWORD attribute, void* value, DWORD size) {
+        EXPECT_TRUE(attribute == 14 && size == 4);
+        *static_cast<DWORD*>(value) = RowOf(window).bCloaked ? 2 : 0;
+        return HRESULT{0};
+    };
     Desk.modules["dwmapi.dll"].exports["DwmGetWindowAttribute"] =
-        reinterpret_cast<FARPROC>(reinterpret_cast<void*>(CloakedAsTold));
+        reinterpret_cast<FARPROC>(reinterpret_cast<void*>(+cloaked));
     StartQuorl();
     const HWND window = OpenWindow("", {10, 10, 50, 50});
     EXPECT_TRUE(IsManagedWindow(window));
@@ -78,5 +75,3 @@ TEST_F(Table, HoldsEveryTopLevelWindowTopmostFirst) {
     num_windows = MAX_WINDOWS;
     EXPECT_EQ(AddWindowRow(hidden, 0), FALSE) << "a full table ends the enumeration";
 }
-
-} // namespace

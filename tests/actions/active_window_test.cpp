@@ -11,6 +11,11 @@ class ActiveWindow : public RunningQuorl {
         RunningQuorl::SetUp();
         Desk.foreground = active;
     }
+
+    RECT PlaceAfter(int row) {
+        Command(row);
+        return PlaceOf(active);
+    }
 };
 
 TEST_F(ActiveWindow, MovesByItsRowsStep) {
@@ -18,27 +23,21 @@ TEST_F(ActiveWindow, MovesByItsRowsStep) {
     VDesk = {1024, 768, 2048, 1536};
     Quorl.bottom = 4000;
     for (int row = 92; row <= 103; ++row) {
-        RowOf(active).place = {300, 300, 500, 400};
-        const int step = steps[row - 92];
-        const POINT way = row % 4 < 2 ? POINT{step, 0} : POINT{0, step};
-        Command(row);
-        EXPECT_EQ(PlaceOf(active), Moved({300, 300, 500, 400}, way.x, way.y)) << "row " << row;
+        const RECT before = PlaceOf(active);
+        const int dx = row % 4 < 2 ? steps[row - 92] : 0;
+        EXPECT_EQ(PlaceAfter(row), Moved(before, dx, steps[row - 92] - dx)) << "row " << row;
     }
 }
 
 TEST_F(ActiveWindow, GoesToTheScreensEdgesAndMiddleUnlessItHangs) {
-    const auto placeAfter = [this](int row) {
-        Command(row);
-        return PlaceOf(active);
-    };
-    EXPECT_EQ(placeAfter(104), Rect(0, 300, 200, 400));
-    EXPECT_EQ(placeAfter(105), Rect(824, 300, 1024, 400));
-    EXPECT_EQ(placeAfter(106), Rect(824, 0, 1024, 100));
-    EXPECT_EQ(placeAfter(107), Rect(824, 668, 1024, 768));
+    EXPECT_EQ(PlaceAfter(104), Rect(0, 300, 200, 400));
+    EXPECT_EQ(PlaceAfter(105), Rect(824, 300, 1024, 400));
+    EXPECT_EQ(PlaceAfter(106), Rect(824, 0, 1024, 100));
+    EXPECT_EQ(PlaceAfter(107), Rect(824, 668, 1024, 768));
     RowOf(active).answer = DeskAnswer::Hung;
-    EXPECT_EQ(placeAfter(22), Rect(824, 668, 1024, 768));
+    EXPECT_EQ(PlaceAfter(22), Rect(824, 668, 1024, 768));
     RowOf(active).answer = DeskAnswer::Answers;
-    EXPECT_EQ(placeAfter(22), Rect(412, 334, 612, 434));
+    EXPECT_EQ(PlaceAfter(22), Rect(412, 334, 612, 434));
 }
 
 TEST_F(ActiveWindow, StaysOnTheDesktopNotOnTheScreen) {
@@ -52,38 +51,28 @@ TEST_F(ActiveWindow, StaysOnTheDesktopNotOnTheScreen) {
     EXPECT_EQ(kept({0, 0, 5000, 3000}), Rect(-1928, -2232, 5000, 3000)) << "the far edge wins";
 }
 
-TEST_F(ActiveWindow, GoesTopmostAndBackUnlessItHangsOrIsGone) {
-    const auto isTopmostAfter = [this](DeskAnswer answer) {
-        RowOf(active).answer = answer;
+TEST_F(ActiveWindow, GoesTopmostAndBackUnlessItHangs) {
+    for (const bool bHangs : {true, false}) {
+        RowOf(active).answer = bHangs ? DeskAnswer::Hung : DeskAnswer::Answers;
         Command(121);
-        return (RowOf(active).exStyle & WS_EX_TOPMOST) != 0;
-    };
-    EXPECT_FALSE(isTopmostAfter(DeskAnswer::Hung));
-    EXPECT_TRUE(isTopmostAfter(DeskAnswer::Answers));
-    EXPECT_FALSE(isTopmostAfter(DeskAnswer::Answers));
+        EXPECT_NE((RowOf(active).exStyle & WS_EX_TOPMOST) != 0, bHangs);
+    }
+    Command(121);
+    EXPECT_FALSE(RowOf(active).exStyle & WS_EX_TOPMOST);
     EXPECT_TRUE(IsWindowVisible(active));
-    KillWindow(active);
-    for (const int row : {22, 40, 92, 121})
-        Command(row);
 }
 
 TEST_F(ActiveWindow, LockedStaysThroughScrollsUntilItIsUnlocked) {
-    const auto placeAfter = [this](int lock, int scroll) {
-        Desk.tones.clear();
-        Command(lock);
-        Command(scroll);
-        return PlaceOf(active).left;
-    };
-    EXPECT_EQ(placeAfter(40, 30), 300);
+    Command(40);
     EXPECT_EQ(Desk.tones.size(), 12U);
     EXPECT_EQ(Desk.tones.back(), 11000U);
-    EXPECT_EQ(placeAfter(41, 28), 1324);
-    EXPECT_EQ(Desk.tones.size(), 13U);
-    EXPECT_EQ(Desk.tones.front(), 12000U);
+    EXPECT_EQ(PlaceAfter(30).left, 300);
+    Command(41);
+    EXPECT_EQ(Desk.tones.size(), 25U);
+    EXPECT_EQ(Desk.tones[12], 12000U);
+    EXPECT_EQ(PlaceAfter(28).left, 1324);
 
-    for (const HWND window : {MainWnd, OpenWindow("not in the table yet", {0, 0, 10, 10})}) {
-        Desk.foreground = window;
-        Command(40);
-        EXPECT_FALSE(IsLockedWindow(window)) << "nor can it be one that Quorl may not touch";
-    }
+    Desk.foreground = MainWnd;
+    Command(40);
+    EXPECT_FALSE(IsLockedWindow(MainWnd)) << "nor can one be locked that Quorl may not touch";
 }

@@ -1,6 +1,8 @@
-#include "actions/program_rows.h"
+#include "actions/dispatch.h"
 
 #include "support/quorl_test.h"
+
+#include <climits>
 
 TEST_F(RunningQuorl, TogglesFlipTheirValueAndDoNothingElse) {
     const int before = Desk.calls;
@@ -32,7 +34,15 @@ TEST_F(RunningQuorl, AsksTheSystemToLockTheStationWhereItCanAndForTheScreenSaver
     Command(ROW_LOCK_WORK_STATION);
     EXPECT_EQ(Desk.locks, 1);
     Command(108);
-    ASSERT_EQ(Desk.broadcasts.size(), 1U);
-    EXPECT_EQ(Desk.broadcasts[0].message, WM_SYSCOMMAND);
-    EXPECT_EQ(Desk.broadcasts[0].wParam, SC_SCREENSAVE);
+    EXPECT_EQ(Desk.broadcasts.at(0).message, WM_SYSCOMMAND);
+    EXPECT_EQ(Desk.broadcasts.at(0).wParam, SC_SCREENSAVE);
+}
+
+TEST_F(RunningQuorl, SaysSoOfANumberThatNothingHandles) {
+    const int ids[] = {46, 78, 87, 88, 109, 110, 112, 113, 123, -1, INT_MIN};
+    Desk.answers.assign(std::size(ids), IDOK);
+    for (const int id : ids)
+        EXPECT_EQ(DoAction(MainWnd, id, nullptr), 0) << id;
+    EXPECT_EQ(Desk.boxes.size(), std::size(ids));
+    EXPECT_EQ(LastBox(), "Actually, I don't handle that one yet./Sorry.");
 }

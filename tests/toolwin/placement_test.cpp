@@ -29,11 +29,6 @@ TEST_F(Placement, SnapsToTheScreenAsItIsNowNotAsItWasAtTheStart) {
     EXPECT_EQ(LastTip(), "Toolwin: 825,100 - 1025,200");
 }
 
-TEST_F(Placement, ACornerInPlaceOfADistanceIsTakenAsItStands) {
-    EXPECT_EQ(MoveToolwin(MainWnd, 300, 250, 0), 1);
-    EXPECT_EQ(PlaceOf(MainWnd), Rect(300, 250, 500, 350));
-}
-
 TEST_F(Placement, ResizingMovesTheFarEdgesByTheSmallStepAndStopsAtTheLimits) {
     Options.minscroll = 30;
     Command(43);

@@ -2,24 +2,18 @@
 
 #include "support/quorl_test.h"
 
-namespace {
-
-HWND Handle(int number) {
-    return reinterpret_cast<HWND>(static_cast<UINT_PTR>(number) * 4);
-}
-
-TEST(LockedWindowList, AHandleIsFoundBehindHolesAndAFreedSlotIsUsedAgain) {
-    for (const int number : {1, 2, 3, 2})
-        LockWindow(Handle(number));
-    EXPECT_EQ(LockedWindows[3], nullptr) << "locking twice leaves one entry";
-    EXPECT_TRUE(IsLockedWindow(nullptr)) << "as a scan of slots that were never used would say";
-    UnlockWindow(Handle(1));
-    EXPECT_FALSE(IsLockedWindow(Handle(1)));
-    EXPECT_TRUE(IsLockedWindow(Handle(3)));
-    LockWindow(Handle(4));
-    EXPECT_EQ(LockedWindows[0], Handle(4));
+TEST_F(QuorlTest, FindsALockedWindowBehindHolesAndUsesAFreedSlotAgain) {
+    const HWND first = OpenWindow("first", {});
+    const HWND second = OpenWindow("second", {});
+    const HWND third = OpenWindow("third", {});
+    for (const HWND window : {first, second, second})
+        LockWindow(window);
+    EXPECT_EQ(LockedWindows[2], nullptr) << "locking twice leaves one entry";
+    UnlockWindow(first);
+    EXPECT_FALSE(IsLockedWindow(first));
+    EXPECT_TRUE(IsLockedWindow(second));
+    LockWindow(third);
+    EXPECT_EQ(LockedWindows[0], third);
     ClearLockedWindows();
-    EXPECT_FALSE(IsLockedWindow(Handle(2)));
+    EXPECT_FALSE(IsLockedWindow(second));
 }
-
-} // namespace

@@ -26,6 +26,7 @@ TEST_F(RunningQuorl, ScrollTellsWhetherTheCornerChangedAndAsksTheWindowsAlthough
     const HWND editor = OpenKnown("editor", {100, 100, 500, 400});
     EXPECT_EQ(ScrollView(MainWnd, 3072, 1, SV_ABSOLUTE, 0), 1);
     EXPECT_TRUE(CameInOrder({"MoveWindow", "InvalidateRect", "UpdateWindow"}));
+    EXPECT_EQ(LastTip(), "VDesk: 3072,1 - 4096,769");
     EXPECT_EQ(ScrollView(MainWnd, 3072, 0, SV_ABSOLUTE, 0), 1) << "up alone";
     EXPECT_EQ(ScrollView(MainWnd, 3072, 0, SV_ABSOLUTE, 0), 0);
     EXPECT_EQ(RowOf(editor).received.size(), 3U);

@@ -33,9 +33,9 @@ TEST_F(Shift, EachWindowIsAskedMovedAndShownALockedOneStaysAndAListViewScrollsEv
     EXPECT_TRUE(CameInOrder({"SendMessageTimeoutA", "MoveWindow", "ShowWindow"}));
     EXPECT_TRUE(RowOf(other).received.empty());
     for (const HWND scrolled : {list, kin}) {
-        ASSERT_EQ(RowOf(scrolled).received.size(), 1U);
-        const DeskMessage& got = RowOf(scrolled).received[0];
+        const DeskMessage& got = RowOf(scrolled).received.at(0);
         EXPECT_TRUE(got.message == LVM_SCROLL && got.wParam == 30 && got.lParam == -7);
+        EXPECT_EQ(RowOf(scrolled).received.size(), 1U);
     }
 }
 

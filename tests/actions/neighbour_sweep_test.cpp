@@ -2,63 +2,45 @@
 
 #include "support/quorl_test.h"
 
-#include <random>
-
-namespace {
-
-// The sweep as it is thought of: pixel by pixel.
-int PlainNeighbour(const Sweep& sweep, RECT strip, POINT move) {
-    const int view = move.x ? sweep.vdesk.left : sweep.vdesk.top;
-    const int size = move.x ? sweep.quorl.right : sweep.quorl.bottom;
-    const LONG& edge = move.x > 0 ? strip.right : move.x < 0 ? strip.left : strip.top;
-    int found = -1;
-    for (int bStop = sweep.count == 0; !bStop;)
-        for (int place = 0; place < sweep.count; ++place) {
-            RECT shared{};
-            if (IntersectRect(&shared, &strip, &sweep.windows[place])) {
-                found = place;
-                bStop = 1;
-                continue;
-            }
-            strip = Moved(strip, move.x, move.y);
-            bStop |= move.x + move.y < 0 ? view + edge < 0 : view + edge > size;
-        }
-    return found;
-}
-
-TEST(NeighbourSweep, GivesWhatAPixelByPixelSweepGives) {
+TEST(NeighbourSweep, FindsTheNearestOneUpToTheDesktopsEdge) {
     const struct {
         SweepDirection direction;
-        RECT strip; // at that side of a rectangle of 40 by 20
-        POINT move;
-        RECT far; // side of that rectangle
-    } ways[] = {
-        {SWEEP_UP,    {0, 0, 40, 1},   {0, -1}, {0, 20, 40, 20}},
-        {SWEEP_DOWN,  {0, 19, 40, 20}, {0, 1},  {0, 0, 40, 0}  },
-        {SWEEP_LEFT,  {0, 0, 1, 20},   {-1, 0}, {40, 0, 40, 20}},
-        {SWEEP_RIGHT, {39, 0, 40, 20}, {1, 0},  {0, 0, 0, 20}  },
+        std::vector<RECT> windows; // around 100, 100, 140, 120
+        int found;
+    } cases[] = {
+        {SWEEP_UP,    {{139, -30, 150, -29}},                             0 },
+        {SWEEP_UP,    {{139, -31, 150, -30}},                             -1}, // off the desktop
+        {SWEEP_UP,    {{140, 0, 150, 50}},                                -1}, // aside
+        {SWEEP_DOWN,  {{90, 270, 101, 271}},                              0 },
+        {SWEEP_DOWN,  {{90, 271, 101, 272}},                              -1},
+        {SWEEP_LEFT,  {{-50, 119, -49, 150}},                             0 },
+        {SWEEP_LEFT,  {{-51, 119, -50, 150}},                             -1},
+        {SWEEP_LEFT,  {{0, 120, 50, 150}},                                -1},
+        {SWEEP_RIGHT, {{349, 90, 350, 101}},                              0 },
+        {SWEEP_RIGHT, {{350, 90, 351, 101}},                              -1},
+        {SWEEP_RIGHT, {{139, 100, 140, 120}},                             0 }, // from the outermost pixel on
+        {SWEEP_DOWN,  {{100, 119, 140, 120}},                             0 },
+        {SWEEP_DOWN,  {{100, 110, 140, 119}},                             -1},
+        {SWEEP_DOWN,  {{100, 150, 140, 200}, {100, 130, 140, 140}},       1 },
+        {SWEEP_DOWN,  {{0, 0, 1, 1}, {0, 0, 1, 1}, {100, 124, 140, 125}}, 2 },
+        {SWEEP_DOWN,  {{0, 0, 1, 1}, {0, 0, 1, 1}, {100, 125, 140, 126}}, -1}, // stepped over
+        {SWEEP_DOWN,  {{100, 121, 140, 122}, {100, 121, 140, 122}},       1 }, // a later hit of the same turn
+        {SWEEP_DOWN,  {},                                                 -1},
     };
-    Desk.bTrace = 0;
-    std::mt19937 random(20); // always the same layouts
-    const auto upTo = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
-    int hits = 0;
-    for (int layout = 0; layout < 4000; ++layout) {
-        const auto& [direction, strip, move, far] = ways[layout % 4];
-        EXPECT_EQ(FoldedToFarSide({0, 0, 40, 20}, direction), far);
-        const int x = upTo(200) - 100;
-        const int y = upTo(100) - 50;
-        std::vector<RECT> windows(static_cast<std::size_t>(upTo(8)));
-        for (RECT& window : windows) // some without an area
-            window = Moved({0, 0, upTo(40), upTo(40)}, upTo(500) - 250, upTo(300) - 150);
-        const RECT vdesk{upTo(200), upTo(100), 0, 0};
-        const RECT quorl{0, 0, 100 + upTo(300), 100 + upTo(200)};
+    for (const auto& [direction, windows, found] : cases) {
         const int count = static_cast<int>(windows.size());
-        const Sweep sweep{direction, Moved({0, 0, 40, 20}, x, y), windows.data(), count, vdesk, quorl};
-        const int expected = PlainNeighbour(sweep, Moved(strip, x, y), move);
-        ASSERT_EQ(FindNeighbour(sweep), expected) << "layout " << layout;
-        hits += expected >= 0;
+        const Sweep sweep{
+            direction, {100, 100, 140, 120},
+             windows.data(), count, {50,  30,  0,   0  },
+             {0,   0,   400, 300}
+        };
+        EXPECT_EQ(FindNeighbour(sweep), found) << testing::PrintToString(windows) << " going " << direction;
     }
-    EXPECT_GT(hits, 400) << "the layouts must hold neighbours";
 }
 
-} // namespace
+TEST(NeighbourSweep, StartsAtTheSideOfTheScreenThatItLeaves) {
+    EXPECT_EQ(FoldedToFarSide({0, 0, 10, 8}, SWEEP_UP), Rect(0, 8, 10, 8));
+    EXPECT_EQ(FoldedToFarSide({0, 0, 10, 8}, SWEEP_DOWN), Rect(0, 0, 10, 0));
+    EXPECT_EQ(FoldedToFarSide({0, 0, 10, 8}, SWEEP_LEFT), Rect(10, 0, 10, 8));
+    EXPECT_EQ(FoldedToFarSide({0, 0, 10, 8}, SWEEP_RIGHT), Rect(0, 0, 0, 8));
+}

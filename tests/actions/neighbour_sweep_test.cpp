@@ -5,7 +5,7 @@
 TEST(NeighbourSweep, FindsTheNearestOneUpToTheDesktopsEdge) {
     const struct {
         SweepDirection direction;
-        std::vector<RECT> windows; // around 100, 100, 140, 120
+        std::vector<RECT> windows; // around `start`
         int found;
     } cases[] = {
         {SWEEP_UP,    {{139, -30, 150, -29}},                             0 },
@@ -22,18 +22,16 @@ TEST(NeighbourSweep, FindsTheNearestOneUpToTheDesktopsEdge) {
         {SWEEP_DOWN,  {{100, 119, 140, 120}},                             0 },
         {SWEEP_DOWN,  {{100, 110, 140, 119}},                             -1},
         {SWEEP_DOWN,  {{100, 150, 140, 200}, {100, 130, 140, 140}},       1 },
-        {SWEEP_DOWN,  {{0, 0, 1, 1}, {0, 0, 1, 1}, {100, 124, 140, 125}}, 2 },
+        {SWEEP_DOWN,  {{0, 0, 1, 1}, {0, 0, 1, 1}, {100, 123, 140, 125}}, 2 },
         {SWEEP_DOWN,  {{0, 0, 1, 1}, {0, 0, 1, 1}, {100, 125, 140, 126}}, -1}, // stepped over
         {SWEEP_DOWN,  {{100, 121, 140, 122}, {100, 121, 140, 122}},       1 }, // a later hit of the same turn
         {SWEEP_DOWN,  {},                                                 -1},
     };
+    const RECT start{100, 100, 140, 120};
+    const RECT vdesk{50, 30, 0, 0};
+    const RECT quorl{0, 0, 400, 300};
     for (const auto& [direction, windows, found] : cases) {
-        const int count = static_cast<int>(windows.size());
-        const Sweep sweep{
-            direction, {100, 100, 140, 120},
-             windows.data(), count, {50,  30,  0,   0  },
-             {0,   0,   400, 300}
-        };
+        const Sweep sweep{direction, start, windows.data(), static_cast<int>(windows.size()), vdesk, quorl};
         EXPECT_EQ(FindNeighbour(sweep), found) << testing::PrintToString(windows) << " going " << direction;
     }
 }

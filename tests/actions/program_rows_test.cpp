@@ -41,8 +41,10 @@ TEST_F(RunningQuorl, AsksTheSystemToLockTheStationWhereItCanAndForTheScreenSaver
 TEST_F(RunningQuorl, SaysSoOfANumberThatNothingHandles) {
     const int ids[] = {46, 78, 87, 88, 109, 110, 112, 113, 123, -1, INT_MIN};
     Desk.answers.assign(std::size(ids), IDOK);
-    for (const int id : ids)
+    for (const int id : ids) {
         EXPECT_EQ(DoAction(MainWnd, id, nullptr), 0) << id;
+        EXPECT_TRUE(id < 0 || id == NUM_ACTIONS || ActionTable[id].flags == ACTION_OFF) << "offered, " << id;
+    }
     EXPECT_EQ(Desk.boxes.size(), std::size(ids));
     EXPECT_EQ(LastBox(), "Actually, I don't handle that one yet./Sorry.");
 }

@@ -31,11 +31,11 @@ TEST_F(Tip, IsAStripAsWideAsTheMapThatTakesTheKeyboardFromNobody) {
 TEST_F(Tip, GoesOnTheSecondTickAfterTheLastTextOrUnderTheMouse) {
     SendMessageA(Say("none"), WM_CLOSE, 0, 0); // its timer goes with it
     const HWND tip = Say("one");
-    Wait(900);
+    Wait(1100);
     EXPECT_EQ(Say("two"), tip);
-    Wait(1000); // the first tick, 100 ms after the text
+    Wait(900); // the first tick since
     EXPECT_TRUE(IsWindowVisible(tip));
-    Wait(100);
+    Wait(1000);
     EXPECT_FALSE(IsWindowVisible(tip));
     Say("three");
     SendMessageA(tip, WM_MOUSEMOVE, 0, 0);

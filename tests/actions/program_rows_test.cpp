@@ -19,7 +19,7 @@ TEST_F(RunningQuorl, TogglesFlipTheirValueAndDoNothingElse) {
 TEST_F(RunningQuorl, HoldsTheBorderFromOneToTen) {
     const auto after = [](ActionId row, int border) {
         Options.border = border;
-        Command(row);
+        EXPECT_EQ(DoAction(MainWnd, row, nullptr), 1);
         return Options.border;
     };
     EXPECT_EQ(after(68, 9), 10);

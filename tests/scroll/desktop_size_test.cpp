@@ -29,7 +29,7 @@ TEST_F(RunningQuorl, EachRowOfTheDesktopsSizeChangesOneSideAndSlidesOrAsksTheWin
         Quorl = {0, 0, 4096, 1536};
         const HWND editor = OpenKnown("editor", before);
         Desk.trace.clear();
-        Command(row);
+        EXPECT_EQ(DoAction(MainWnd, row, nullptr), 1);
         EXPECT_EQ(Quorl, quorl);
         EXPECT_EQ(PlaceOf(editor), Moved(before, shift.x, shift.y));
         EXPECT_EQ(RowOf(editor).received.size(), asked);

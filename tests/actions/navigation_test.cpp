@@ -7,8 +7,8 @@ class Navigation : public RunningQuorl {};
 TEST_F(Navigation, TheNeighbourIsActivatedAndTheViewStays) {
     const HWND left = OpenWindow("left", {0, 100, 200, 300});
     const HWND right = OpenWindow("right", {1500, 100, 1700, 300}); // off the screen
-    const HWND middle = OpenWindow("middle", {400, 100, 600, 300});
-    OpenKnown("", {400, 500, 600, 600}); // found below, and refused
+    OpenWindow("", {400, 500, 600, 600}); // found below, and refused
+    const HWND middle = OpenKnown("middle", {400, 100, 600, 300});
     const auto reached = [](int row, HWND from) {
         Desk.foreground = from;
         Command(row);

@@ -7,37 +7,25 @@ namespace {
 
 class DialogsBadLuck : public QuorlTest {};
 
-constexpr int NAME = 1025;
-constexpr int LIST = 1041;
+constexpr int APPLY = 2, NAME = 1025, LIST = 1041, RESIZE_OK = 1044; // controls
 
-const struct {
-    int row, slot, closes;
-} Dialogs[] = {
-    {49,  5, IDOK},
-    {52,  7, IDOK},
-    {53,  4, 2   }, // Apply
-    {53,  4, 1044},
-    {111, 7, IDOK},
-    {116, 9, IDOK},
-    {56,  1, IDOK},
-    {57,  0, IDOK},
-    {54,  2, IDOK},
-    {55,  3, IDOK},
-    {74,  6, IDOK},
-};
+void FillInAndClose(HWND dialog) {
+    if (const HWND name = ControlOf(dialog, NAME))
+        TypeInto(name, "here");
+    if (const HWND list = ControlOf(dialog, LIST))
+        ChooseRow(list, 0);
+    if (ControlOf(dialog, RESIZE_OK))
+        ClickControl(ControlOf(dialog, APPLY));
+    ClickControl(ControlOf(dialog, ControlOf(dialog, RESIZE_OK) ? RESIZE_OK : IDOK));
+}
 
 // The user opens each dialog that comes, fills in what it asks for, and closes it.
 void GoThroughDialogs() {
-    for (const auto& use : Dialogs) {
-        Command(use.row);
-        const HWND dialog = DialogSlots[use.slot].handle;
-        if (!dialog)
-            continue;
-        if (const HWND name = ControlOf(dialog, NAME))
-            TypeInto(name, "here");
-        if (const HWND list = ControlOf(dialog, LIST))
-            ChooseRow(list, 0);
-        ClickControl(ControlOf(dialog, use.closes));
+    for (const int row : {49, 52, 53, 111, 116, 56, 57, 54, 55, 74}) {
+        Command(row);
+        for (const DialogSlot& slot : DialogSlots)
+            if (slot.handle)
+                FillInAndClose(slot.handle);
     }
 }
 

@@ -3,11 +3,9 @@
 
 #include "support/quorl_test.h"
 
-#include <string>
-#include <vector>
-
 using Rows = std::vector<DeskRow>;
 using Texts = std::vector<std::string>;
+using Ids = std::vector<int>;
 
 inline bool operator==(const DeskRow& a, const DeskRow& b) {
     return a.text == b.text && a.data == b.data;
@@ -26,12 +24,21 @@ class DialogTest : public RunningQuorl {
         Command(row);
         dialog = Desk.foreground;
         ASSERT_NE(RowOf(dialog).dialog, nullptr);
+        Desk.beeps.clear();
     }
 
     int IsOpen() const { return RowOf(dialog).handle != nullptr; }
     HWND At(int id) const { return ControlOf(dialog, id); }
     DeskControl& Kept(int id) const { return RowOf(At(id)).control; }
     const std::string& TextOf(int id) const { return RowOf(At(id)).title; }
+    // What is checked, in the order of the template.
+    Ids Checked() const {
+        Ids checked;
+        for (const HWND control : RowOf(dialog).children)
+            if (RowOf(control).control.bChecked)
+                checked.push_back(static_cast<int>(RowOf(control).id));
+        return checked;
+    }
 
     void Click(int id) const { ClickControl(At(id)); }
     void Choose(int id, int row) const { ChooseRow(At(id), row); }

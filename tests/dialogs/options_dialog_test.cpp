@@ -1,18 +1,16 @@
 // Whole stories with the Options dialog: what it shows, what the user does, what OK makes of it.
-#include "dialogs/options_dialog.h"
-
 #include "dialogs/dialog_test.h"
 #include "dialogs/registry.h"
 #include "dialogs/spinner.h"
-#include "scroll/window_table.h"
 
 namespace {
 
 // Its controls.
-constexpr int HEIGHT = 1000, WIDTH = 1001, DELAY_TIME = 1003, NOTE = 1077;
+constexpr int HEIGHT = 1000, WIDTH = 1001, BORDER = 1002, DELAY_TIME = 1003, NOTE = 1077;
+constexpr int MAXSCROLL = 1007, MINSCROLL = 1008, MOUSESCROLL = 1009;
+constexpr int BY_MAX = 1073, BY_MIN = 1074, BY_MOUSE = 1075, BY_SCREEN = 1076;
+constexpr int AFTER_TIME = 1078, AT_ONCE = 1079, AFTER_LEFT_CLICK = 1080, AFTER_RIGHT_CLICK = 1082;
 constexpr int HEIGHT_SPINNER = 54321, WIDTH_SPINNER = 54322;
-
-constexpr int UP = 5, DOWN = 16; // on a spinner, pixels from its top
 
 class OptionsDialog : public DialogTest {
   protected:
@@ -28,14 +26,6 @@ class OptionsDialog : public DialogTest {
         SendMessageA(At(id), WM_LBUTTONUP, 0, MAKELPARAM(7, y));
     }
     int Counted(int spinner) const { return StateOfSpinner(At(spinner))->value; }
-
-    std::vector<int> Checked() const {
-        std::vector<int> checked;
-        for (const int radio : {1073, 1074, 1075, 1076, 1078, 1079, 1080, 1082})
-            if (Kept(radio).bChecked)
-                checked.push_back(radio);
-        return checked;
-    }
 };
 
 TEST_F(OptionsDialog, ShowsWhatIsInForce) {
@@ -43,21 +33,20 @@ TEST_F(OptionsDialog, ShowsWhatIsInForce) {
     Open();
     EXPECT_TRUE(IsWindowVisible(dialog));
     Texts texts;
-    for (const int id : {1000, 1001, 1002, 1007, 1008, 1009, 1003})
+    for (const int id : {HEIGHT, WIDTH, BORDER, MAXSCROLL, MINSCROLL, MOUSESCROLL, DELAY_TIME})
         texts.push_back(TextOf(id));
     EXPECT_EQ(texts, (Texts{"1536", "4096", "4", "100", "5", "800", "40"}));
     EXPECT_EQ(TextOf(NOTE), "When mouse scroll actions are used, these items determine how to scroll.");
     const RECT edit = PlaceOf(At(WIDTH));
     EXPECT_EQ(PlaceOf(At(WIDTH_SPINNER)), Rect(edit.right, edit.top, edit.right + 15, edit.top + 21));
     EXPECT_EQ(Counted(WIDTH_SPINNER), 4);
-    EXPECT_EQ(Counted(HEIGHT_SPINNER), 2);
     EXPECT_EQ(StateOfSpinner(At(HEIGHT_SPINNER))->interval, 250U);
 }
 
 TEST_F(OptionsDialog, SpinnersAndHiddenButtonsCountInWholeScreensUpToTheLargestDesktop) {
+    constexpr int UP = 5, DOWN = 16; // pixels from the spinner's top
     Open();
     TypeAndLeave(HEIGHT, "2000");
-    EXPECT_EQ(Counted(HEIGHT_SPINNER), 2);
     Send(1022);
     EXPECT_EQ(TextOf(HEIGHT), "2304");
     PressSpinner(HEIGHT_SPINNER, UP);
@@ -84,17 +73,16 @@ TEST_F(OptionsDialog, SpinnersAndHiddenButtonsCountInWholeScreensUpToTheLargestD
 }
 
 TEST_F(OptionsDialog, OkTakesOverWhatIsShownAndHoldsEveryWindowInside) {
-    const HWND editor = OpenWindow("editor", {100, 100, 500, 400});
-    RebuildWindowTable();
+    const HWND editor = OpenKnown("editor", {100, 100, 500, 400});
     Options.minscroll = 10;
     Open();
     Desk.trace.clear();
-    TypeAndLeave(1000, "2000");
-    TypeAndLeave(1001, "4096");
-    TypeAndLeave(1002, "11");
-    TypeAndLeave(1007, "5");
-    TypeAndLeave(1008, "3");
-    TypeAndLeave(1009, "0");
+    Type(WIDTH, "4096");
+    Type(BORDER, "11");
+    Type(MAXSCROLL, "5");
+    Type(MINSCROLL, "3");
+    Type(MOUSESCROLL, "0");
+    Type(HEIGHT, "2000");
     RowOf(editor).received.clear();
     Click(IDOK);
     EXPECT_EQ(Quorl, Rect(0, 0, 4096, 2000));
@@ -111,7 +99,7 @@ TEST_F(OptionsDialog, ASmallerDesktopGathersItsWindowsAndLeavesTheView) {
     Command(30);
     const HWND editor = OpenWindow("editor", {1500, 200, 1800, 400});
     Open();
-    TypeAndLeave(WIDTH, "2048");
+    Type(WIDTH, "2048");
     Click(IDOK);
     EXPECT_EQ(PlaceOf(editor), Rect(476, 200, 776, 400));
     EXPECT_EQ(VDesk, Rect(2048, 0, 3072, 768)) << "the next scroll brings it back";
@@ -120,12 +108,12 @@ TEST_F(OptionsDialog, ASmallerDesktopGathersItsWindowsAndLeavesTheView) {
 TEST_F(OptionsDialog, ADelayIsChosenByItsRadioAndOnlyATimeNeedsANumber) {
     Options.mousescroll_delay = 2; // its radio is hidden and cannot be chosen again
     Open();
-    Click(1078);
+    Click(AFTER_TIME);
     EXPECT_TRUE(IsWindowEnabled(At(DELAY_TIME)));
-    Click(1080);
+    Type(DELAY_TIME, "70000");
+    Click(AFTER_LEFT_CLICK);
     EXPECT_FALSE(IsWindowEnabled(At(DELAY_TIME)));
-    Click(1075);
-    SetDlgItemTextA(dialog, DELAY_TIME, "70000");
+    Click(BY_MOUSE);
     Click(IDOK);
     EXPECT_EQ(Options.mousescroll_delay, 1);
     EXPECT_EQ(Options.mousescroll_type, 2);
@@ -134,27 +122,26 @@ TEST_F(OptionsDialog, ADelayIsChosenByItsRadioAndOnlyATimeNeedsANumber) {
 
 TEST_F(OptionsDialog, StoredKindsOfScrollSurviveWhateverTheyAre) {
     const struct {
-        int type, delay;
-        std::vector<int> checked;
-        int bTime, bTabStop; // of the first delay
+        int kind; // of scroll, and of its delay
+        Ids checked;
+        int bTabStop; // at the first delay
     } cases[] = {
-        {0,  0,  {1074, 1079}, 0, 0},
-        {1,  1,  {1073, 1080}, 0, 0},
-        {2,  2,  {1075, 1082}, 0, 1}, // hidden, so Tab would find none
-        {3,  3,  {1076, 1078}, 1, 0},
-        {4,  4,  {},           0, 1},
-        {-1, -1, {},           0, 1},
+        {0,  {BY_MIN, AT_ONCE},             0},
+        {1,  {BY_MAX, AFTER_LEFT_CLICK},    0},
+        {2,  {BY_MOUSE, AFTER_RIGHT_CLICK}, 1}, // hidden, so Tab would find none
+        {3,  {BY_SCREEN, AFTER_TIME},       0},
+        {4,  {},                            1},
+        {-1, {},                            1},
     };
-    for (const auto& c : cases) {
-        Options.mousescroll_type = c.type;
-        Options.mousescroll_delay = c.delay;
+    for (const auto& [kind, checked, bTabStop] : cases) {
+        Options.mousescroll_type = Options.mousescroll_delay = kind;
         Open();
-        EXPECT_EQ(Checked(), c.checked);
-        EXPECT_EQ(IsWindowEnabled(At(DELAY_TIME)), c.bTime);
-        EXPECT_TRUE(!c.bTabStop || (RowOf(At(1079)).style & WS_TABSTOP)) << c.delay;
+        EXPECT_EQ(Checked(), checked) << kind;
+        EXPECT_EQ(IsWindowEnabled(At(DELAY_TIME)), kind == 3);
+        EXPECT_TRUE(!bTabStop || (RowOf(At(AT_ONCE)).style & WS_TABSTOP)) << kind;
         Click(IDOK);
-        EXPECT_EQ(Options.mousescroll_type, c.type);
-        EXPECT_EQ(Options.mousescroll_delay, c.delay);
+        EXPECT_EQ(Options.mousescroll_type, kind);
+        EXPECT_EQ(Options.mousescroll_delay, kind);
     }
 }
 
@@ -162,41 +149,26 @@ TEST_F(OptionsDialog, WithoutTheHookLibraryTheMouseOptionsAreOffAndStay) {
     Options.hook_present = 0;
     Options.mousescroll_delay = 3;
     Open();
-    EXPECT_EQ(Checked(), std::vector<int>{});
-    for (const int id : {1009, 1073, 1074, 1075, 1076, 1079, 1080, 1082, 1078, 1003})
+    EXPECT_EQ(Checked(), Ids{});
+    for (const int id : {MOUSESCROLL, BY_MAX, BY_MIN, BY_MOUSE, BY_SCREEN, AT_ONCE, AFTER_LEFT_CLICK,
+                         AFTER_RIGHT_CLICK, AFTER_TIME, DELAY_TIME})
         EXPECT_FALSE(IsWindowEnabled(At(id))) << id;
-    EXPECT_EQ(TextOf(DELAY_TIME), "");
     EXPECT_EQ(TextOf(NOTE),
               "Mouse scroll options are disabled because quorl.dll is not present or failed to load.");
-    SetDlgItemTextA(dialog, 1009, "50");
     Click(IDOK);
-    EXPECT_EQ(Options.mousescroll, 50);
     EXPECT_EQ(Options.mousescroll_delay, 3);
     EXPECT_EQ(Options.mousescroll_delay_time, 100);
-}
-
-TEST_F(OptionsDialog, WithoutASpinnerNobodyLimitsTheSize) {
-    Open();
-    DestroyWindow(At(HEIGHT_SPINNER));
-    TypeAndLeave(HEIGHT, "40000");
-    TypeAndLeave(WIDTH, "7");
-    Click(IDOK);
-    EXPECT_EQ(Quorl, Rect(0, 0, 1024, 40000));
 }
 
 TEST_F(OptionsDialog, WhatItsButtonsOpenOutlivesItWithTheMapForItsOwner) {
     Open();
     Click(3);
     Click(1064);
-    const HWND opened[] = {DialogSlots[3].handle, DialogSlots[6].handle};
-    for (const HWND other : opened)
-        EXPECT_EQ(RowOf(other).owner, dialog);
     Click(IDOK);
-    for (const HWND other : opened) {
-        EXPECT_TRUE(IsWindowVisible(other));
-        EXPECT_EQ(RowOf(other).owner, MainWnd);
+    for (const int slot : {3, 6}) {
+        EXPECT_TRUE(IsWindowVisible(DialogSlots[slot].handle));
+        EXPECT_EQ(RowOf(DialogSlots[slot].handle).owner, MainWnd);
     }
-    EXPECT_EQ(OpenOptionsDialog(MainWnd), 1);
 }
 
 } // namespace

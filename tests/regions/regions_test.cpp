@@ -1,0 +1,114 @@
+// The regions in their table, and what their rows and hotkeys do.
+#include "regions/region_table.h"
+
+#include "actions/dispatch.h"
+#include "support/quorl_test.h"
+
+namespace {
+
+class Regions : public RunningQuorl {};
+
+constexpr int GO_TO = 3, UNMARK = 50, UNMARK_ALL = 51, BACK = 36, ON = 37; // rows
+
+void PressDigit(UINT digit) {
+    PressCombination(MOD_ALT | MOD_CONTROL | MOD_SHIFT, digit);
+    Settle();
+}
+
+TEST_F(Regions, APointBelongsToTheHighestRowThatHoldsItEdgesIncluded) {
+    const auto nameAt = [](int x, int y) {
+        char name[33] = "-";
+        FindRegionAt(x, y, name, nullptr, nullptr);
+        return std::string(name);
+    };
+    Mark("a", 0, 0);
+    Mark("0123456789012345678901234567890123456789", 1024, 0);
+    EXPECT_EQ(nameAt(1023, 768), "a");
+    EXPECT_EQ(nameAt(1024, 768), "01234567890123456789012345678901");
+    EXPECT_EQ(nameAt(2048, 0), "01234567890123456789012345678901");
+    for (const auto& [x, y] : {
+             POINT{2049, 0  },
+             {-1,   0  },
+             {0,    769},
+             {0,    -1 }
+    })
+        EXPECT_EQ(nameAt(x, y), "-") << x << ", " << y;
+}
+
+TEST_F(Regions, SteppingGoesRoundThemBothWays) {
+    Command(BACK);
+    EXPECT_EQ(Desk.beeps.size(), 1u) << "there are none";
+    Mark("region", 1024, 0);
+    Mark("region", 2048, 0);
+    Mark("region", 100, 700); // it holds a corner of the first one too
+    const struct {
+        int row;
+        POINT view;
+    } steps[] = {
+        {ON,   {1024, 0} }, // from outside all of them, whichever the direction
+        {ON,   {100, 700}},
+        {ON,   {2048, 0} },
+        {ON,   {1024, 0} },
+        {BACK, {2048, 0} },
+        {BACK, {100, 700}},
+    };
+    for (const auto& [row, view] : steps) {
+        Command(row);
+        EXPECT_EQ(ViewCorner(), view);
+    }
+}
+
+TEST_F(Regions, TheFirstTenRowsGetADigitThatJumpsThereAndOutlivesThem) {
+    for (int row = 0; row < 12; ++row)
+        Mark("region", 100 * row, 300);
+    EXPECT_EQ(RegisterRegionKeys(MainWnd), 0);
+    EXPECT_EQ(Desk.beeps, (std::vector<UINT>{0, 0}));
+    num_regions = 10;
+    EXPECT_EQ(RegisterRegionKeys(MainWnd), 1) << "the old ones are released first";
+    PressDigit('9');
+    EXPECT_EQ(ViewCorner(), (POINT{900, 300}));
+    Command(UNMARK_ALL);
+    EXPECT_EQ(num_regions, 0);
+    PressDigit('9');
+    EXPECT_EQ(ViewCorner(), (POINT{0, 0})) << "the desktop's corner";
+}
+
+TEST_F(Regions, APointOfTheMapJumpsToTheRegionUnderItAndWhatIsNoRegionLeavesTheView) {
+    Mark("region", 2048, 768); // the map is 200 by 100 pixels of 4096 by 1536
+    ActionPoint inside{120, 60};
+    EXPECT_EQ(DoAction(MainWnd, GO_TO, &inside), 1);
+    for (ActionPoint point : {
+             ActionPoint{10,          10},
+             {-1,          -1},
+             {MAX_REGIONS, -1},
+             {1 << 30,     -1}
+    })
+        EXPECT_EQ(DoAction(MainWnd, GO_TO, &point), 0) << point.x;
+    for (const int id : {NUM_ACTIONS + 1, FIRST_REGION_ID - 1, FIRST_REGION_ID + MAX_REGIONS, 0x7fffffff})
+        EXPECT_EQ(DoAction(MainWnd, id, nullptr), 0) << id;
+    EXPECT_EQ(ViewCorner(), (POINT{2048, 768}));
+}
+
+TEST_F(Regions, OnlyAViewExactlyAtACornerUnmarksAndLaterRowsMoveUp) {
+    for (const char* name : {"a", "b", "c"})
+        Mark(name, 0, 0);
+    Mark("d", 9, 9);
+    RegionTable[0].left = 5;
+    Command(UNMARK);
+    std::string names;
+    for (int row = 0; row < num_regions; ++row)
+        names += RegionTable[row].name;
+    EXPECT_EQ(names, "acd") << "the first of two at the same corner";
+    VDesk.left = 1;
+    Desk.trace.clear();
+    Command(UNMARK);
+    EXPECT_EQ(num_regions, 3) << "inside is not enough";
+    EXPECT_EQ(CallsOf("UpdateWindow"), 1) << "the map is repainted all the same";
+    while (num_regions < MAX_REGIONS)
+        Mark("full", num_regions, 0);
+    EXPECT_EQ(RemoveRegion(MainWnd, MAX_REGIONS - 1), 1);
+    EXPECT_EQ(RemoveRegion(MainWnd, MAX_REGIONS), 0);
+    EXPECT_EQ(num_regions, MAX_REGIONS - 1);
+}
+
+} // namespace

@@ -1,7 +1,12 @@
 // Whole stories with the Options dialog: what it shows, what the user does, what OK makes of it.
 #include "dialogs/dialog_test.h"
+#include "dialogs/options_rules.h"
 #include "dialogs/registry.h"
 #include "dialogs/spinner.h"
+
+#include <array>
+#include <bit>
+#include <climits>
 
 namespace {
 
@@ -25,27 +30,60 @@ class OptionsDialog : public DialogTest {
         SendMessageA(At(id), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, y));
         SendMessageA(At(id), WM_LBUTTONUP, 0, MAKELPARAM(7, y));
     }
-    int Counted(int spinner) const { return StateOfSpinner(At(spinner))->value; }
 };
 
-TEST_F(OptionsDialog, ShowsWhatIsInForce) {
-    Options.mousescroll_delay_time = 40;
+TEST_F(OptionsDialog, ShowsWhatIsInForceAndOkTakesOverWhatIsTypedAndHoldsEveryWindowInside) {
+    const HWND editor = OpenKnown("editor", {100, 100, 500, 400});
+    Options.minscroll = 10;
     Open();
-    EXPECT_TRUE(IsWindowVisible(dialog));
-    Texts texts;
-    for (const int id : {HEIGHT, WIDTH, BORDER, MAXSCROLL, MINSCROLL, MOUSESCROLL, DELAY_TIME})
-        texts.push_back(TextOf(id));
-    EXPECT_EQ(texts, (Texts{"1536", "4096", "4", "100", "5", "800", "40"}));
-    EXPECT_EQ(TextOf(NOTE), "When mouse scroll actions are used, these items determine how to scroll.");
-    const RECT edit = PlaceOf(At(WIDTH));
-    EXPECT_EQ(PlaceOf(At(WIDTH_SPINNER)), Rect(edit.right, edit.top, edit.right + 15, edit.top + 21));
-    EXPECT_EQ(Counted(WIDTH_SPINNER), 4);
-    EXPECT_EQ(StateOfSpinner(At(HEIGHT_SPINNER))->interval, 250U);
+    Desk.trace.clear();
+    const struct {
+        int box;
+        const char *shown, *typed;
+    } numbers[] = {
+        {WIDTH,       "4096", "5000"},
+        {BORDER,      "4",    "11"  },
+        {MAXSCROLL,   "100",  "5"   },
+        {MINSCROLL,   "10",   "3"   },
+        {MOUSESCROLL, "800",  "0"   },
+        {HEIGHT,      "1536", "2000"},
+    };
+    for (const auto& [box, shown, typed] : numbers) {
+        EXPECT_EQ(TextOf(box), shown);
+        Type(box, typed);
+    }
+    RowOf(editor).received.clear();
+    Click(IDOK);
+    EXPECT_EQ(Quorl, Rect(0, 0, 5000, 2000));
+    EXPECT_EQ(Options.border, 11);
+    EXPECT_EQ(Options.maxscroll, 10);
+    EXPECT_EQ(Options.minscroll, 3);
+    EXPECT_EQ(Options.mousescroll, 1);
+    EXPECT_EQ(RowOf(editor).received.size(), 1U) << "one ping: a larger desktop gathers nothing";
+    EXPECT_TRUE(CameInOrder({"UpdateWindow", "SendMessageTimeoutA", "EndDialog"}));
+}
+
+TEST(OptionsRules, NumbersTakenOverAreHeldInTheirLimits) {
+    using InTurn = std::array<int, 6>;
+    const struct {
+        OptionNumbers shown;
+        int minscroll; // so far: the least of the new maxscroll
+        InTurn taken;
+    } cases[] = {
+        {{767, 1023, 1, 50, 200, 0},              5,     {768, 1024, 2, 50, 50, 1}              },
+        {{40000, 50000, 10, 40000, 40000, 40000}, 5,     {40000, 50000, 11, 32000, 32000, 32000}},
+        {{INT_MIN, -1, INT_MAX, 0, 0, -1},        1,     {768, 1024, 11, 1, 1, 1}               },
+        {{2000, 3000, 4, 9, 9, 9},                40000, {2000, 3000, 5, 40000, 9, 9}           },
+    };
+    for (const auto& [shown, minscroll, taken] : cases)
+        EXPECT_EQ(std::bit_cast<InTurn>(AcceptedNumbers(shown, 1024, 768, minscroll)), taken);
 }
 
 TEST_F(OptionsDialog, SpinnersAndHiddenButtonsCountInWholeScreensUpToTheLargestDesktop) {
     constexpr int UP = 5, DOWN = 16; // pixels from the spinner's top
     Open();
+    const RECT edit = PlaceOf(At(HEIGHT));
+    EXPECT_EQ(PlaceOf(At(HEIGHT_SPINNER)), Rect(edit.right, edit.top, edit.right + 15, edit.top + 21));
     TypeAndLeave(HEIGHT, "2000");
     Send(1022);
     EXPECT_EQ(TextOf(HEIGHT), "2304");
@@ -56,42 +94,17 @@ TEST_F(OptionsDialog, SpinnersAndHiddenButtonsCountInWholeScreensUpToTheLargestD
     TypeAndLeave(HEIGHT, "31999");
     PressSpinner(HEIGHT_SPINNER, UP);
     EXPECT_EQ(TextOf(HEIGHT), "32000");
-    EXPECT_EQ(Counted(HEIGHT_SPINNER), 41);
     Type(WIDTH, "9999"); // the focus is still in there
     PressSpinner(WIDTH_SPINNER, DOWN);
     EXPECT_EQ(TextOf(WIDTH), "3072");
-    Send(1025);
-    EXPECT_EQ(TextOf(WIDTH), "2048");
     Send(1024);
-    EXPECT_EQ(TextOf(WIDTH), "3072");
+    EXPECT_EQ(TextOf(WIDTH), "4096");
     TypeAndLeave(WIDTH, "4294967295");
     EXPECT_EQ(TextOf(WIDTH), "0");
-
+    Send(1025);
+    EXPECT_EQ(TextOf(WIDTH), "1024") << "at least one screen";
     Press(VK_ESCAPE);
-    EXPECT_FALSE(IsOpen());
     EXPECT_EQ(Quorl, Rect(0, 0, 4096, 1536));
-}
-
-TEST_F(OptionsDialog, OkTakesOverWhatIsShownAndHoldsEveryWindowInside) {
-    const HWND editor = OpenKnown("editor", {100, 100, 500, 400});
-    Options.minscroll = 10;
-    Open();
-    Desk.trace.clear();
-    Type(WIDTH, "4096");
-    Type(BORDER, "11");
-    Type(MAXSCROLL, "5");
-    Type(MINSCROLL, "3");
-    Type(MOUSESCROLL, "0");
-    Type(HEIGHT, "2000");
-    RowOf(editor).received.clear();
-    Click(IDOK);
-    EXPECT_EQ(Quorl, Rect(0, 0, 4096, 2000));
-    EXPECT_EQ(Options.border, 11);
-    EXPECT_EQ(Options.maxscroll, 10);
-    EXPECT_EQ(Options.minscroll, 3);
-    EXPECT_EQ(Options.mousescroll, 1);
-    EXPECT_EQ(RowOf(editor).received.size(), 1U) << "one ping: a larger desktop gathers nothing";
-    EXPECT_TRUE(CameInOrder({"UpdateWindow", "SendMessageTimeoutA", "EndDialog"}));
 }
 
 TEST_F(OptionsDialog, ASmallerDesktopGathersItsWindowsAndLeavesTheView) {
@@ -108,8 +121,8 @@ TEST_F(OptionsDialog, ASmallerDesktopGathersItsWindowsAndLeavesTheView) {
 TEST_F(OptionsDialog, ADelayIsChosenByItsRadioAndOnlyATimeNeedsANumber) {
     Options.mousescroll_delay = 2; // its radio is hidden and cannot be chosen again
     Open();
+    EXPECT_EQ(TextOf(NOTE), "When mouse scroll actions are used, these items determine how to scroll.");
     Click(AFTER_TIME);
-    EXPECT_TRUE(IsWindowEnabled(At(DELAY_TIME)));
     Type(DELAY_TIME, "70000");
     Click(AFTER_LEFT_CLICK);
     EXPECT_FALSE(IsWindowEnabled(At(DELAY_TIME)));
@@ -121,24 +134,20 @@ TEST_F(OptionsDialog, ADelayIsChosenByItsRadioAndOnlyATimeNeedsANumber) {
 }
 
 TEST_F(OptionsDialog, StoredKindsOfScrollSurviveWhateverTheyAre) {
-    const struct {
-        int kind; // of scroll, and of its delay
-        Ids checked;
-        int bTabStop; // at the first delay
-    } cases[] = {
-        {0,  {BY_MIN, AT_ONCE},             0},
-        {1,  {BY_MAX, AFTER_LEFT_CLICK},    0},
-        {2,  {BY_MOUSE, AFTER_RIGHT_CLICK}, 1}, // hidden, so Tab would find none
-        {3,  {BY_SCREEN, AFTER_TIME},       0},
-        {4,  {},                            1},
-        {-1, {},                            1},
+    const Ids radios[] = {
+        {BY_MIN,            AT_ONCE},
+        {BY_MAX,                 AFTER_LEFT_CLICK},
+        {BY_MOUSE,AFTER_RIGHT_CLICK},
+        {BY_SCREEN,          AFTER_TIME},
+        {}
     };
-    for (const auto& [kind, checked, bTabStop] : cases) {
+    for (const int kind : {0, 1, 2, 3, 4, -1}) {
         Options.mousescroll_type = Options.mousescroll_delay = kind;
         Open();
-        EXPECT_EQ(Checked(), checked) << kind;
+        EXPECT_EQ(Checked(), radios[kind < 0 ? 4 : kind]) << kind;
         EXPECT_EQ(IsWindowEnabled(At(DELAY_TIME)), kind == 3);
-        EXPECT_TRUE(!bTabStop || (RowOf(At(AT_ONCE)).style & WS_TABSTOP)) << kind;
+        EXPECT_EQ(!(RowOf(At(AT_ONCE)).style & WS_TABSTOP), kind == 1 || kind == 3)
+            << "Tab finds the first when none or a hidden one is checked";
         Click(IDOK);
         EXPECT_EQ(Options.mousescroll_type, kind);
         EXPECT_EQ(Options.mousescroll_delay, kind);
@@ -150,13 +159,10 @@ TEST_F(OptionsDialog, WithoutTheHookLibraryTheMouseOptionsAreOffAndStay) {
     Options.mousescroll_delay = 3;
     Open();
     EXPECT_EQ(Checked(), Ids{});
-    for (const int id : {MOUSESCROLL, BY_MAX, BY_MIN, BY_MOUSE, BY_SCREEN, AT_ONCE, AFTER_LEFT_CLICK,
-                         AFTER_RIGHT_CLICK, AFTER_TIME, DELAY_TIME})
-        EXPECT_FALSE(IsWindowEnabled(At(id))) << id;
+    EXPECT_FALSE(IsWindowEnabled(At(MOUSESCROLL)) || IsWindowEnabled(At(DELAY_TIME)));
     EXPECT_EQ(TextOf(NOTE),
               "Mouse scroll options are disabled because quorl.dll is not present or failed to load.");
     Click(IDOK);
-    EXPECT_EQ(Options.mousescroll_delay, 3);
     EXPECT_EQ(Options.mousescroll_delay_time, 100);
 }
 

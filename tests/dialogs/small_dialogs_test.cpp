@@ -1,28 +1,108 @@
-// Opacity, Help and About.
+// Find Window, Find Region, Resize Windows, Transparency, Help and About.
 #include "dialogs/dialog_test.h"
 #include "dialogs/registry.h"
+#include "scroll/scroll_view.h"
 
 namespace {
 
-constexpr int HELP = 56, ABOUT = 57, TRANSPARENCY = 116; // rows
+constexpr int FIND_WINDOW = 52, RESIZE_WINDOWS = 53, HELP = 56, ABOUT = 57, FIND_REGION = 111,
+              TRANSPARENCY = 116;
+// Their controls.
+constexpr int APPLY = 2, HEIGHT = 1000, WIDTH = 1001, LIST = 1041, DESKTOP = 1043, RESIZE_OK = 1044;
 constexpr int SLIDER = 1079, HELP_TEXT = 1068, CONTACT = 1011, PROGRAM = 1072;
 
-using SmallDialogs = DialogTest;
+class SmallDialogs : public DialogTest {
+  protected:
+    Texts Listed() const {
+        Texts texts;
+        for (const DeskRow& row : Kept(LIST).rows)
+            texts.push_back(row.text);
+        return texts;
+    }
+    void Apply(const char* width, const char* height) const {
+        Type(WIDTH, width);
+        Type(HEIGHT, height);
+        Click(APPLY);
+    }
+};
+
+TEST_F(SmallDialogs, FindWindowListsWhatQuorlMayTouchAndBringsTheViewThereUnlessItIsGoneOrHangs) {
+    const HWND untitled = OpenWindow("", {2000, 300, 2400, 500});
+    const HWND gone = OpenWindow("gone", {3000, 300, 3400, 500});
+    const HWND hung = OpenWindow("hung", {3000, 300, 3400, 500});
+    OpenWindow("flat", {0, 0, 100, 0});
+    OpenWindow(std::string(300, 'x').c_str(), {0, 0, 100, 100});
+    Open(FIND_WINDOW);
+    EXPECT_EQ(Listed(), (Texts{"", "gone", "hung", std::string(255, 'x')}));
+    RowOf(hung).answer = DeskAnswer::Hung;
+    KillWindow(gone);
+    for (const int row : {1, 2}) {
+        Choose(LIST, row);
+        EXPECT_EQ(VDesk.left, 0) << "row " << row;
+        EXPECT_EQ(Desk.foreground, dialog);
+    }
+    Desk.fault = {"GetForegroundWindow", 1, 1, 0, 0}; // it has not taken the foreground yet
+    Choose(LIST, 0);
+    EXPECT_EQ(VDesk.left, 2200 - 512);
+    EXPECT_EQ(Desk.foreground, untitled);
+}
+
+TEST_F(SmallDialogs, FindRegionBringsTheViewToTheCornerOfTheChosenOne) {
+    Mark("web", 2048, 100);
+    Mark("far", 32000, 32000);
+    Open(FIND_REGION);
+    EXPECT_EQ(RowOf(dialog).title, "Find Region...");
+    EXPECT_EQ(Listed(), (Texts{"far", "web"}));
+    Choose(LIST, 1);
+    EXPECT_EQ(ViewCorner(), (POINT{2048, 100}));
+    Choose(LIST, 0);
+    EXPECT_EQ(ViewCorner(), (POINT{3072, 768}));
+    Command(51);
+    Choose(LIST, 1);
+    EXPECT_EQ(VDesk.left, 0) << "an unmarked region leads to the desktop's corner, as its hotkey does";
+}
+
+TEST_F(SmallDialogs, ResizeAppliesASizeAtTheCornerOfTheWindowThatWasChosenLast) {
+    const HWND mail = OpenWindow("mail", {500, 100, 800, 300});
+    const HWND web = OpenWindow("web", {0, 0, 100, 100});
+    Quorl.left = -1000;
+    Open(RESIZE_WINDOWS);
+    EXPECT_EQ(TextOf(DESKTOP), "5096x1536");
+    Apply("400", "400"); // none is chosen yet
+    Choose(LIST, 0);
+    EXPECT_EQ(TextOf(WIDTH), "300") << "choosing overwrites what was typed";
+    EXPECT_EQ(TextOf(HEIGHT), "200");
+    Apply("1500", "250");
+    EXPECT_EQ(PlaceOf(mail), Rect(500, 100, 2000, 350));
+    Click(RESIZE_OK);
+    Open(RESIZE_WINDOWS);
+    Apply("600", "100");
+    EXPECT_EQ(PlaceOf(mail), Rect(500, 100, 1100, 200)) << "also before this dialog was opened";
+    KillWindow(web);
+    Choose(LIST, 1);
+    EXPECT_EQ(TextOf(WIDTH), "600") << "a window that is gone has no numbers";
+    RowOf(mail).answer = DeskAnswer::Hung;
+    Choose(LIST, 0);
+    Apply("300", "250");
+    EXPECT_EQ(PlaceOf(mail), Rect(500, 100, 1100, 200)) << "one that hangs keeps its size";
+}
+
+TEST_F(SmallDialogs, KeysEndAllButTransparency) {
+    for (const int row : {FIND_WINDOW, FIND_REGION, HELP, ABOUT, TRANSPARENCY}) {
+        Open(row);
+        Press(VK_RETURN);
+        EXPECT_EQ(IsOpen(), row == TRANSPARENCY) << row;
+    }
+}
 
 TEST_F(SmallDialogs, TheMapFollowsTheSliderAtOnce) {
     Options.alpha = 0x7fffff04; // from a file; only the low 8 bits count
     Open(TRANSPARENCY);
     EXPECT_EQ(Kept(SLIDER).position, 10) << "the least that one can see";
-    for (const int alpha : {120, 255}) {
-        DragSlider(At(SLIDER), alpha);
-        EXPECT_EQ(RowOf(MainWnd).alpha, alpha);
-    }
     EXPECT_EQ(Kept(SLIDER).most, 255);
-    EXPECT_EQ(Options.alpha, 255U);
-    Press(VK_RETURN);
-    EXPECT_TRUE(IsOpen()) << "the dialog is offered no keys";
-    Click(IDOK);
-    EXPECT_FALSE(IsOpen());
+    DragSlider(At(SLIDER), 120);
+    EXPECT_EQ(RowOf(MainWnd).alpha, 120);
+    EXPECT_EQ(Options.alpha, 120U);
 }
 
 TEST_F(SmallDialogs, WhereTheSystemCannotDoItTransparencySaysSoOnce) {
@@ -30,34 +110,25 @@ TEST_F(SmallDialogs, WhereTheSystemCannotDoItTransparencySaysSoOnce) {
     WillAnswer({IDOK});
     Command(TRANSPARENCY);
     Command(TRANSPARENCY);
-    EXPECT_EQ(Desk.boxes.size(), 1U);
     EXPECT_EQ(LastBox(), "Transparency cannot be done on this OS./Blame Microsoft!");
     EXPECT_FALSE(IsWindowVisible(DialogSlots[9].handle));
 }
 
-TEST_F(SmallDialogs, HelpAndAboutShowTheirTextsAndEndByTheirButton) {
-    Open(HELP);
-    EXPECT_NE(TextOf(HELP_TEXT), "");
-    Press(VK_RETURN);
-    EXPECT_FALSE(IsOpen());
+TEST_F(SmallDialogs, AboutHasItsTextsAndHelpKeepsItsMarginsWhenItsSizeChanges) {
     Open(ABOUT);
-    EXPECT_NE(TextOf(PROGRAM), "");
-    EXPECT_NE(TextOf(CONTACT), "");
+    EXPECT_TRUE(TextOf(PROGRAM) != "" && TextOf(CONTACT) != "");
     Press(VK_SPACE); // the focus is on the button
     EXPECT_FALSE(IsOpen());
-}
-
-TEST_F(SmallDialogs, HelpKeepsItsMarginsWhenItsSizeChanges) {
     Open(HELP);
+    EXPECT_NE(TextOf(HELP_TEXT), "");
     MINMAXINFO limits{};
     SendMessageA(dialog, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
     EXPECT_EQ(limits.ptMinTrackSize, (POINT{400, 200}));
     const RECT before = PlaceOf(At(IDOK));
     SendMessageA(dialog, WM_SIZE, 0, MAKELPARAM(700, 500));
-    const RECT after = PlaceOf(At(IDOK));
-    EXPECT_EQ(after, Moved(before, after.left - before.left, after.top - before.top)) << "its size stays";
     const POINT first = OnScreen(dialog, 10, 10), last = OnScreen(dialog, 690, 490);
-    EXPECT_EQ((POINT{after.right, after.bottom}), last);
+    const RECT after = Moved(before, last.x - before.right, last.y - before.bottom);
+    EXPECT_EQ(PlaceOf(At(IDOK)), after);
     EXPECT_EQ(PlaceOf(At(HELP_TEXT)), Rect(first.x, first.y, last.x, after.top - 10));
 }
 

@@ -1,3 +1,4 @@
+// The popup menu, its list and the icon that opens it.
 #include "menus/action_menu.h"
 
 #include "menus/entries.h"
@@ -39,7 +40,7 @@ TEST_F(ActionMenu, ANewUserFindsTenEntriesAtTheCursor) {
 }
 
 TEST_F(ActionMenu, AChoiceRunsItsRowAndTheMenuTellsTheNewValueNextTime) {
-    SetMenu({30, 70, -2});
+    SetMenu({30, 70, -2, NUM_ACTIONS, 0x7fffffff}); // what is no action does not show
     Choose(30);
     EXPECT_EQ(VDesk.left, 1024);
     ASSERT_TRUE(IsWindowVisible(TipWnd));
@@ -58,13 +59,6 @@ TEST_F(ActionMenu, TheRegionsHangBelowTheEntriesAndAChoiceJumps) {
     EXPECT_EQ(LinesOf(MenuOf(menu).items.back().submenu),
               (Lines{"&0 R&&D", "&1 R&&D", "&2 R&&D", "&3 R&&D", "&4 R&&D", "&5 R&&D", "&6 R&&D", "&7 R&&D",
                      "&8 R&&D", "&9 R&&D", "&0 R&&D"}));
-}
-
-TEST_F(ActionMenu, WhatIsNoActionShowsAsALineOrNotAtAll) {
-    SetMenu({0, NUM_ACTIONS, 0x7fffffff, -0x7fffffff}); // a file edited by hand
-    EXPECT_EQ(LinesOf(Choose(0)), (Lines{"Display Quorl menu", "--"}));
-    SetMenu({});
-    EXPECT_EQ(LinesOf(Choose(0)), Lines{});
 }
 
 TEST_F(ActionMenu, WhateverCallFailsTheRestOfTheMenuIsShownOrNothingIs) {
@@ -91,6 +85,30 @@ TEST_F(ActionMenu, TheIconOpensItOnARightPressAndTurnsTheMapOnADoubleClick) {
         EXPECT_EQ(IsWindowVisible(MainWnd), mouse == WM_LBUTTONDBLCLK) << mouse;
     }
     EXPECT_EQ(Desk.shownMenus.size(), 1u) << "on the press alone";
+}
+
+TEST(MenuList, AnEntryGoesInBeforeTheOneAtItsPlaceElseToTheEndUntilTheListIsFull) {
+    SetMenu({54, 59});
+    InsertMenuEntry(0, 1);
+    InsertMenuEntry(3, 2);
+    InsertMenuEntry(99, 3);
+    EXPECT_EQ(Menu(), (Entries{1, 54, 59, 2, 3}));
+    SetMenu(Entries(MAX_MENU_ENTRIES, 7));
+    EXPECT_EQ(AppendMenuEntry(8), 0);
+    EXPECT_EQ(RemoveMenuEntry(7, 0), 1);
+    EXPECT_EQ(AppendMenuEntry(8), 1) << "one place is free again";
+}
+
+TEST(MenuList, AnActionIsRemovedByItsNumberAndALineByItsPlaceAndNeighboursChangePlaces) {
+    SetMenu({54, -2, 59, -2, 0, 54});
+    EXPECT_EQ(RemoveMenuEntry(60, 0) + RemoveMenuEntry(-1, 6), 0);
+    RemoveMenuEntry(54, 5);
+    RemoveMenuEntry(-2, 2);
+    RemoveMenuEntry(0, -1);
+    EXPECT_EQ(Menu(), (Entries{-2, 59, 54}));
+    EXPECT_EQ(SwapMenuEntries(0, 1) + SwapMenuEntries(2, -1), 2);
+    EXPECT_EQ(SwapMenuEntries(0, -1) + SwapMenuEntries(2, 1) + SwapMenuEntries(-1, 1), 0);
+    EXPECT_EQ(Menu(), (Entries{59, 54, -2}));
 }
 
 } // namespace

@@ -32,18 +32,18 @@ TEST_F(ActionsDialog, EachTabShowsItsRowsAndItsOwnBindingOfOneThatStandsInBoth) 
     EXPECT_EQ(TextInList(At(LIST), KEY_RIGHT_SCREEN, 1), "Move one desktop to the right");
     EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "C-A-Right");
     Choose(LIST, KEY_RIGHT_SCREEN);
-    EXPECT_EQ(Checked(), (Ids{ALT, CTRL}));
+    EXPECT_EQ(Checked(), (Numbers{ALT, CTRL}));
     EXPECT_EQ(Kept(KEYS).chosen, KEY_RIGHT);
 
     Choose(TABS, 1);
-    EXPECT_FALSE(IsWindowVisible(At(KEYS)));
+    EXPECT_FALSE(IsWindowVisible(At(KEYS)) || IsWindowVisible(At(WIN)));
     EXPECT_TRUE(IsWindowVisible(At(LEFT)));
     EXPECT_EQ(TextOf(GROUP), "Mouse");
     EXPECT_EQ(Kept(LIST).count, 79);
-    EXPECT_EQ(Checked(), (Ids{ALT, CTRL})) << "flags keep their state over a change of tab";
+    EXPECT_EQ(Checked(), (Numbers{ALT, CTRL})) << "flags keep their state over a change of tab";
     EXPECT_EQ(Binding(MOUSE_RIGHT_SCREEN), "S-W-RB");
     Choose(LIST, MOUSE_RIGHT_SCREEN);
-    EXPECT_EQ(Checked(), (Ids{SHIFT, WIN, RIGHT}));
+    EXPECT_EQ(Checked(), (Numbers{SHIFT, WIN, RIGHT}));
 
     Choose(TABS, 0);
     EXPECT_TRUE(IsWindowVisible(At(KEYS)));
@@ -66,28 +66,25 @@ TEST_F(ActionsDialog, AnAppliedKeyReplacesTheOldOneAtOnceEvenIfItIsRefusedAndCle
     Choose(KEYS, Q);
     WillAnswer({IDOK});
     Click(APPLY);
-    EXPECT_EQ(Desk.boxes.size(), 1U);
     EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "<hotkey undefined>");
     EXPECT_EQ(viewAfter(MOD_CONTROL | MOD_ALT, VK_RIGHT), 0);
 
     Choose(KEYS, F5);
-    Click(SHIFT);
-    Click(CTRL);
-    Click(APPLY);
+    Click(SHIFT, CTRL, APPLY);
     EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "S-A-F5");
     EXPECT_EQ(viewAfter(MOD_SHIFT | MOD_ALT, VK_F1 + 4), 1024);
 
     Click(CLEAR);
-    EXPECT_EQ(Kept(LIST).redrawn, Ids(3, KEY_RIGHT_SCREEN));
+    EXPECT_EQ(Kept(LIST).redrawn, Numbers(3, KEY_RIGHT_SCREEN));
     EXPECT_EQ(viewAfter(MOD_SHIFT | MOD_ALT, VK_F1 + 4), 1024);
 
     ActionTable[5].vk = VK_F1 + 12;
     Choose(LIST, 1);
     EXPECT_EQ(Desk.beeps.size(), 2U) << "F13 has no name";
     EXPECT_EQ(Kept(KEYS).chosen, F5);
-    EXPECT_EQ(Checked(), (Ids{SHIFT, ALT, CTRL}));
+    EXPECT_EQ(Checked(), (Numbers{SHIFT, ALT, CTRL}));
     Choose(LIST, KEY_RIGHT_SCREEN);
-    EXPECT_EQ(Checked(), Ids{});
+    EXPECT_EQ(Checked(), Numbers{});
     Click(APPLY);
     EXPECT_EQ(Desk.beeps.size(), 3U) << "no key";
 }
@@ -96,17 +93,14 @@ TEST_F(ActionsDialog, AMouseCombinationIsStoredAsItIsCheckedAlsoWithoutAButton) 
     Click(WIN); // hidden on the mouse tab, and counts there until a row is selected
     Choose(TABS, 1);
     Choose(LIST, MOUSE_RIGHT_SCREEN);
-    Click(CTRL);
-    Click(LEFT);
-    Click(MIDDLE);
-    Click(APPLY);
+    Click(CTRL, LEFT, MIDDLE, APPLY);
     EXPECT_EQ(Binding(MOUSE_RIGHT_SCREEN), "C-MB");
     Click(CLEAR);
     EXPECT_EQ(Binding(MOUSE_RIGHT_SCREEN), "<mkey undefined>");
     EXPECT_EQ(ActionTable[RIGHT_SCREEN].vk, VK_RIGHT) << "its key stays";
     Choose(LIST, 0);
     Choose(LIST, MOUSE_RIGHT_SCREEN);
-    EXPECT_EQ(Checked(), Ids{});
+    EXPECT_EQ(Checked(), Numbers{});
     EXPECT_TRUE(RowOf(At(LEFT)).style & WS_TABSTOP) << "Tab still finds the buttons";
     Click(APPLY);
     EXPECT_EQ(ActionTable[RIGHT_SCREEN].mouse_btn, 0);
@@ -123,22 +117,17 @@ TEST(BindingText, AKeyReadsAsItIsOfferedButForTabAndF13ToF24) {
 }
 
 TEST(BindingText, ABindingReadsAsItsFlagsAndItsKeyOrButtons) {
-    struct {
-        int mods, key;
-        const char *hotkey, *mouse;
-    } const cases[] = {
-        {UNBOUND, 0,         "<hotkey undefined>", "<mkey undefined>"},
-        {0,       UNBOUND,   "",                   ""                },
-        {0,       VK_F1 + 4, "F5",                 "MBRB"            }, // 116: 64, 32, 16, 4
-        {127,     56,        "S-C-A-W-8",          "S-C-A-W-LBMBRB"  },
-    };
-    for (const auto& [mods, key, hotkey, mouse] : cases) {
+    const auto read = [](int mods, int key) {
         ActionRow row{};
         row.mouse_mods = row.key_mods = mods;
         row.mouse_btn = row.vk = key;
-        EXPECT_STREQ(HotkeyText(row), hotkey) << mods << " " << key;
-        EXPECT_STREQ(MouseText(row), mouse) << mods << " " << key;
-    }
+        const std::string hotkey = HotkeyText(row);
+        return hotkey + " or " + MouseText(row);
+    };
+    EXPECT_EQ(read(UNBOUND, 0), "<hotkey undefined> or <mkey undefined>");
+    EXPECT_EQ(read(0, UNBOUND), " or ");
+    EXPECT_EQ(read(0, VK_F1 + 4), "F5 or MBRB"); // 116: 64, 32, 16, 4
+    EXPECT_EQ(read(127, 56), "S-C-A-W-8 or S-C-A-W-LBMBRB");
 }
 
 } // namespace

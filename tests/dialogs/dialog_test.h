@@ -5,7 +5,7 @@
 
 using Rows = std::vector<DeskRow>;
 using Texts = std::vector<std::string>;
-using Ids = std::vector<int>;
+using Numbers = std::vector<int>;
 
 inline bool operator==(const DeskRow& a, const DeskRow& b) {
     return a.text == b.text && a.data == b.data;
@@ -32,15 +32,18 @@ class DialogTest : public RunningQuorl {
     DeskControl& Kept(int id) const { return RowOf(At(id)).control; }
     const std::string& TextOf(int id) const { return RowOf(At(id)).title; }
     // What is checked, in the order of the template.
-    Ids Checked() const {
-        Ids checked;
+    Numbers Checked() const {
+        Numbers checked;
         for (const HWND control : RowOf(dialog).children)
             if (RowOf(control).control.bChecked)
                 checked.push_back(static_cast<int>(RowOf(control).id));
         return checked;
     }
 
-    void Click(int id) const { ClickControl(At(id)); }
+    template <typename... Buttons>
+    void Click(Buttons... inTurn) const {
+        (ClickControl(At(inTurn)), ...);
+    }
     void Choose(int id, int row) const { ChooseRow(At(id), row); }
     void Type(int id, const char* text) const { TypeInto(At(id), text); }
 

@@ -1,7 +1,5 @@
 // Find Window, Find Region, Resize Windows, Transparency, Help and About.
 #include "dialogs/dialog_test.h"
-#include "dialogs/registry.h"
-#include "scroll/scroll_view.h"
 
 namespace {
 
@@ -103,15 +101,6 @@ TEST_F(SmallDialogs, TheMapFollowsTheSliderAtOnce) {
     DragSlider(At(SLIDER), 120);
     EXPECT_EQ(RowOf(MainWnd).alpha, 120);
     EXPECT_EQ(Options.alpha, 120U);
-}
-
-TEST_F(SmallDialogs, WhereTheSystemCannotDoItTransparencySaysSoOnce) {
-    pSetLayeredWindowAttributes = nullptr;
-    WillAnswer({IDOK});
-    Command(TRANSPARENCY);
-    Command(TRANSPARENCY);
-    EXPECT_EQ(LastBox(), "Transparency cannot be done on this OS./Blame Microsoft!");
-    EXPECT_FALSE(IsWindowVisible(DialogSlots[9].handle));
 }
 
 TEST_F(SmallDialogs, AboutHasItsTextsAndHelpKeepsItsMarginsWhenItsSizeChanges) {

@@ -4,7 +4,6 @@
 #include "support/quorl_test.h"
 
 using Rows = std::vector<DeskRow>;
-using Texts = std::vector<std::string>;
 using Numbers = std::vector<int>;
 
 inline bool operator==(const DeskRow& a, const DeskRow& b) {

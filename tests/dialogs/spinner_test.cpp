@@ -53,6 +53,7 @@ TEST_F(Spinner, StepsStopAtTheLimits) {
     EXPECT_EQ(step(1, DOWN), 0);
     EXPECT_EQ(step(0, DOWN), 0);
     EXPECT_EQ(step(99, UP), 100);
+    EXPECT_EQ(step(100, UP), 100);
     EXPECT_EQ(step(150, UP), 100);
     EXPECT_EQ(step(-5, UP), -4);
 }

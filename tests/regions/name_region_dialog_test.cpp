@@ -58,7 +58,6 @@ TEST_F(NameRegion, ANewRegionIsAddedWithAColourAndItsHotkey) {
     ClickSwatch(); // and thinks better of it
     EXPECT_EQ(Color(), COLORREF{RGB(9, 8, 7)});
     EXPECT_EQ(Desk.colorBoxes.at(1).initial, COLORREF{RGB(9, 8, 7)});
-    EXPECT_EQ(Desk.colorBoxes[1].custom, std::vector<COLORREF>(16, RGB(255, 255, 255)));
     WillAnswer({IDOK});
     Click(IDOK);
     EXPECT_EQ(LastBox(), "That's an invalid name, see./Fix name");

@@ -8,7 +8,7 @@ namespace {
 // Its controls.
 constexpr int SHIFT = 1028, ALT = 1030, CTRL = 1031, WIN = 1036;
 constexpr int RIGHT = 1033, LEFT = 1034, MIDDLE = 1035;
-constexpr int KEYS = 1038, GROUP = 1049, TABS = 1050, LIST = 1051, CLEAR = 1052, APPLY = 1053;
+constexpr int KEYS = 1038, GROUP = 1049, TABS = 1050, LIST = 1051, CLEAR = 1052, APPLY = 1053, WARNING = 1069;
 
 constexpr ActionId RIGHT_SCREEN = 30;
 constexpr int KEY_RIGHT_SCREEN = 25, MOUSE_RIGHT_SCREEN = 21; // its item in each list
@@ -28,6 +28,7 @@ TEST_F(ActionsDialog, EachTabShowsItsRowsAndItsOwnBindingOfOneThatStandsInBoth) 
     Bind(RIGHT_SCREEN, KEY_WIN | KEY_SHIFT, LBUTTON);
     EXPECT_TRUE(IsWindowVisible(dialog));
     EXPECT_EQ(Kept(TABS).rows, (Rows{{"Keyboard Actions"}, {"Mouse Actions"}}));
+    EXPECT_EQ(Kept(LIST).columns.at(1), (DeskRow{"Description", 250}));
     EXPECT_EQ(Kept(KEYS).rows.back(), (DeskRow{"F24", VK_F1 + 23}));
     EXPECT_EQ(TextInList(At(LIST), KEY_RIGHT_SCREEN, 1), "Move one desktop to the right");
     EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "C-A-Right");
@@ -36,7 +37,7 @@ TEST_F(ActionsDialog, EachTabShowsItsRowsAndItsOwnBindingOfOneThatStandsInBoth) 
     EXPECT_EQ(Kept(KEYS).chosen, KEY_RIGHT);
 
     Choose(TABS, 1);
-    EXPECT_FALSE(IsWindowVisible(At(KEYS)) || IsWindowVisible(At(WIN)));
+    EXPECT_FALSE(IsWindowVisible(At(KEYS)) || IsWindowVisible(At(WIN)) || IsWindowVisible(At(WARNING)));
     EXPECT_TRUE(IsWindowVisible(At(LEFT)));
     EXPECT_EQ(TextOf(GROUP), "Mouse");
     EXPECT_EQ(Binding(0), "RB");

@@ -1,8 +1,9 @@
-// Windows of this program that keep what arrives.
+// Windows and dialogs of this program that keep what arrives.
 #include "contract/contract_test.h"
 
 #include <algorithm>
 #include <ostream>
+#include <utility>
 
 std::vector<MSG> Seen;
 std::map<UINT, std::function<LRESULT(const MSG&)>> Replies;
@@ -16,11 +17,17 @@ static LRESULT CALLBACK KeepingProc(HWND window, UINT message, WPARAM wParam, LP
     return reply == Replies.end() ? DefWindowProcA(window, message, wParam, lParam) : reply->second(arrived);
 }
 
+static INT_PTR CALLBACK KeepingDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (Replies.contains(message))
+        return KeepingProc(dialog, message, wParam, lParam);
+    Seen.push_back({dialog, message, wParam, lParam, 0, {}});
+    return FALSE;
+}
+
 void Contract::SetUp() {
     WNDCLASSA description{};
     description.style = CS_HREDRAW | CS_VREDRAW;
     description.lpfnWndProc = KeepingProc;
-    description.hInstance = Instance();
     description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
     description.hbrBackground = GetSysColorBrush(COLOR_BACKGROUND);
     description.lpszClassName = "Contract";
@@ -29,29 +36,49 @@ void Contract::SetUp() {
 
 void Contract::TearDown() {
     Replies.clear();
-    for (const HWND window : Own)
+    for (const HWND window : std::exchange(Own, {}))
         DestroyWindow(window);
-    Own.clear();
     GroundTearDown();
     Handle(50);
     Seen.clear();
 }
 
-Kinds SeenOf(std::initializer_list<UINT> messages) {
-    Kinds found;
+Numbers SeenOf(std::initializer_list<UINT> messages) {
+    Numbers found;
     for (const MSG& arrived : Seen)
         if (std::find(messages.begin(), messages.end(), arrived.message) != messages.end())
             found.push_back(arrived.message);
     return found;
 }
 
+Numbers Told(UINT code) {
+    Numbers controls;
+    for (const MSG& arrived : std::exchange(Seen, {}))
+        if (arrived.message == WM_COMMAND && HIWORD(arrived.wParam) == code)
+            controls.push_back(LOWORD(arrived.wParam));
+    return controls;
+}
+
 HWND OpenOwn(DWORD style, DWORD exStyle, const RECT& place, HWND owner) {
-    const HWND window =
-        CreateWindowExA(exStyle, "Contract", "own", style, place.left, place.top, place.right - place.left,
-                        place.bottom - place.top, owner, nullptr, Instance(), nullptr);
-    if (window)
-        Own.push_back(window);
-    return window;
+    Own.push_back(CreateWindowExA(exStyle, "Contract", "own", style, place.left, place.top,
+                                  place.right - place.left, place.bottom - place.top, owner, nullptr, nullptr,
+                                  nullptr));
+    return Own.back();
+}
+
+HWND OpenTemplate(int id, HWND owner) {
+    Own.push_back(CreateDialogParamA(nullptr, MAKEINTRESOURCEA(id), owner, KeepingDlgProc, 77));
+    EXPECT_NE(Own.back(), nullptr) << id;
+    return Own.back();
+}
+
+HWND ShowTemplate(int id) {
+    const HWND dialog = OpenTemplate(id);
+    ShowWindow(dialog, SW_SHOW);
+    SetForegroundWindow(dialog);
+    Handle(100);
+    Seen.clear();
+    return dialog;
 }
 
 static BOOL CALLBACK Collect(HWND window, LPARAM to) {
@@ -72,10 +99,6 @@ RECT PlaceOf(HWND window) {
     RECT place{};
     EXPECT_TRUE(GetWindowRect(window, &place));
     return place;
-}
-
-RECT Rect(int left, int top, int right, int bottom) {
-    return {left, top, right, bottom};
 }
 
 bool operator==(const RECT& a, const RECT& b) {

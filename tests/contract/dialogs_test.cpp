@@ -1,69 +1,15 @@
-// Dialogs: how they are made, end and own each other; numbers and texts; the keys that work in them.
-#include "contract/dialogs_test.h"
+// Dialogs: how they are made, end and own each other, their keys; what the plain controls keep and tell.
+#include "contract/contract_test.h"
 
-std::vector<Told> News;
-std::map<UINT, std::function<INT_PTR(const MSG&)>> DialogReplies;
+#include <utility>
 
-static std::vector<HWND> Opened;
+namespace {
 
-static INT_PTR CALLBACK KeepingDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_COMMAND)
-        News.push_back({LOWORD(wParam), HIWORD(wParam)});
-    if (message == WM_NOTIFY)
-        News.push_back({static_cast<int>(wParam), reinterpret_cast<const NMHDR*>(lParam)->code});
-    const auto reply = DialogReplies.find(message);
-    return reply == DialogReplies.end() ? 0 : reply->second({dialog, message, wParam, lParam, 0, {}});
-}
+using Dialogs = Contract;
+constexpr WPARAM NONE = static_cast<WPARAM>(-1);
 
-void Dialogs::TearDown() {
-    DialogReplies.clear();
-    for (const HWND dialog : Opened)
-        DestroyWindow(dialog);
-    Opened.clear();
-    Contract::TearDown();
-    News.clear();
-}
-
-HWND OpenTemplate(int id, HWND owner) {
-    const HWND dialog = CreateDialogParamA(Instance(), MAKEINTRESOURCEA(id), owner, KeepingDlgProc, 77);
-    EXPECT_NE(dialog, nullptr) << id;
-    Opened.push_back(dialog);
-    return dialog;
-}
-
-HWND ShowTemplate(int id) {
-    const HWND dialog = OpenTemplate(id);
-    ShowWindow(dialog, SW_SHOW);
-    SetForegroundWindow(dialog);
-    Handle(100);
-    News.clear();
-    return dialog;
-}
-
-Codes CodesOf(int control) {
-    Codes codes;
-    for (const Told& told : News)
-        if (told.control == control)
-            codes.push_back(told.code);
-    News.clear();
-    return codes;
-}
-
-Ids Clicked() {
-    Ids clicked;
-    for (const Told& told : News)
-        if (told.code == BN_CLICKED)
-            clicked.push_back(told.control);
-    News.clear();
-    return clicked;
-}
-
-LRESULT Ask(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam) {
-    return SendDlgItemMessageA(dialog, id, message, wParam, lParam);
-}
-
-LRESULT Ask(HWND dialog, int id, UINT message, WPARAM wParam, const char* text) {
-    return Ask(dialog, id, message, wParam, reinterpret_cast<LPARAM>(text));
+LRESULT Ask(HWND dialog, int id, UINT message, WPARAM wParam = 0, const void* lParam = nullptr) {
+    return SendDlgItemMessageA(dialog, id, message, wParam, reinterpret_cast<LPARAM>(lParam));
 }
 
 std::string TextOf(HWND dialog, int id) {
@@ -72,17 +18,9 @@ std::string TextOf(HWND dialog, int id) {
     return text;
 }
 
-namespace {
-
-// A message as the loop would get it, offered to the dialog.
-BOOL Offer(HWND dialog, HWND to, WPARAM key) {
-    MSG offered{to, WM_KEYDOWN, key, 0, 0, {}};
-    return IsDialogMessageA(dialog, &offered);
-}
-
-TEST_F(Dialogs, AllControlsStandAsTheTemplateHasThemWhenTheDialogIsToldToStart) {
+TEST_F(Dialogs, AllControlsStandAsTheTemplateHasThemWhenOneIsToldToStart) {
     int calls = 0;
-    DialogReplies[WM_INITDIALOG] = [&calls](const MSG& arrived) {
+    Replies[WM_INITDIALOG] = [&calls](const MSG& arrived) {
         const auto style = [&](int id) { return GetWindowLongPtrA(GetDlgItem(arrived.hwnd, id), GWL_STYLE); };
         EXPECT_TRUE(style(1079) & WS_VISIBLE);
         EXPECT_FALSE(style(1022) & WS_VISIBLE) << "its line says NOT WS_VISIBLE";
@@ -97,23 +35,18 @@ TEST_F(Dialogs, AllControlsStandAsTheTemplateHasThemWhenTheDialogIsToldToStart) 
     EXPECT_EQ(Order({dialog, GetDlgItem(dialog, 1)}), std::vector{dialog}) << "controls are not among them";
 }
 
-TEST_F(Dialogs, TheEndOfADialogHidesItAndTheFocusLeavesItsControlFirst) {
-    const HWND owner = OpenOwn(WS_POPUP | WS_VISIBLE);
-    const HWND dialog = OpenTemplate(101, owner);
-    ShowWindow(dialog, SW_SHOW);
-    SetFocus(GetDlgItem(dialog, 1001));
-    Handle(50);
-    News.clear();
-    EXPECT_TRUE(EndDialog(dialog, 2));
-    EXPECT_EQ(CodesOf(1001), Codes{EN_KILLFOCUS});
-    EXPECT_TRUE(IsWindow(dialog));
-    EXPECT_FALSE(IsWindowVisible(dialog));
-    EXPECT_EQ(GetForegroundWindow(), owner);
-}
-
-TEST_F(Dialogs, WhatAWindowOwnsGoesWithItUnlessItWasHandedOver) {
-    const HWND first = OpenOwn();
+TEST_F(Dialogs, TheEndHidesOneWithItsFocusAndWhatAWindowOwnsGoesWithItUnlessItWasHandedOver) {
+    const HWND first = OpenOwn(WS_POPUP | WS_VISIBLE);
     const HWND second = OpenTemplate(101, first);
+    ShowWindow(second, SW_SHOW);
+    SetFocus(GetDlgItem(second, 1001));
+    Handle(50);
+    Seen.clear();
+    EXPECT_TRUE(EndDialog(second, 2));
+    EXPECT_EQ(Told(EN_KILLFOCUS), Numbers{1001});
+    EXPECT_TRUE(IsWindow(second) && !IsWindowVisible(second));
+    EXPECT_EQ(GetForegroundWindow(), first);
+
     const HWND stays = OpenTemplate(107, second);
     const HWND goes = OpenTemplate(106, second);
     EXPECT_EQ(GetParent(stays), second) << "the owner of a pop-up";
@@ -131,7 +64,7 @@ TEST_F(Dialogs, AChildMovesWithItsParentAndIsToldOfTheEndAfterItAndGoneBeforeIt)
     const HWND parent = OpenOwn(WS_POPUP, 0, {100, 100, 300, 300});
     const HWND child = OpenOwn(WS_CHILD | WS_VISIBLE, 0, {10, 20, 15, 21}, parent);
     MoveWindow(parent, 200, 100, 200, 200, FALSE);
-    EXPECT_EQ(PlaceOf(child), Rect(210, 120, 215, 121));
+    EXPECT_EQ(PlaceOf(child), (RECT{210, 120, 215, 121}));
     EXPECT_FALSE(IsWindowVisible(child)) << "the parent is hidden";
     Seen.clear();
     DestroyWindow(parent);
@@ -142,66 +75,110 @@ TEST_F(Dialogs, AChildMovesWithItsParentAndIsToldOfTheEndAfterItAndGoneBeforeIt)
     EXPECT_EQ(ended, (std::vector{parent, child, child, parent}));
 }
 
-TEST_F(Dialogs, NumbersAreReadInThirtyTwoBitsAndAreZeroWhenTheyAreNone) {
-    const HWND dialog = OpenTemplate(101);
-    const struct {
-        const char* text;
-        UINT number;
-        BOOL bRead;
-    } cases[] = {
-        {"768",         768,         TRUE },
-        {"4294967295",  4294967295U, TRUE },
-        {"",            0,           FALSE},
-        {"99999999999", 0,           FALSE},
-    };
-    for (const auto& row : cases) {
-        BOOL bRead = -1;
-        EXPECT_TRUE(SetDlgItemTextA(dialog, 1000, row.text));
-        EXPECT_EQ(GetDlgItemInt(dialog, 1000, &bRead, FALSE), row.number) << row.text;
-        EXPECT_EQ(bRead, row.bRead) << row.text;
-    }
-    EXPECT_TRUE(SetDlgItemInt(dialog, 1001, static_cast<UINT>(-5), FALSE));
-    EXPECT_EQ(TextOf(dialog, 1001), "4294967291");
-    SetDlgItemInt(dialog, 1001, static_cast<UINT>(-5), TRUE);
-    EXPECT_EQ(TextOf(dialog, 1001), "-5");
+// A key as the loop would get it, offered to the dialog.
+BOOL Offer(HWND dialog, HWND to, WPARAM key) {
+    MSG offered{to, WM_KEYDOWN, key, 0, 0, {}};
+    return IsDialogMessageA(dialog, &offered);
 }
 
-TEST_F(Dialogs, KeysOfADialogAreTakenAndThoseOfOthersLeft) {
+TEST_F(Dialogs, KeysOfOneAreTakenAndThoseOfOthersLeftAndClosingMeansCancel) {
     const HWND dialog = ShowTemplate(108);
     const HWND name = GetDlgItem(dialog, 1025);
-    EXPECT_FALSE(Offer(nullptr, name, VK_RETURN));
+    EXPECT_FALSE(Offer(nullptr, name, VK_RETURN) || Offer(dialog, nullptr, VK_RETURN));
     EXPECT_FALSE(Offer(dialog, OpenOwn(), VK_RETURN));
-    EXPECT_FALSE(Offer(dialog, nullptr, VK_RETURN));
-    SetFocus(name);
-    EXPECT_TRUE(Offer(dialog, name, VK_ESCAPE));
+    EXPECT_TRUE(Offer(dialog, name, VK_ESCAPE) && Offer(dialog, name, VK_RETURN));
+    EXPECT_EQ(Told(BN_CLICKED), (Numbers{2, 1}));
+    for (int tab = 0; tab < 2; ++tab)
+        EXPECT_TRUE(Offer(dialog, name, VK_TAB));
     EXPECT_TRUE(Offer(dialog, name, VK_RETURN));
-    EXPECT_EQ(Clicked(), (Ids{2, 1}));
-    EXPECT_TRUE(Offer(dialog, name, VK_TAB));
-    EXPECT_TRUE(Offer(dialog, GetDlgItem(dialog, 1), VK_TAB));
-    EXPECT_TRUE(Offer(dialog, GetDlgItem(dialog, 2), VK_RETURN));
-    EXPECT_EQ(Clicked(), Ids{2}) << "Enter presses the button that has the focus";
-    EXPECT_TRUE(Offer(dialog, GetDlgItem(dialog, 2), VK_TAB)) << "past the disabled one, round the end";
-    EXPECT_FALSE(CodesOf(1025).empty());
-}
-
-TEST_F(Dialogs, ADisabledButtonIsNotPressedByAKeyAndANumberWithoutButtonIsToldAllTheSame) {
-    const HWND find = ShowTemplate(117); // without default button and without a number 2
-    const HWND list = GetDlgItem(find, 1041);
-    EXPECT_TRUE(Offer(find, list, VK_RETURN));
-    EXPECT_TRUE(Offer(find, list, VK_ESCAPE));
-    EXPECT_EQ(Clicked(), (Ids{1, 2}));
-    EnableWindow(GetDlgItem(find, 1), FALSE);
-    EXPECT_TRUE(Offer(find, list, VK_RETURN));
-    EXPECT_EQ(Clicked(), Ids{});
-}
-
-TEST_F(Dialogs, ClosingMeansCancelAndIsPosted) {
-    const HWND dialog = ShowTemplate(113);
+    EXPECT_EQ(Told(BN_CLICKED), Numbers{2}) << "Enter presses the button that has the focus";
     SendMessageA(dialog, WM_CLOSE, 0, 0);
-    EXPECT_EQ(Clicked(), Ids{});
+    EXPECT_EQ(Told(BN_CLICKED), Numbers{}) << "it is posted";
     Handle(20);
-    EXPECT_EQ(Clicked(), Ids{2});
-    EXPECT_TRUE(IsWindowVisible(dialog));
+    EXPECT_EQ(Told(BN_CLICKED), Numbers{2});
+
+    const HWND find = ShowTemplate(117); // without default button and without a number 2
+    EXPECT_TRUE(Offer(find, GetDlgItem(find, 1041), VK_RETURN) &&
+                Offer(find, GetDlgItem(find, 1041), VK_ESCAPE));
+    EXPECT_EQ(Told(BN_CLICKED), (Numbers{1, 2})) << "told all the same";
+    EnableWindow(GetDlgItem(find, 1), FALSE);
+    EXPECT_TRUE(Offer(find, GetDlgItem(find, 1041), VK_RETURN));
+    EXPECT_EQ(Told(BN_CLICKED), Numbers{});
+}
+
+TEST_F(Dialogs, ANumberHas32BitsAndIsZeroWhenItIsNone) {
+    const HWND dialog = OpenTemplate(101);
+    const auto read = [dialog](const char* text) {
+        BOOL bRead = -1;
+        EXPECT_TRUE(SetDlgItemTextA(dialog, 1000, text));
+        const UINT number = GetDlgItemInt(dialog, 1000, &bRead, FALSE);
+        return std::pair(number, bRead);
+    };
+    EXPECT_EQ(read("4294967295"), std::pair(4294967295U, TRUE));
+    EXPECT_EQ(read(""), std::pair(0U, FALSE));
+    EXPECT_EQ(read("99999999999"), std::pair(0U, FALSE));
+    for (const BOOL bSigned : {TRUE, FALSE}) {
+        EXPECT_TRUE(SetDlgItemInt(dialog, 1001, static_cast<UINT>(-5), bSigned));
+        EXPECT_EQ(TextOf(dialog, 1001), bSigned ? "-5" : "4294967291");
+    }
+}
+
+TEST_F(Dialogs, ARadioButtonUnchecksWhatShowsOfItsGroupWhenItIsPressedOnly) {
+    const HWND dialog = ShowTemplate(101);
+    const auto checked = [dialog] {
+        Numbers ids;
+        for (const int id : {1073, 1076, 1079, 1080, 1082})
+            if (IsDlgButtonChecked(dialog, id) == BST_CHECKED)
+                ids.push_back(static_cast<UINT>(id));
+        return ids;
+    };
+    for (const int id : {1073, 1079, 1082}) // the last one is hidden
+        CheckDlgButton(dialog, id, BST_CHECKED);
+    EXPECT_EQ(checked(), (Numbers{1073, 1079, 1082})) << "the program's own check is alone";
+    for (const UINT message : {WM_KEYDOWN, WM_KEYUP})
+        Ask(dialog, 1080, message, VK_SPACE);
+    EXPECT_EQ(checked(), (Numbers{1073, 1080, 1082}));
+    EXPECT_EQ(Told(BN_CLICKED), Numbers{1080});
+
+    // Tab stops at a group's checked button, or at the one that is told to be a stop.
+    const auto style = [dialog] { return GetWindowLongPtrA(GetDlgItem(dialog, 1080), GWL_STYLE); };
+    EXPECT_TRUE(style() & WS_TABSTOP);
+    CheckDlgButton(dialog, 1080, BST_UNCHECKED);
+    EXPECT_FALSE(style() & WS_TABSTOP);
+    SetWindowLongPtrA(GetDlgItem(dialog, 1080), GWL_STYLE, style() | WS_TABSTOP);
+    EXPECT_TRUE(style() & WS_TABSTOP);
+}
+
+TEST_F(Dialogs, AListTellsWhereARowWentKeepsItsNumberAndFindsWholeTexts) {
+    constexpr int SORTED = 1062, PLAIN = 1061, DROP_DOWN = 1038;
+    const HWND dialog = ShowTemplate(116);
+    EXPECT_EQ(Ask(dialog, SORTED, LB_ADDSTRING, 0, "pear"), 0);
+    EXPECT_NE(Ask(dialog, SORTED, LB_SETITEMDATA, 0, reinterpret_cast<const void*>(7)), LB_ERR);
+    EXPECT_EQ(Ask(dialog, SORTED, LB_ADDSTRING, 0, "Apple"), 0);
+    EXPECT_EQ(Ask(dialog, SORTED, LB_ADDSTRING, 0, "orange"), 1);
+    EXPECT_EQ(Ask(dialog, SORTED, LB_GETITEMDATA, 2), 7);
+    EXPECT_EQ(Ask(dialog, SORTED, LB_GETITEMDATA, 3), LB_ERR);
+    EXPECT_EQ(Ask(dialog, SORTED, LB_GETCURSEL), LB_ERR);
+    EXPECT_EQ(Ask(dialog, SORTED, LB_SETCURSEL, 2), 2);
+    EXPECT_EQ(Ask(dialog, SORTED, LB_SETCURSEL, 3), LB_ERR);
+    EXPECT_EQ(Ask(dialog, SORTED, LB_GETCURSEL), 2);
+    Ask(dialog, SORTED, LB_RESETCONTENT);
+    EXPECT_EQ(Ask(dialog, SORTED, LB_GETCURSEL), LB_ERR);
+    EXPECT_EQ(Ask(dialog, PLAIN, LB_ADDSTRING, 0, "b"), 0);
+    EXPECT_EQ(Ask(dialog, PLAIN, LB_ADDSTRING, 0, "a"), 1) << "one that does not sort appends";
+    SetFocus(GetDlgItem(dialog, 10));
+    Seen.clear();
+    SetFocus(GetDlgItem(dialog, PLAIN));
+    EXPECT_EQ(Told(LBN_SETFOCUS), Numbers{PLAIN}) << "without LBS_NOTIFY, too";
+
+    const HWND actions = OpenTemplate(113);
+    for (const char* text : {"Left", "F1", "F10"})
+        Ask(actions, DROP_DOWN, CB_INSERTSTRING, NONE, text);
+    EXPECT_EQ(Ask(actions, DROP_DOWN, CB_FINDSTRINGEXACT, NONE, "f10"), 2);
+    EXPECT_EQ(Ask(actions, DROP_DOWN, CB_FINDSTRINGEXACT, NONE, "F"), CB_ERR);
+    EXPECT_EQ(Ask(actions, DROP_DOWN, CB_SETCURSEL, 1), 1);
+    EXPECT_EQ(Ask(actions, DROP_DOWN, CB_SETCURSEL, NONE), CB_ERR);
+    EXPECT_EQ(Ask(actions, DROP_DOWN, CB_GETCURSEL), CB_ERR);
 }
 
 } // namespace

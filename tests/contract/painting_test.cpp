@@ -1,11 +1,13 @@
-// What waits to be painted, and texts.
+// What waits to be painted; which pixels a line or a rectangle takes, and which it leaves to its neighbour;
+// texts.
 #include "contract/contract_test.h"
-
-#include <cstring>
 
 namespace {
 
 const RECT NOWHERE{};
+constexpr COLORREF BLACK = 0;
+constexpr COLORREF WHITE = 0xffffff;
+constexpr COLORREF RED = 0x0000ff;
 
 class Painting : public Contract {
   protected:
@@ -41,6 +43,8 @@ class Painting : public Contract {
         UpdateWindow(window);
         return area;
     }
+
+    COLORREF At(int x, int y) const { return GetPixel(context, x, y); }
 };
 
 TEST_F(Painting, InvalidPartsAddUpAndAreErasedInsideBeginPaintWhenOneOfThemAsks) {
@@ -49,12 +53,11 @@ TEST_F(Painting, InvalidPartsAddUpAndAreErasedInsideBeginPaintWhenOneOfThemAsks)
     InvalidateRect(window, &first, FALSE);
     EXPECT_TRUE(Seen.empty()) << "to be invalid is only a note";
     EXPECT_EQ(Painted(), first);
-    EXPECT_EQ(SeenOf({WM_PAINT, WM_ERASEBKGND}), Kinds{WM_PAINT});
-
+    EXPECT_EQ(SeenOf({WM_PAINT, WM_ERASEBKGND}), Numbers{WM_PAINT});
     InvalidateRect(window, &first, TRUE);
     InvalidateRect(window, &second, FALSE);
-    EXPECT_EQ(Painted(), Rect(10, 5, 50, 25));
-    EXPECT_EQ(SeenOf({WM_PAINT, WM_ERASEBKGND}), (Kinds{WM_PAINT, WM_ERASEBKGND}));
+    EXPECT_EQ(Painted(), (RECT{10, 5, 50, 25}));
+    EXPECT_EQ(SeenOf({WM_PAINT, WM_ERASEBKGND}), (Numbers{WM_PAINT, WM_ERASEBKGND}));
     EXPECT_EQ(Painted(), NOWHERE) << "nothing is invalid any more";
 }
 
@@ -62,37 +65,72 @@ TEST_F(Painting, AWindowIsPaintedWhenItShowsAndAtAnotherSizeButNotAtAnotherPlace
     ShowWindow(window, SW_HIDE);
     InvalidateRect(window, nullptr, TRUE);
     EXPECT_EQ(Painted(), NOWHERE);
-    Handle(30);
-    EXPECT_EQ(area, NOWHERE);
     ShowWindow(window, SW_SHOWNOACTIVATE);
-    EXPECT_EQ(Painted(), Rect(0, 0, 200, 100));
+    EXPECT_EQ(Painted(), (RECT{0, 0, 200, 100}));
     MoveWindow(window, 150, 120, 200, 100, TRUE);
     EXPECT_EQ(Painted(), NOWHERE) << "the picture moves along";
     MoveWindow(window, 150, 120, 250, 100, TRUE);
-    EXPECT_EQ(Painted(), Rect(0, 0, 250, 100));
+    EXPECT_EQ(Painted(), (RECT{0, 0, 250, 100}));
 }
 
-TEST_F(Painting, ATextHasTheExtentOfItsCharactersAndAnEmptyOneNone) {
+TEST_F(Painting, ARectangleAndALineLeaveTheirFarEndsOutAndTheMixInvertsBlackOnWhite) {
+    ASSERT_TRUE(Rectangle(context, -1, -1, 100, 100)); // white all over
+    const HBRUSH brush = CreateSolidBrush(RED);
+    const HGDIOBJ white = SelectObject(context, brush);
+    ASSERT_TRUE(Rectangle(context, 10, 10, 20, 20));
+    SelectObject(context, white);
+    EXPECT_TRUE(DeleteObject(brush));
+    EXPECT_EQ(At(10, 10), BLACK);
+    EXPECT_EQ(At(19, 19), BLACK);
+    EXPECT_EQ(At(15, 15), RED);
+    EXPECT_EQ(At(20, 20), WHITE);
+    EXPECT_EQ(At(9, 15), WHITE);
+
+    const auto drawLine = [this] { return MoveToEx(context, 5, 5, nullptr) && LineTo(context, 15, 5); };
+    EXPECT_EQ(SetROP2(context, R2_MERGEPENNOT), R2_COPYPEN);
+    EXPECT_TRUE(drawLine());
+    EXPECT_EQ(At(5, 5), BLACK);
+    EXPECT_EQ(At(14, 5), BLACK);
+    EXPECT_EQ(At(15, 5), WHITE);
+    EXPECT_TRUE(drawLine());
+    EXPECT_EQ(At(10, 5), WHITE) << "and back";
+    EXPECT_EQ(SetROP2(context, R2_COPYPEN), R2_MERGEPENNOT);
+    const HPEN pen = CreatePen(PS_SOLID, 1, RED);
+    const HGDIOBJ black = SelectObject(context, pen);
+    EXPECT_TRUE(drawLine());
+    SelectObject(context, black);
+    EXPECT_TRUE(DeleteObject(pen));
+    EXPECT_EQ(At(10, 5), RED);
+}
+
+TEST_F(Painting, AFocusRectangleTakesEverySecondPixelAndASecondOneTakesItBack) {
+    const RECT box{10, 10, 30, 20};
+    ASSERT_TRUE(Rectangle(context, -1, -1, 100, 100));
+    ASSERT_TRUE(DrawFocusRect(context, &box));
+    EXPECT_NE(At(14, 10), At(15, 10));
+    EXPECT_NE(At(29, 14), At(29, 15));
+    EXPECT_EQ(At(30, 14), WHITE);
+    EXPECT_EQ(At(15, 15), WHITE) << "no inside";
+    ASSERT_TRUE(DrawFocusRect(context, &box));
+    for (int x = 9; x <= 30; ++x)
+        EXPECT_EQ(At(x, 10), WHITE) << x;
+}
+
+TEST_F(Painting, ATextHasTheExtentOfItsCharactersAndEndsInAnEllipsisWhenThatIsTooMuch) {
     SIZE none{9, 9}, one{}, four{};
     EXPECT_TRUE(GetTextExtentPoint32A(context, "", 0, &none));
     EXPECT_TRUE(GetTextExtentPoint32A(context, "H", 1, &one));
     EXPECT_TRUE(GetTextExtentPoint32A(context, "HHHH", 4, &four));
     EXPECT_TRUE(none.cx == 0 && none.cy == 0);
     EXPECT_TRUE(one.cy > 5 && four.cx == 4 * one.cx);
-}
 
-TEST_F(Painting, ATextTooLongForItsPlaceEndsInAnEllipsisAlsoInItsStore) {
-    char texts[][128] = {"Hi & so", "HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHH"};
-    for (char(&text)[128] : texts) {
-        RECT rect{2, 0, 180, 16};
-        EXPECT_GT(DrawTextExA(context, text, static_cast<int>(std::strlen(text)), &rect,
-                              DT_WORDBREAK | DT_NOPREFIX | DT_END_ELLIPSIS | DT_MODIFYSTRING, nullptr),
-                  5);
-    }
-    EXPECT_STREQ(texts[0], "Hi & so");
-    const std::string drawn = texts[1];
-    EXPECT_TRUE(drawn.size() > 8 && drawn.size() < 60) << drawn;
-    EXPECT_TRUE(drawn.ends_with("H...")) << drawn;
+    char text[128] = "HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHH";
+    const std::string all = text;
+    RECT rect{2, 0, 180, 16};
+    constexpr UINT format = DT_WORDBREAK | DT_NOPREFIX | DT_END_ELLIPSIS | DT_MODIFYSTRING;
+    EXPECT_GT(DrawTextExA(context, text, static_cast<int>(all.size()), &rect, format, nullptr), 5);
+    const std::string drawn = text;
+    EXPECT_TRUE(drawn.size() > 8 && drawn.size() < all.size() && drawn.ends_with("H...")) << drawn;
 }
 
 } // namespace

@@ -1,19 +1,45 @@
-// Creation and end of windows, enumeration, look-up, texts; the icons of the notification area.
+// Windows: their creation and end, order and titles, where they stand and whether they show; the icons of the
+// notification area.
 #include "contract/contract_test.h"
 
 namespace {
 
 using Windows = Contract;
 
-TEST_F(Windows, CreationAsksForLimitsThenAnnouncesTheWindowThenItsPlace) {
+TEST_F(Windows, CreationAsksForLimitsThenAnnouncesTheWindowThenItsPlaceAndMovesTellWhatIsNew) {
     HWND inside = nullptr;
     Replies[WM_CREATE] = [&inside](const MSG& arrived) {
         inside = arrived.hwnd;
         return 0;
     };
-    EXPECT_EQ(OpenOwn(WS_POPUP | WS_THICKFRAME), inside) << "WM_CREATE arrives before the call returns";
+    Replies[WM_GETMINMAXINFO] = [](const MSG& arrived) {
+        auto& limits = *reinterpret_cast<MINMAXINFO*>(arrived.lParam);
+        limits.ptMinTrackSize = {40, 13};
+        limits.ptMaxTrackSize = {2000, 1500};
+        return 0;
+    };
+    const HWND sizable = OpenOwn(WS_POPUP | WS_THICKFRAME);
+    EXPECT_EQ(sizable, inside) << "WM_CREATE arrives before the call returns";
     EXPECT_EQ(SeenOf({WM_GETMINMAXINFO, WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE}),
-              (Kinds{WM_GETMINMAXINFO, WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE}));
+              (Numbers{WM_GETMINMAXINFO, WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE}));
+    MoveWindow(sizable, 10, 20, 3000, 4000, TRUE);
+    EXPECT_EQ(PlaceOf(sizable), (RECT{10, 20, 2010, 1520}));
+    MoveWindow(sizable, 10, 20, 1, -5, TRUE);
+    EXPECT_EQ(PlaceOf(sizable), (RECT{10, 20, 50, 33}));
+
+    const HWND fixed = OpenOwn(); // without a sizing frame nobody asks
+    const auto heard = [fixed](int x, int y, int width, int height) {
+        Seen.clear();
+        MoveWindow(fixed, x, y, width, height, TRUE);
+        EXPECT_EQ(PlaceOf(fixed), (RECT{x, y, x + width, y + height}));
+        return SeenOf({WM_GETMINMAXINFO, WM_MOVE, WM_SIZE});
+    };
+    EXPECT_EQ(heard(100, 120, 300, 200), Numbers{});
+    EXPECT_EQ(heard(110, 120, 300, 200), Numbers{WM_MOVE});
+    EXPECT_EQ(Seen.back().lParam, MAKELPARAM(110, 120));
+    EXPECT_EQ(heard(110, 120, 3100, 5), Numbers{WM_SIZE});
+    EXPECT_EQ(Seen.back().lParam, MAKELPARAM(3100, 5));
+    EXPECT_EQ(heard(0, 0, 40, 40), (Numbers{WM_MOVE, WM_SIZE}));
 }
 
 TEST_F(Windows, WhatIsGoneAnswersNoToEverything) {
@@ -21,23 +47,17 @@ TEST_F(Windows, WhatIsGoneAnswersNoToEverything) {
     DestroyWindow(gone);
     char text[8] = "x";
     RECT place = PLACE;
-    EXPECT_FALSE(IsWindow(gone) || IsWindow(nullptr));
-    EXPECT_FALSE(IsWindowVisible(gone));
-    EXPECT_FALSE(IsWindowEnabled(gone) || IsWindowEnabled(nullptr));
-    EXPECT_FALSE(IsIconic(gone) || IsZoomed(gone));
+    EXPECT_FALSE(IsWindow(gone) || IsWindowVisible(gone) || IsWindowEnabled(gone));
+    EXPECT_FALSE(IsIconic(gone) || IsZoomed(gone) || IsWindow(nullptr) || IsWindowEnabled(nullptr));
     EXPECT_FALSE(GetWindowRect(gone, &place));
     EXPECT_EQ(place, PLACE) << "what was in the record stays";
-    EXPECT_FALSE(MoveWindow(gone, 0, 0, 10, 10, TRUE));
-    EXPECT_FALSE(ShowWindow(gone, SW_SHOW));
-    EXPECT_FALSE(SetForegroundWindow(gone));
-    EXPECT_FALSE(DestroyWindow(gone));
+    EXPECT_FALSE(MoveWindow(gone, 0, 0, 10, 10, TRUE) || ShowWindow(gone, SW_SHOW));
+    EXPECT_FALSE(SetForegroundWindow(gone) || DestroyWindow(gone));
     EXPECT_EQ(GetClassNameA(gone, text, sizeof text), 0);
     EXPECT_EQ(GetWindowTextA(gone, text, sizeof text), 0);
     EXPECT_STREQ(text, "") << "a text that is not to be had is emptied";
-    EXPECT_EQ(SendMessageA(gone, WM_USER, 0, 0), 0);
-    EXPECT_FALSE(PostMessageA(gone, WM_USER, 0, 0));
-    EXPECT_EQ(GetParent(nullptr), nullptr);
-    EXPECT_EQ(GetWindowLongPtrA(nullptr, GWL_STYLE), 0);
+    EXPECT_FALSE(SendMessageA(gone, WM_USER, 0, 0) || PostMessageA(gone, WM_USER, 0, 0));
+    EXPECT_FALSE(GetParent(nullptr) || GetWindowLongPtrA(nullptr, GWL_STYLE));
 }
 
 TEST_F(Windows, EnumerationGoesFromTheTopAndTellsHiddenOnesToo) {
@@ -54,9 +74,8 @@ TEST_F(Windows, EnumerationGoesFromTheTopAndTellsHiddenOnesToo) {
     EXPECT_TRUE(GetWindowLongPtrA(owned, GWL_EXSTYLE) & WS_EX_TOPMOST);
 }
 
-TEST_F(Windows, AWindowIsFoundByItsWholeTitleInAnyCaseAndTextsAreCutAtTheLimit) {
+TEST_F(Windows, OneIsFoundByItsWholeTitleInAnyCaseAndTextsAreCutAtTheLimit) {
     const HWND own = OpenOwn();
-    EXPECT_EQ(FindWindowA("Contract", "a-long-title"), nullptr);
     EXPECT_TRUE(SetWindowTextA(own, "a-long-title"));
     EXPECT_EQ(FindWindowA("contract", "A-Long-Title"), own);
     EXPECT_EQ(FindWindowA("Contract", "a-long"), nullptr);
@@ -69,15 +88,35 @@ TEST_F(Windows, AWindowIsFoundByItsWholeTitleInAnyCaseAndTextsAreCutAtTheLimit) 
     }
 }
 
-TEST_F(Windows, OnlyALayeredWindowTakesAnOpacity) {
-    EXPECT_TRUE(SetLayeredWindowAttributes(OpenOwn(WS_POPUP, WS_EX_LAYERED), 0, 128, LWA_ALPHA));
-    EXPECT_FALSE(SetLayeredWindowAttributes(OpenOwn(), 0, 128, LWA_ALPHA));
+TEST_F(Windows, ShowTellsWhetherItWasVisibleAndActivatesOnlyWhatWasHidden) {
+    const HWND other = OpenOwn(WS_POPUP | WS_VISIBLE);
+    const HWND window = OpenOwn();
+    EXPECT_FALSE(ShowWindow(window, SW_SHOWNOACTIVATE));
+    EXPECT_TRUE(ShowWindow(window, SW_SHOW));
+    EXPECT_EQ(GetForegroundWindow(), other) << "it showed already";
+    EXPECT_TRUE(ShowWindow(window, SW_HIDE));
+    EXPECT_FALSE(IsWindowVisible(window) || ShowWindow(window, SW_SHOW));
+    EXPECT_TRUE(IsWindowVisible(window));
+    EXPECT_EQ(GetForegroundWindow(), window);
+    EXPECT_TRUE(ShowWindow(window, SW_HIDE));
+    EXPECT_EQ(GetForegroundWindow(), other) << "the next in sight";
 }
 
-TEST_F(Windows, AnIconStandsInTheNotificationAreaOnce) {
+TEST_F(Windows, UnderAPointLiesTheTopmostVisibleOneWithoutItsFarSides) {
+    const HWND lower = OpenOwn(WS_POPUP | WS_VISIBLE, WS_EX_TOPMOST, {200, 200, 400, 400});
+    const HWND upper = OpenOwn(WS_POPUP | WS_VISIBLE, WS_EX_TOPMOST, {300, 300, 500, 500}, lower);
+    EXPECT_EQ(WindowFromPoint({350, 350}), upper);
+    EXPECT_EQ(WindowFromPoint({499, 499}), upper);
+    EXPECT_NE(WindowFromPoint({500, 499}), upper);
+    ShowWindow(upper, SW_HIDE);
+    EXPECT_EQ(WindowFromPoint({350, 350}), lower);
+}
+
+TEST_F(Windows, OnlyALayeredOneTakesAnOpacityAndAnIconStandsInTheNotificationAreaOnce) {
+    EXPECT_TRUE(SetLayeredWindowAttributes(OpenOwn(WS_POPUP, WS_EX_LAYERED), 0, 128, LWA_ALPHA));
+    EXPECT_FALSE(SetLayeredWindowAttributes(OpenOwn(), 0, 128, LWA_ALPHA));
     NOTIFYICONDATAA icon{};
     icon.cbSize = NOTIFYICONDATAA_V1_SIZE;
-    EXPECT_EQ(icon.cbSize, sizeof(void*) == 4 ? 88u : 104u);
     icon.hWnd = OpenOwn();
     icon.uID = 1125;
     icon.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;

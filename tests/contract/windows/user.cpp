@@ -1,5 +1,13 @@
-// The user's mouse on Windows.
+// The user of Windows: real keys and a real mouse.
 #include "contract/ground.h"
+
+void HoldKey(int key, int bDown) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = static_cast<WORD>(key);
+    input.ki.dwFlags = bDown ? 0 : KEYEVENTF_KEYUP;
+    SendInput(1, &input, sizeof input);
+}
 
 static void Send(LONG x, LONG y, DWORD flags) {
     INPUT input{};
@@ -21,6 +29,6 @@ void MoveMouse(int x, int y) {
 void PressMouse(int button, int bDown) {
     if (button == VK_LBUTTON)
         Send(0, 0, bDown ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP);
-    if (button == VK_RBUTTON)
+    else
         Send(0, 0, bDown ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_RIGHTUP);
 }

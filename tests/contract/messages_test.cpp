@@ -62,6 +62,7 @@ void CALLBACK KeepTick(HWND, UINT, UINT_PTR id, DWORD) {
 
 TEST_F(Messages, ATimerCallsBackOrTellsItsWindowAndEndsWithItOrWhenItIsKilled) {
     const HWND window = OpenOwn();
+    SetTimer(window, 2, 60000, KeepTick);
     SetTimer(window, 1, 200, KeepTick);
     Handle(120);
     EXPECT_NE(SetTimer(window, 1, 200, KeepTick), 0U);
@@ -76,6 +77,7 @@ TEST_F(Messages, ATimerCallsBackOrTellsItsWindowAndEndsWithItOrWhenItIsKilled) {
     EXPECT_EQ(Seen.back().wParam, 1U);
     EXPECT_TRUE(KillTimer(window, 1));
     EXPECT_FALSE(KillTimer(window, 1));
+    EXPECT_TRUE(KillTimer(window, 2)) << "each number has its own";
     SetTimer(window, 2, 20, KeepTick);
     DestroyWindow(window);
     Handle(50);

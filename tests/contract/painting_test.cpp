@@ -116,6 +116,11 @@ TEST_F(Painting, AFocusRectangleTakesEverySecondPixelAndASecondOneTakesItBack) {
         EXPECT_EQ(At(x, 10), WHITE) << x;
 }
 
+TEST_F(Painting, ADisplayThatIsNotScaledHas96PixelsAnInch) {
+    EXPECT_EQ(GetDeviceCaps(context, LOGPIXELSX), 96);
+    EXPECT_EQ(GetDeviceCaps(nullptr, LOGPIXELSX), 0);
+}
+
 TEST_F(Painting, ATextHasTheExtentOfItsCharactersAndEndsInAnEllipsisWhenThatIsTooMuch) {
     SIZE none{9, 9}, one{}, four{};
     EXPECT_TRUE(GetTextExtentPoint32A(context, "", 0, &none));

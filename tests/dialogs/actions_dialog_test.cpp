@@ -53,6 +53,9 @@ TEST_F(ActionsDialog, EachTabShowsItsRowsAndItsOwnBindingOfOneThatStandsInBoth) 
     EXPECT_EQ(Kept(LIST).count, 103);
     Press(VK_ESCAPE);
     EXPECT_FALSE(IsOpen());
+    Desk.pixelsPerInch = 144;
+    Open(55);
+    EXPECT_EQ(Kept(LIST).columns.at(0), (DeskRow{"ActionKeys", 180})) << "on a scaled display";
 }
 
 TEST_F(ActionsDialog, AnAppliedKeyReplacesTheOldOneAtOnceEvenIfItIsRefusedAndClearReleasesIt) {

@@ -29,7 +29,7 @@ class Map : public RunningQuorl {
         RunningQuorl::SetUp();
         RowOf(MainWnd).place = {100, 100, 308, 183}; // the map itself is 200 by 75
         RowOf(dialog).owner = owner;
-        VDesk = {1024, 0, 2048, 768};
+        VDesk = {1024, 768, 2048, 1536};
         Desk.foreground = dialog;
     }
 
@@ -46,7 +46,7 @@ class Map : public RunningQuorl {
 
 TEST_F(Map, PaintsBackgroundRegionsWindowsAndViewInThisOrder) {
     ShowWindow(OpenKnown("minimized", {0, 0, 500, 500}), SW_MINIMIZE);
-    RowOf(owner).place = {-1024, 768, 0, 1536}; // has moved since the table was built
+    RowOf(owner).place = {0, 0, 1024, 768}; // has moved since the table was built
     RegionTable[0] = {0, "home", 1024, 768, 5, 5, 0x123456};
     num_regions = 1;
 
@@ -54,15 +54,15 @@ TEST_F(Map, PaintsBackgroundRegionsWindowsAndViewInThisOrder) {
     EXPECT_EQ(Painted(), (Strokes{
                              "Rectangle (0, 0, 200, 75) solid1 0",
                              "Rectangle (50, 37, 100, 74) solid1 0 fill 1193046",
-                             "LineTo (54, 2, 79, 2) solid2 255",
-                             "LineTo (79, 2, 79, 20) solid2 255",
-                             "LineTo (79, 20, 54, 20) solid2 255",
-                             "LineTo (54, 20, 54, 2) solid2 255",
-                             "DrawFocusRect (0, 37, 50, 74)",
-                             "LineTo (50, 0, 100, 0) dotted1 0 inverting",
-                             "LineTo (100, 0, 100, 37) dotted1 0 inverting",
-                             "LineTo (100, 37, 50, 37) dotted1 0 inverting",
-                             "LineTo (50, 37, 50, 0) dotted1 0 inverting",
+                             "LineTo (54, 39, 79, 39) solid2 255",
+                             "LineTo (79, 39, 79, 57) solid2 255",
+                             "LineTo (79, 57, 54, 57) solid2 255",
+                             "LineTo (54, 57, 54, 39) solid2 255",
+                             "DrawFocusRect (50, 37, 100, 74)",
+                             "LineTo (50, 37, 100, 37) dotted1 0 inverting",
+                             "LineTo (100, 37, 100, 74) dotted1 0 inverting",
+                             "LineTo (100, 74, 50, 74) dotted1 0 inverting",
+                             "LineTo (50, 74, 50, 37) dotted1 0 inverting",
                          }));
     EXPECT_EQ(LiveObjects(), objects);
     EXPECT_EQ(LiveContexts() + Desk.deletedInUse, 0);
@@ -71,13 +71,13 @@ TEST_F(Map, PaintsBackgroundRegionsWindowsAndViewInThisOrder) {
 TEST_F(Map, ADialogPulsesFromTheFirstPaintOnWhileItsOwnerIsDisabled) {
     const std::size_t timers = Desk.timers.size();
     EnableWindow(owner, FALSE);
-    EXPECT_EQ(Painted().at(1), "LineTo (54, 2, 79, 2) solid2 50") << "the second paint";
+    EXPECT_EQ(Painted().at(1), "LineTo (54, 39, 79, 39) solid2 50") << "the second paint";
     Desk.strokes.clear();
     Wait(50);
     EXPECT_EQ(Desk.strokes.at(1).pen.color, 75U) << "the timer repaints";
-    EXPECT_EQ(Desk.strokes.at(1).clip, Rect(54, 2, 79, 20)) << "its box alone";
+    EXPECT_EQ(Desk.strokes.at(1).clip, Rect(54, 39, 79, 57)) << "its box alone";
     EnableWindow(owner, TRUE);
-    EXPECT_EQ(Painted().at(1), "LineTo (54, 2, 79, 2) solid2 255");
+    EXPECT_EQ(Painted().at(1), "LineTo (54, 39, 79, 39) solid2 255");
     EXPECT_EQ(Desk.timers.size(), timers);
 }
 

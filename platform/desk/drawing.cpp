@@ -238,7 +238,7 @@ int SetBkMode(HDC context, int mode) {
 
 // An empty text has no height.
 BOOL GetTextExtentPoint32A(HDC context, LPCSTR, int length, SIZE* extent) {
-    if (Fails("GetTextExtentPoint32A") || !context)
+    if (Fails("GetTextExtentPoint32A") || !ContextOf(context))
         return FALSE;
     *extent = {CHARACTER.cx * length, length > 0 ? CHARACTER.cy : 0};
     return TRUE;

@@ -94,6 +94,9 @@ TEST_F(OptionsDialog, ASmallerDesktopGathersItsWindowsAndLeavesTheView) {
     Command(30);
     const HWND editor = OpenWindow("editor", {1500, 200, 1800, 400});
     Open(ITSELF);
+    Click(IDOK);
+    EXPECT_EQ(PlaceOf(editor).left, 1500) << "the desktop is as large as before";
+    Open(ITSELF);
     Type(WIDTH, "2048");
     Click(IDOK);
     EXPECT_EQ(PlaceOf(editor), Rect(476, 200, 776, 400));

@@ -78,6 +78,7 @@ TEST_F(SmallDialogs, ResizeAppliesASizeAtTheCornerOfTheWindowThatWasChosenLast) 
 TEST_F(SmallDialogs, KeysEndAllButTransparency) {
     for (const int row : {FIND_WINDOW, FIND_REGION, HELP, ABOUT, TRANSPARENCY}) {
         Open(row);
+        EXPECT_NE(Desk.focus, dialog) << row;
         Press(VK_RETURN);
         EXPECT_EQ(IsOpen(), row == TRANSPARENCY) << row;
     }

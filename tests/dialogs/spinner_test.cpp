@@ -65,8 +65,18 @@ TEST_F(Spinner, IsDrawnAsTwoButtonsWithAnArrowEachOfWhichTheHeldOneIsSunken) {
     ASSERT_EQ(Desk.strokes.size(), 4U);
     EXPECT_EQ(Desk.strokes[0].rect, Rect(0, 0, 15, 10));
     EXPECT_EQ(Desk.strokes[0].format & 255, UINT{EDGE_RAISED});
-    EXPECT_EQ(Desk.strokes[1].points.at(0), (POINT{7, 3})) << "the tip of the arrow";
-    EXPECT_EQ(Desk.strokes[2].points.at(0), (POINT{7, 17}));
+    EXPECT_EQ(Desk.strokes[1].points, (std::vector<POINT>{
+                                          {7,  3},
+                                          {5,  6},
+                                          {10, 6},
+                                          {8,  3}
+    }));
+    EXPECT_EQ(Desk.strokes[2].points, (std::vector<POINT>{
+                                          {7,  17},
+                                          {5,  14},
+                                          {10, 14},
+                                          {8,  17}
+    }));
     EXPECT_EQ(Desk.strokes[3].rect, Rect(0, 11, 15, 21));
     EXPECT_EQ(Desk.strokes[3].format & 255, UINT{EDGE_SUNKEN});
     Release();

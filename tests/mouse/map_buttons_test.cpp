@@ -46,6 +46,10 @@ TEST_F(MapButtons, TheFirstRowWithTheCombinationRunsAndNoOtherThoughItIsOfferedN
     EXPECT_EQ(MatchMouseAction(MainWnd, ACTION_MOUSE, KEY_CTRL, LBUTTON, nullptr, 0), 5);
     EXPECT_EQ(VDesk.left, 5) << "looked up only";
     EXPECT_EQ(TipWnd, nullptr) << "what was told is forgotten";
+    HoldKey(VK_LCONTROL, 1);
+    PressOnMap(VK_LBUTTON);
+    MoveOnMap(20, 10);
+    EXPECT_EQ(VDesk.left, 15) << "once for the press and once for the move";
 }
 
 TEST_F(MapButtons, TheCaptureComesBeforeTheActionForAllButTheLeftButton) {

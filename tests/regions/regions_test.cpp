@@ -8,7 +8,7 @@ namespace {
 
 class Regions : public RunningQuorl {};
 
-constexpr int GO_TO = 3, UNMARK = 50, UNMARK_ALL = 51, BACK = 36, ON = 37; // rows
+constexpr int GO_TO = 3, UNMARK = 50, UNMARK_ALL = 51, NEXT = 36, PREVIOUS = 37; // rows
 
 void PressDigit(UINT digit) {
     PressCombination(MOD_ALT | MOD_CONTROL | MOD_SHIFT, digit);
@@ -30,17 +30,17 @@ TEST_F(Regions, APointBelongsToTheHighestRowThatHoldsItEdgesIncluded) {
 }
 
 TEST_F(Regions, SteppingGoesRoundThemBothWays) {
-    Command(BACK);
+    Command(NEXT);
     EXPECT_EQ(Desk.beeps.size(), 1u) << "there are none";
     Mark("region", 1024, 0);
     Mark("region", 2048, 0);
     Mark("region", 100, 700); // it holds a corner of the first one too
     std::vector<LONG> lefts;  // from outside all of them first, whichever the direction
-    for (const int row : {ON, ON, ON, BACK, BACK, BACK}) {
+    for (const int row : {PREVIOUS, PREVIOUS, PREVIOUS, NEXT, NEXT, NEXT, PREVIOUS}) {
         Command(row);
         lefts.push_back(VDesk.left);
     }
-    EXPECT_EQ(lefts, (std::vector<LONG>{1024, 100, 2048, 100, 1024, 2048}));
+    EXPECT_EQ(lefts, (std::vector<LONG>{1024, 100, 2048, 100, 1024, 2048, 1024}));
 }
 
 TEST_F(Regions, TheFirstTenRowsGetADigitThatJumpsThereAndOutlivesThem) {

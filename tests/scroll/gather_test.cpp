@@ -24,6 +24,7 @@ TEST_F(Gather, EveryManagedWindowComesBackLockedOnesToo) {
     RowOf(left).bRewrites = 1;
     RowOf(left).rewritten = {7, 8, 400, 300};
     const HWND late = OpenWindow("opened since the last refresh", {2000, 10, 2100, 50});
+    SetWindowPos(late, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE); // the first of all
     GatherWindows();
     EXPECT_EQ(PlaceOf(far), Rect(476, 132, 676, 232));
     EXPECT_EQ(RowOf(left).received.at(0).record, Rect(924, 668, 400, 300)) << "corner and size";

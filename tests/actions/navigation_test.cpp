@@ -16,6 +16,7 @@ TEST_F(Navigation, TheNeighbourIsActivatedAndTheViewStays) {
     };
     EXPECT_EQ(reached(117, middle), right);
     EXPECT_EQ(reached(118, middle), left);
+    EXPECT_EQ(reached(118, right), middle) << "the first in the table, too";
     EXPECT_TRUE(Desk.beeps.empty());
     EXPECT_EQ(reached(120, middle), middle);
     EXPECT_EQ(reached(119, middle), middle);

@@ -80,6 +80,8 @@ TEST_F(OptionsDialog, SpinnersAndHiddenButtonsCountInWholeScreensUpToTheLargestD
     Type(WIDTH, "9999"); // the focus is still in there
     EXPECT_EQ(after(HEIGHT, UP), "32000");
     EXPECT_EQ(after(WIDTH, DOWN), "3072");
+    Send(1025);
+    EXPECT_EQ(TextOf(WIDTH), "2048");
     Type(WIDTH, "4294967295");
     GoToControl(At(HEIGHT));
     EXPECT_EQ(TextOf(WIDTH), "0");

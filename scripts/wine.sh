@@ -27,8 +27,18 @@ start_wine() {
         logged wine-prefix make_prefix
         echo "Made the Wine prefix in $LOGGED_SECONDS s"
     fi
-    # Holds the desktop between two programs, so that it is not built anew for each.
+    hold_desktop
+}
+
+# Holds the desktop between two programs, so that it is not built anew for each. A program that came before it
+# would build one of its own, which later goes away under all others.
+hold_desktop() {
+    local wait=0
     "${ground[@]}" wine explorer /desktop=Quorl,1024x768 >"$LOGS/desktop.log" 2>&1 </dev/null &
+    until xwininfo -root -tree 2>/dev/null | grep -q 'Quorl - Wine desktop'; do
+        [ $((wait += 1)) -lt 600 ] || die "The desktop does not come up: $LOGS/desktop.log"
+        sleep 0.1
+    done
 }
 
 make_prefix() {

@@ -38,7 +38,7 @@ make_x86() {
     as_root debootstrap --variant=minbase "$release" "$X86" "$mirror"
     as_root sh -c "grep -l Acquire /etc/apt/apt.conf.d/* | xargs -r cp -t '$X86/etc/apt/apt.conf.d'"
     as_root sh -c "echo 'deb $mirror $release-backports main' >>'$X86/etc/apt/sources.list'"
-    x86_install --release "$release" wine wine32:i386 fonts-wine
+    x86_install --release "$release" wine wine32:i386 fonts-wine fonts-liberation
     as_root touch "$X86/ready"
 }
 

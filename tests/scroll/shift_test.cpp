@@ -24,8 +24,9 @@ TEST_F(Shift, AWindowIsHeldInsideTheDesktop) {
 
 TEST_F(Shift, EachWindowIsAskedMovedAndShownALockedOneStaysAndAListViewScrollsEvenThen) {
     const HWND kin = OpenKnown("kin", {10, 10, 50, 50}, "SysListView32 of a library");
-    LockWindow(other);
-    LockWindow(list);
+    for (const HWND window : {editor, other, list})
+        LockWindow(window);
+    UnlockWindow(editor); // the others stand behind a hole now
     EnableWindow(kin, FALSE);
     ShiftWindows(30, -7);
     EXPECT_EQ(PlaceOf(editor), Rect(130, 93, 530, 393));
@@ -42,16 +43,13 @@ TEST_F(Shift, EachWindowIsAskedMovedAndShownALockedOneStaysAndAListViewScrollsEv
 TEST_F(Shift, AProgramThatDoesNotAnswerCostsItsPatienceOnceAndNothingElseSuffers) {
     const HWND zoomed = OpenKnown("zoomed", {10, 10, 50, 50});
     ShowWindow(zoomed, SW_MAXIMIZE);
-    ActionTable[ROW_RESTORE_MAXIMIZED].value = 1;
-    for (const HWND silent : {editor, list, zoomed})
+    for (const HWND silent : {editor, list})
         RowOf(silent).answer = DeskAnswer::TimesOut;
     const DWORD before = Desk.now;
     ShiftWindows(30, 0);
-    EXPECT_EQ(Desk.now - before, 300U) << "100 ms for each of the three";
+    EXPECT_EQ(Desk.now - before, 200U) << "100 ms for each of the two";
     EXPECT_EQ(PlaceOf(editor).left, 100);
     EXPECT_EQ(PlaceOf(other).left, 630);
-
-    RowOf(zoomed).answer = DeskAnswer::Answers;
     for (const int bRestored : {0, 1}) {
         ActionTable[ROW_RESTORE_MAXIMIZED].value = bRestored;
         ShiftWindows(30, 0);

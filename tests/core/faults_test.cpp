@@ -2,8 +2,6 @@
 #include "support/faults.h"
 #include "support/quorl_test.h"
 
-class BadLuck : public QuorlTest {};
-
 static int IsLost(HWND window) {
     const RECT place = PlaceOf(window);
     return place.left < 0 || place.left >= 1024 || place.top < 0 || place.top >= 768;
@@ -34,6 +32,6 @@ static void OneDay() {
     EXPECT_EQ(Desk.surprises, 0);
 }
 
-TEST_F(BadLuck, NoPlatformCallThatFailsLosesWindowsOrEndsQuorl) {
+TEST_F(QuorlTest, NoPlatformCallThatFailsLosesWindowsOrEndsQuorl) {
     EXPECT_GT(FailEachCall(OneDay), 250);
 }

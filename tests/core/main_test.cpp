@@ -16,19 +16,12 @@ TEST_F(Life, StartsOnceAndOnTopWithTheDefaultsOfANewUser) {
     EXPECT_TRUE(Desk.classes.at(MAIN_CLASS).style & CS_DBLCLKS);
     EXPECT_EQ(Hook.window, MainWnd);
     std::string turnedOn;
-    for (const ActionRow& row : ActionTable)
-        if (row.value)
-            turnedOn += std::to_string(row.id) + " ";
+    for (ActionId row = 0; row < NUM_ACTIONS; ++row) {
+        EXPECT_EQ(ActionTable[row].id, row);
+        turnedOn += ActionTable[row].value ? std::to_string(row) + " " : "";
+    }
     EXPECT_EQ(turnedOn, "58 70 71 72 73 77 89 114 122 ");
     EXPECT_EQ(StartQuorl(), 0) << "there is one already";
-}
-
-TEST_F(Life, WithoutAWindowThereIsNoLife) {
-    Desk.fault = {"CreateWindowExA", 1};
-    WillAnswer({IDOK});
-    EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
-    EXPECT_EQ(LastBox(), "Can't start app./Alas!");
-    EXPECT_EQ(CallsOf("GetMessageA"), 0);
 }
 
 TEST_F(Life, WhatTheSystemLacksIsNotOfferedAndTheRestRuns) {

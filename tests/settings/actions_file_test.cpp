@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-class ActionsFile : public QuorlTest {};
+using ActionsFile = QuorlTest;
 
 static bool IsRegistered(int row, UINT modifiers, UINT key) {
     return std::ranges::any_of(Desk.hotkeys, [=](const DeskHotkey& held) {

@@ -25,8 +25,6 @@ TEST_F(Navigation, TheNeighbourIsActivatedAndTheViewStays) {
 
     Desk.cursor = {500, 200};
     EXPECT_EQ(reached(117, nullptr), right) << "from the window under the cursor";
-    Desk.cursor = {5, 5};
-    EXPECT_EQ(reached(117, nullptr), left) << "from the screen's far side";
 }
 
 TEST_F(Navigation, CyclingTakesWindowsThatLieWhollyInView) {

@@ -1,6 +1,5 @@
 #include "core/quit.h"
 
-#include "core/main.h"
 #include "support/quorl_test.h"
 
 class Quitting : public RunningQuorl {
@@ -22,21 +21,6 @@ TEST_F(Quitting, WhatComesAfterYesNeitherMovesAWindowThatWasFoldedBackNorSavesAg
     EXPECT_EQ(Desk.files, saved);
     SendMessageA(MainWnd, WM_ENDSESSION, 1, 0);
     EXPECT_EQ(Desk.files, saved) << "the bindings are released by now";
-}
-
-// The box over a refused combination lets the user close Quorl before it has read its settings.
-TEST_F(QuorlTest, ThatIsQuitDuringItsStartSavesNothingAndLeavesNoIcon) {
-    Desk.fault = {"RegisterHotKey", 1, 0, ERROR_HOTKEY_ALREADY_REGISTERED, 0};
-    Desk.inBox = [] {
-        Desk.inBox = nullptr;
-        ConfirmQuit(MainWnd);
-    };
-    WillAnswer({IDYES, IDOK});
-    EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
-    EXPECT_FALSE(Desk.bRunDry);
-    EXPECT_TRUE(Desk.tray.empty());
-    EXPECT_TRUE(Desk.files.empty());
-    EXPECT_TRUE(Hook.set.empty());
 }
 
 TEST_F(Quitting, TheEndOfTheSessionSavesIfThatIsWantedAndFoldsIfOthersStay) {

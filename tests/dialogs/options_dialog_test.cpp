@@ -54,7 +54,6 @@ TEST(OptionsRules, NumbersTakenOverAreHeldInTheirLimits) {
     EXPECT_EQ(taken({40000, 50000, 10, 40000, 40000, 40000}, 5),
               (Numbers{40000, 50000, 11, 32000, 32000, 32000}));
     EXPECT_EQ(taken({INT_MIN, -1, INT_MAX, 0, 0, -1}, 1), (Numbers{768, 1024, 11, 1, 1, 1}));
-    EXPECT_EQ(taken({2000, 3000, 4, 9, 9, 9}, 40000), (Numbers{2000, 3000, 5, 40000, 9, 9}));
 }
 
 TEST_F(OptionsDialog, SpinnersAndHiddenButtonsCountInWholeScreensUpToTheLargestDesktop) {

@@ -30,7 +30,6 @@ TEST_F(DragOnMap, TheWindowUnderTheCursorGetsTheFocusAndThenMovesAtTheMapsScaleU
     EXPECT_EQ(Desk.foreground, editor);
     MoveOnMap(18, 14);
     EXPECT_EQ(PlaceOf(editor), Rect(192, 144, 512, 304));
-    EXPECT_EQ(LastTip(), "DRAG: 1  PREV: 18, 14  CUR: 18, 14");
     EXPECT_EQ(VDesk.left, 0) << "the combination of the screens must not run as well";
 }
 

@@ -34,6 +34,8 @@ TEST_F(ActiveWindow, GoesToTheScreensEdgesAndMiddleUnlessItHangs) {
     EXPECT_EQ(PlaceAfter(106), Rect(824, 0, 1024, 100));
     EXPECT_EQ(PlaceAfter(107), Rect(824, 668, 1024, 768));
     RowOf(active).answer = DeskAnswer::Hung;
+    Command(121);
+    EXPECT_FALSE(RowOf(active).exStyle & WS_EX_TOPMOST);
     EXPECT_EQ(PlaceAfter(22), Rect(824, 668, 1024, 768));
     RowOf(active).answer = DeskAnswer::Answers;
     EXPECT_EQ(PlaceAfter(22), Rect(412, 334, 612, 434));

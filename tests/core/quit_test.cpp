@@ -23,6 +23,13 @@ TEST_F(Quitting, WhatComesAfterYesNeitherMovesAWindowThatWasFoldedBackNorSavesAg
     EXPECT_EQ(Desk.files, saved) << "the bindings are released by now";
 }
 
+// A box over a refused combination lets the user do that.
+TEST_F(QuorlTest, ThatIsQuitBeforeItHasReadItsSettingsSavesNothing) {
+    WillAnswer({IDYES});
+    ConfirmQuit(nullptr);
+    EXPECT_TRUE(Desk.files.empty());
+}
+
 TEST_F(Quitting, TheEndOfTheSessionSavesIfThatIsWantedAndFoldsIfOthersStay) {
     const auto saves = [](int bWanted, WPARAM bEnds, LPARAM why) {
         Desk.files.clear();

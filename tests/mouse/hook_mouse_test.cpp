@@ -85,6 +85,14 @@ TEST_F(MouseNews, TheShiftKeysHoldTheCursorBackByTheirStateOfTheMomentAndTheDesk
     EXPECT_EQ(Desk.cursor.x, 1022);
 }
 
+TEST_F(MouseNews, NewsThatComesInsideAScrollIsDropped) {
+    RowOf(OpenKnown("talkative", {10, 10, 100, 100})).procedure = [](HWND, UINT message, WPARAM, LPARAM) {
+        return message == WM_MOVING ? News(WM_LBUTTONDOWN, RIGHT_EDGE) : 1;
+    };
+    EXPECT_EQ(News(WM_LBUTTONDOWN, RIGHT_EDGE), 1);
+    EXPECT_EQ(VDesk.left, 2048) << "one scroll";
+}
+
 TEST_F(MouseNews, AHeldButtonSuppressesMovesAndRedrawsTheMapIfTheUserWishes) {
     for (const int button : {VK_LBUTTON, VK_RBUTTON, VK_MBUTTON}) {
         HoldKey(button, 1);

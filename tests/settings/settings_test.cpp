@@ -40,7 +40,6 @@ TEST_F(Settings, AllIsWrittenInItsOrderAndComesBackInTheNextRun) {
         "Action0=0|16|7|32|1\r\n";
     EXPECT_EQ(kept.substr(0, first.size()), first);
     EXPECT_EQ(Stored("Action28"), "-1|-1|6|116|1");
-    EXPECT_EQ(Stored("Action41"), "2|2|64|38|1");
     EXPECT_EQ(kept.substr(kept.rfind("Action")), "Action122=-1|-1|-1|-1|0\r\n");
 
     const std::size_t hotkeys = Desk.hotkeys.size();

@@ -74,6 +74,9 @@ TEST_F(CustomizeMenuDialog, TestRunsTheActionThatIsSelectedInEitherList) {
     ChooseAction(ROW_SNAP);
     Click(TEST_ACTION);
     EXPECT_EQ(ActionTable[ROW_SNAP].value, 0);
+    Choose(MENU_LIST, 1);
+    Click(TEST_ACTION);
+    EXPECT_EQ(ActionTable[ROW_TOOLTIP].value, 1);
 }
 
 TEST_F(CustomizeMenuDialog, CancelRestoresWhatStoodAtTheOpeningAndOkKeepsTheEdits) {

@@ -90,6 +90,7 @@ TEST_F(MouseNews, NewsThatComesInsideAScrollIsDropped) {
         return message == WM_MOVING ? News(WM_LBUTTONDOWN, RIGHT_EDGE) : 1;
     };
     EXPECT_EQ(News(WM_LBUTTONDOWN, RIGHT_EDGE), 1);
+    EXPECT_EQ(CallsOf("GetCursorPos"), 2) << "it has told";
     EXPECT_EQ(VDesk.left, 2048) << "one scroll";
 }
 

@@ -23,9 +23,7 @@ TEST_F(RunningQuorl, HoldsTheBorderFromOneToTen) {
     EXPECT_EQ(Options.border, 1);
 }
 
-TEST_F(RunningQuorl, AsksTheSystemToLockTheStationWhereItCanAndForTheScreenSaver) {
-    Command(ROW_LOCK_WORK_STATION);
-    pLockWorkStation = nullptr;
+TEST_F(RunningQuorl, AsksTheSystemToLockTheStationAndForTheScreenSaver) {
     Command(ROW_LOCK_WORK_STATION);
     EXPECT_EQ(Desk.locks, 1);
     Command(108);

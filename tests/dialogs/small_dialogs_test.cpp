@@ -6,7 +6,7 @@ namespace {
 // Rows, and controls of their dialogs.
 constexpr int FIND_WINDOW = 52, RESIZE = 53, HELP = 56, ABOUT = 57, FIND_REGION = 111, TRANSPARENCY = 116;
 constexpr int APPLY = 2, HEIGHT = 1000, WIDTH = 1001, LIST = 1041, DESKTOP = 1043, RESIZE_OK = 1044;
-constexpr int SLIDER = 1079, HELP_TEXT = 1068;
+constexpr int SLIDER = 1079;
 
 using SmallDialogs = DialogTest;
 
@@ -81,14 +81,6 @@ TEST_F(SmallDialogs, TheMapFollowsTheSliderAtOnce) {
     DragSlider(At(SLIDER), 120);
     EXPECT_EQ(RowOf(MainWnd).alpha, 120);
     EXPECT_EQ(Options.alpha, 120U);
-}
-
-TEST_F(SmallDialogs, HelpFillsItselfWithItsTextWhenItsSizeChanges) {
-    Open(HELP);
-    EXPECT_NE(TextOf(HELP_TEXT), "");
-    SendMessageA(dialog, WM_SIZE, 0, MAKELPARAM(700, 500));
-    const POINT first = OnScreen(dialog, 10, 10), last = OnScreen(dialog, 690, 490);
-    EXPECT_EQ(PlaceOf(At(HELP_TEXT)), Rect(first.x, first.y, last.x, PlaceOf(At(IDOK)).top - 10));
 }
 
 } // namespace

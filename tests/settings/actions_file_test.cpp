@@ -43,13 +43,3 @@ TEST_F(ActionsFile, ARowThatForbidsLoadingLeavesAllDefaultsAndKeepsItsOwnKey) {
     EXPECT_TRUE(IsRegistered(71, MOD_CONTROL, VK_F1 + 1));
     EXPECT_EQ(ActionTable[71].mouse_btn, 8);
 }
-
-TEST_F(ActionsFile, ALineThatIsTooShortLeavesItsRowUnboundAndTheValueAsItWas) {
-    StoreFile("Action28=\nAction72=1|8\nAction71=0\n");
-    StartQuorl();
-    EXPECT_TRUE(IsRegistered(28, MOD_CONTROL | MOD_ALT, VK_LEFT)) << "an empty line is none";
-    EXPECT_EQ(ActionTable[72].mouse_btn, 8);
-    EXPECT_EQ(ActionTable[72].vk, UNBOUND);
-    EXPECT_EQ(ActionTable[72].value, 1);
-    EXPECT_EQ(ActionTable[71].value, 1);
-}

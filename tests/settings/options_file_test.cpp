@@ -18,8 +18,6 @@ TEST_F(OptionsFile, WhatIsAbsentOrNegativeStaysAsItIs) {
 TEST_F(OptionsFile, NumbersWithWhichWindowsWouldBeLostAreHeld) {
     Load("Quorl.left=2147483647\nQuorl.right=1023\nQuorl.bottom=0\n");
     EXPECT_EQ(Quorl, Rect(32000, 0, 1024, 768));
-    Load("Quorl.right=6442450943\nQuorl.bottom=40000\n"); // past 32 bits, and positive in the low ones
-    EXPECT_EQ(Quorl, Rect(32000, 0, 32000, 32000));
     Load("maxscroll=2147483647\nborder=2147483647\n");
     EXPECT_EQ(Options.border, 100);
     EXPECT_EQ(Options.maxscroll, 32000);

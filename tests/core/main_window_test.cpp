@@ -4,9 +4,9 @@
 
 class MainWindow : public RunningQuorl {};
 
-static LRESULT Send(UINT message) {
+static LRESULT Send(UINT message, void* record = nullptr) {
     Desk.trace.clear();
-    return MainWndProc(MainWnd, message, 0, 0);
+    return MainWndProc(MainWnd, message, 0, reinterpret_cast<LPARAM>(record));
 }
 
 TEST_F(MainWindow, EveryEndAsksTheSameQuestionAndDestroysNothing) {
@@ -25,4 +25,11 @@ TEST_F(MainWindow, NewColoursRepaintTheMap) {
         EXPECT_NE(BackBrush, nullptr) << message;
         EXPECT_TRUE(CameInOrder({"GetSysColorBrush", "InvalidateRect", "UpdateWindow"})) << message;
     }
+}
+
+TEST_F(MainWindow, AnotherProgramMayAskForTheDesktopsSize) {
+    MINMAXINFO record{};
+    EXPECT_EQ(Send(1134, &record), 0);
+    EXPECT_EQ(record.ptMaxTrackSize, (POINT{4096, 1536}));
+    EXPECT_EQ(Send(1134), 0) << "without a record, too";
 }

@@ -46,6 +46,12 @@ TEST_F(ActionsDialog, EachTabShowsItsRowsAndItsOwnBindingOfOneThatStandsInBoth) 
     EXPECT_TRUE(IsWindowVisible(At(KEYS)));
     EXPECT_FALSE(IsWindowVisible(At(LEFT)));
     EXPECT_EQ(Kept(LIST).count, 103);
+    EXPECT_EQ(Kept(LIST).columns.at(1), (DeskRow{"Description", 250}));
+    Press(VK_ESCAPE);
+    EXPECT_FALSE(IsOpen());
+    Desk.pixelsPerInch = 144;
+    Open(55);
+    EXPECT_EQ(Kept(LIST).columns.at(0), (DeskRow{"ActionKeys", 180})) << "on a scaled display";
 }
 
 TEST_F(ActionsDialog, AnAppliedKeyReplacesTheOldOneAtOnceEvenIfItIsRefusedAndClearReleasesIt) {

@@ -10,18 +10,15 @@ std::map<UINT, std::function<LRESULT(const MSG&)>> Replies;
 
 static std::vector<HWND> Own;
 
-static LRESULT CALLBACK KeepingProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const MSG arrived{window, message, wParam, lParam, 0, {}};
+static INT_PTR CALLBACK KeepingDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    const MSG arrived{dialog, message, wParam, lParam, 0, {}};
     Seen.push_back(arrived);
-    const auto reply = Replies.find(message);
-    return reply == Replies.end() ? DefWindowProcA(window, message, wParam, lParam) : reply->second(arrived);
+    return Replies.contains(message) ? Replies[message](arrived) : FALSE;
 }
 
-static INT_PTR CALLBACK KeepingDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (Replies.contains(message))
-        return KeepingProc(dialog, message, wParam, lParam);
-    Seen.push_back({dialog, message, wParam, lParam, 0, {}});
-    return FALSE;
+static LRESULT CALLBACK KeepingProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT reply = KeepingDlgProc(window, message, wParam, lParam);
+    return Replies.contains(message) ? reply : DefWindowProcA(window, message, wParam, lParam);
 }
 
 void Contract::SetUp() {

@@ -12,8 +12,9 @@ inline const RECT PLACE{100, 120, 400, 320}; // of windows, unless a case says o
 // After each case: closes what OpenStranger opened.
 void GroundTearDown();
 
-// A visible window of another program, of class "Stranger", with title bar and sizing frame, not activated. A
-// slow one takes half a second to answer WM_MOVING.
+// A visible window of another program, of class "Stranger", with title bar and sizing frame, not activated.
+// It takes half a second to answer WM_MOVING; on the in-memory desktop, where no answer takes time, a slow
+// one does not come to it.
 HWND OpenStranger(const char* title, int bSlow = 0);
 
 // Handles messages for so many milliseconds.

@@ -1,24 +1,20 @@
 // The ground of the contract tests on Windows: this program, started again, plays the other programs.
 #include "contract/ground.h"
 
-#include <cstring>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 
-constexpr char STRANGER[] = "--stranger", SLOW_STRANGER[] = "--slow-stranger";
 constexpr DWORD SLOWNESS = 500; // milliseconds
 constexpr DWORD LONGEST_PLAY = 60000;
 
 // The other program's side.
 
-static DWORD Delay;
-
 static LRESULT CALLBACK StrangerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_TIMER)
         ExitProcess(1);
     if (message == WM_MOVING)
-        Sleep(Delay);
+        Sleep(SLOWNESS);
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
@@ -27,9 +23,8 @@ static void PlayStranger(const char* title) {
     description.lpfnWndProc = StrangerProc;
     description.lpszClassName = "Stranger";
     RegisterClassA(&description);
-    const HWND window = CreateWindowExA(0, "Stranger", title, WS_OVERLAPPEDWINDOW, PLACE.left, PLACE.top,
-                                        PLACE.right - PLACE.left, PLACE.bottom - PLACE.top, nullptr, nullptr,
-                                        nullptr, nullptr);
+    const HWND window = CreateWindowA("Stranger", title, WS_OVERLAPPEDWINDOW, PLACE.left, PLACE.top, 300, 200,
+                                      nullptr, nullptr, nullptr, nullptr);
     ShowWindow(window, SW_SHOWNOACTIVATE);
     SetTimer(window, 1, LONGEST_PLAY, nullptr);
     MSG message;
@@ -39,10 +34,9 @@ static void PlayStranger(const char* title) {
 
 int main(int count, char** words) {
     testing::InitGoogleTest(&count, words);
-    if (count != 3)
+    if (count != 2)
         return RUN_ALL_TESTS();
-    Delay = std::strcmp(words[1], SLOW_STRANGER) ? 0 : SLOWNESS;
-    PlayStranger(words[2]);
+    PlayStranger(words[1]);
 }
 
 // The tests' side.
@@ -58,10 +52,10 @@ void GroundTearDown() {
     Programs.clear();
 }
 
-HWND OpenStranger(const char* title, int bSlow) {
+HWND OpenStranger(const char* title, int /*bSlow*/) {
     char path[MAX_PATH];
     GetModuleFileNameA(nullptr, path, MAX_PATH);
-    std::string words = std::string("contract_tests ") + (bSlow ? SLOW_STRANGER : STRANGER) + ' ' + title;
+    std::string words = std::string("contract_tests ") + title;
     STARTUPINFOA start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION started{};
@@ -71,7 +65,7 @@ HWND OpenStranger(const char* title, int bSlow) {
     Programs.push_back(started.hProcess);
     for (int patience = 0; patience < 500; ++patience) {
         const HWND window = FindWindowA("Stranger", title);
-        if (window && IsWindowVisible(window))
+        if (IsWindowVisible(window))
             return window;
         Sleep(20);
     }

@@ -8,17 +8,16 @@
 #include <fstream>
 #include <iterator>
 
-class Corpus : public QuorlTest {
-  protected:
-    static void TryEach(const char* folder, void (*run)(std::string_view input)) {
-        for (const auto& file : std::filesystem::directory_iterator(folder)) {
-            std::ifstream stream(file.path(), std::ios::binary);
-            const std::string input{std::istreambuf_iterator<char>(stream), {}};
-            EXPECT_NE(input, "");
-            EXPECT_TRUE(HoldsInItsOwnProcess([&] { run(input); })) << file.path();
-        }
+using Corpus = QuorlTest;
+
+static void TryEach(const char* folder, void (*run)(std::string_view input)) {
+    for (const auto& file : std::filesystem::directory_iterator(folder)) {
+        std::ifstream stream(file.path(), std::ios::binary);
+        const std::string input{std::istreambuf_iterator<char>(stream), {}};
+        EXPECT_NE(input, "");
+        EXPECT_TRUE(HoldsInItsOwnProcess([&] { run(input); })) << file.path();
     }
-};
+}
 
 TEST_F(Corpus, EveryKeptFileLoadsAndSavesWithoutHarm) {
     TryEach(CORPUS "/settings", TrySettings);

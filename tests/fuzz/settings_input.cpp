@@ -30,18 +30,13 @@ static std::string Saved() {
     return Desk.files[SETTINGS_FILE];
 }
 
-static void AnswerAllBoxes() { // of refused hotkeys
-    Desk.answers.assign(std::size_t{2} * NUM_ACTIONS, IDOK);
-}
-
 void TrySettings(std::string_view input) {
     if (input.empty())
         return;
     const int flags = input[0];
     Desk.bTrace = 0;
-    AnswerAllBoxes();
+    Desk.answers.assign(std::size_t{6} * NUM_ACTIONS, IDOK); // boxes of refused hotkeys
     StartQuorl();
-    AnswerAllBoxes();
     Desk.files[SETTINGS_FILE] = (flags & 2 ? FOREIGN : "") + std::string(input.substr(1));
     if (flags & 1)
         OnCreate(MainWnd);
@@ -49,7 +44,6 @@ void TrySettings(std::string_view input) {
         LoadSettings(MainWnd);
     const std::string saved = Saved();
     EXPECT_TRUE(!(flags & 2) || saved.starts_with(FOREIGN));
-    AnswerAllBoxes();
     LoadSettings(MainWnd);
     EXPECT_EQ(Saved(), saved);
 }

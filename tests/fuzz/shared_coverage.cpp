@@ -1,10 +1,13 @@
-// Each input of a fuzzer runs in a process of its own, since Quorl's state lives for a whole process.
+// libFuzzer's door. Each input runs in a process of its own, since Quorl's state lives for a whole process,
+// and libFuzzer sees what that process counts of covered code.
 #include "fuzz/shared_coverage.h"
 
+#include "desk/desk.h"
 #include "support/faults.h"
 
 #include <sys/mman.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
@@ -14,16 +17,18 @@ extern char __start___sancov_cntrs; // NOLINT(bugprone-reserved-identifier)
 extern char __stop___sancov_cntrs;  // NOLINT(bugprone-reserved-identifier)
 }
 
-void TryInput(const std::function<void()>& input) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t length) {
     char* const counters = &__start___sancov_cntrs;
     const auto size = static_cast<std::size_t>(&__stop___sancov_cntrs - counters);
     static void* const shared =
         mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     const auto counted = [&] {
-        input();
+        Desk.bTrace = 0;
+        Fuzzed({reinterpret_cast<const char*>(data), length});
         std::memcpy(shared, counters, size);
     };
     if (shared == MAP_FAILED || !HoldsInItsOwnProcess(counted))
         std::abort();
     std::memcpy(counters, shared, size);
+    return 0;
 }

@@ -1,7 +1,6 @@
-// Each input of a fuzzer runs in a process of its own, since Quorl's state lives for a whole process.
 #pragma once
 
-#include <functional>
+#include <string_view>
 
-// Runs it so, and lets libFuzzer see what that process counts of covered code. Aborts if it does not hold.
-void TryInput(const std::function<void()>& input);
+// What the fuzzer does with an input; each fuzzer has one. It aborts when an expectation does not hold.
+extern void (*const Fuzzed)(std::string_view input);

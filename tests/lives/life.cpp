@@ -149,15 +149,10 @@ void GoToOther(Day& day) {
 }
 
 void ChangeDisplays(Day& day) {
-    const SIZE screen = day.OneOf<SIZE>({
-        {1024, 768 },
-        {640,  480 },
-        {1920, 1080},
-        {3840, 2160}
-    });
-    Desk.monitors = {Rect(0, 0, screen.cx, screen.cy)};
+    const int width = day.OneOf({1024, 640, 1920, 3840});
+    Desk.monitors = {Rect(0, 0, width, width < 1900 ? width * 3 / 4 : width * 9 / 16)};
     if (day.Byte() % 4 == 0)
-        Desk.monitors.push_back({screen.cx, 0, screen.cx + 800, 600});
+        Desk.monitors.push_back({width, 0, width + 800, 600});
     SendMessageA(MainWnd, WM_SETTINGCHANGE, 0, 0);
 }
 

@@ -6,7 +6,7 @@
 
 #include <random>
 
-class Lives : public QuorlTest {};
+using Lives = QuorlTest;
 
 TEST_F(Lives, NothingThatHappensLosesAWindowOrEndsQuorl) {
     for (unsigned seed = 0; seed < 300; ++seed)

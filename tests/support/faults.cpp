@@ -29,11 +29,7 @@ int FailEachCall(const std::function<void()>& story) {
     for (int nth = 1;; ++nth) {
         const int outcome = InItsOwnProcess([&] {
             Desk.fault = {"", nth, 0, 87, 0};
-            const std::size_t before = Desk.trace.size();
             story();
-            if (testing::Test::HasFailure() && Desk.fault.hits)
-                std::printf("The call that failed was %s.\n",
-                            Desk.trace[before + static_cast<std::size_t>(nth) - 1]);
             return Desk.fault.hits ? HELD : NOTHING_FAILED;
         });
         if (outcome == NOTHING_FAILED)

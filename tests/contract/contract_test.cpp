@@ -2,7 +2,6 @@
 #include "contract/contract_test.h"
 
 #include <algorithm>
-#include <ostream>
 #include <utility>
 
 std::vector<MSG> Seen;
@@ -96,12 +95,4 @@ RECT PlaceOf(HWND window) {
     RECT place{};
     EXPECT_TRUE(GetWindowRect(window, &place));
     return place;
-}
-
-bool operator==(const RECT& a, const RECT& b) {
-    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
-}
-
-void PrintTo(const RECT& rect, std::ostream* out) {
-    *out << '(' << rect.left << ", " << rect.top << ", " << rect.right << ", " << rect.bottom << ')';
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "contract/ground.h"
+#include "support/rect.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -16,8 +17,7 @@ class Contract : public testing::Test {
     void TearDown() override;
 };
 
-// What has arrived at windows and dialogs of this program, in order, and what they do about it instead of
-// what Windows does.
+// What has arrived at windows and dialogs of this program, and what they do instead of what Windows does.
 extern std::vector<MSG> Seen;
 extern std::map<UINT, std::function<LRESULT(const MSG&)>> Replies;
 
@@ -41,5 +41,3 @@ HWND ShowTemplate(int id);
 std::vector<HWND> Order(std::initializer_list<HWND> windows);
 
 RECT PlaceOf(HWND window);
-bool operator==(const RECT& a, const RECT& b);
-void PrintTo(const RECT& rect, std::ostream* out);

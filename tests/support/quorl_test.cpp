@@ -10,14 +10,6 @@
 
 HookRecord Hook;
 
-static void SaveSharedData(HWND window) {
-    Hook.window = window;
-}
-
-static void SetMouseHook(int bSet) {
-    Hook.set.push_back(bSet);
-}
-
 template <typename Function>
 static FARPROC Export(Function* function) {
     return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(function));
@@ -29,26 +21,21 @@ void PrepareDesk() {
     user.exports["SetLayeredWindowAttributes"] = Export(SetLayeredWindowAttributes);
     user.exports["LockWorkStation"] = Export(LockWorkStation);
     DeskModule& hook = Desk.modules["quorl.dll"];
-    hook.exports["SaveSharedData"] = Export(SaveSharedData);
-    hook.exports["SetMouseHook"] = Export(SetMouseHook);
+    hook.exports["SaveSharedData"] = Export(+[](HWND window) { Hook.window = window; });
+    hook.exports["SetMouseHook"] = Export(+[](int bSet) { Hook.set.push_back(bSet); });
 }
 
 void QuorlTest::SetUp() {
     PrepareDesk();
 }
 
-// What a control has allocated goes with it, not with the process.
-static void EndChildren() {
+void QuorlTest::TearDown() {
+    EXPECT_EQ(Desk.surprises, 0) << "an unexpected box, or a call that would have blocked: " << LastBox();
+    // What a control has allocated goes with it, not with the process.
     Desk.fault = {};
     for (const DeskWindow& window : Desk.windows)
         if (window.handle && window.procedure && window.style & WS_CHILD)
             DestroyWindow(window.handle);
-}
-
-void QuorlTest::TearDown() {
-    EXPECT_EQ(Desk.surprises, 0) << "an unexpected box, or a call that would have blocked"
-                                 << (Desk.boxes.empty() ? "" : ": " + Desk.boxes.back().text);
-    EndChildren();
 }
 
 void RunningQuorl::SetUp() {
@@ -140,12 +127,4 @@ bool operator==(const POINT& a, const POINT& b) {
 
 void PrintTo(const POINT& point, std::ostream* out) {
     *out << '(' << point.x << ", " << point.y << ')';
-}
-
-bool operator==(const RECT& a, const RECT& b) {
-    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
-}
-
-void PrintTo(const RECT& rect, std::ostream* out) {
-    *out << '(' << rect.left << ", " << rect.top << ", " << rect.right << ", " << rect.bottom << ')';
 }

@@ -4,6 +4,7 @@
 #include "actions/action_table.h"
 #include "core/state.h"
 #include "desk/desk.h"
+#include "support/rect.h"
 
 #include <gtest/gtest.h>
 
@@ -73,8 +74,5 @@ std::string LastBox();
 // 1 if `Desk.trace` holds these calls in this order, others between them or not.
 int CameInOrder(std::initializer_list<const char*> calls);
 
-// So that a mismatch prints both sides, and rectangles and points compare.
-bool operator==(const RECT& a, const RECT& b);
 bool operator==(const POINT& a, const POINT& b);
-void PrintTo(const RECT& rect, std::ostream* out);
 void PrintTo(const POINT& point, std::ostream* out);

@@ -1,6 +1,8 @@
 // The user of Windows: real keys and a real mouse.
 #include "contract/ground.h"
 
+#include <gtest/gtest.h>
+
 void HoldKey(int key, int bDown) {
     INPUT input{};
     input.type = INPUT_KEYBOARD;
@@ -27,8 +29,6 @@ void MoveMouse(int x, int y) {
 }
 
 void PressMouse(int button, int bDown) {
-    if (button == VK_LBUTTON)
-        Send(0, 0, bDown ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP);
-    else
-        Send(0, 0, bDown ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_RIGHTUP);
+    EXPECT_EQ(button, VK_RBUTTON) << "no case needs another";
+    Send(0, 0, bDown ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_RIGHTUP);
 }

@@ -66,9 +66,7 @@ TEST_F(Messages, ATimerCallsBackOrTellsItsWindowAndEndsWithItOrWhenItIsKilled) {
     EXPECT_EQ(Ticks, std::vector<UINT_PTR>{1});
     SetTimer(window, 1, 100, nullptr);
     Handle(150);
-    EXPECT_EQ(SeenOf({WM_TIMER}), Numbers{WM_TIMER});
     EXPECT_TRUE(KillTimer(window, 1));
-    EXPECT_FALSE(KillTimer(window, 1));
     SetTimer(window, 2, 20, KeepTick);
     DestroyWindow(window);
     Handle(50);

@@ -88,11 +88,6 @@ void MoveTheMouse(Day& day) {
     HoldKey(held, 0);
 }
 
-void MoveToSomePlaceOnMap(Day& day) {
-    const POINT at{day.Byte() - 20, day.Byte() - 20};
-    MoveOnMap(at.x, at.y);
-}
-
 void WorkOnTheMap(Day& day) {
     const auto keys = {VK_LSHIFT, VK_LCONTROL, VK_LMENU, VK_RSHIFT};
     int held = day.Byte();
@@ -101,10 +96,11 @@ void WorkOnTheMap(Day& day) {
         held >>= 1;
     }
     const int button = day.OneOf({VK_LBUTTON, VK_RBUTTON, VK_MBUTTON});
-    MoveToSomePlaceOnMap(day);
+    const auto move = [&day](int x) { MoveOnMap(x, day.Byte() - 20); };
+    move(day.Byte() - 20);
     PressOnMap(button);
     for (int steps = day.Byte() % 3; steps > 0; --steps)
-        MoveToSomePlaceOnMap(day);
+        move(day.Byte() - 20);
     ReleaseOnMap(button);
     for (const int key : keys)
         HoldKey(key, 0);
@@ -250,7 +246,7 @@ void ExpectAllGivenBack() {
     }
     EXPECT_TRUE(Desk.tray.empty());
     for (const DeskHotkey& hotkey : Desk.hotkeys) // those of regions go with the process
-        EXPECT_TRUE(hotkey.window != MainWnd || hotkey.id >= FIRST_REGION_ID) << hotkey.id;
+        EXPECT_TRUE(hotkey.window != MainWnd || hotkey.id >= FIRST_REGION_ID);
     for (const DeskMenu& menu : Desk.menus)
         EXPECT_TRUE(!menu.bLive || Faults);
     EXPECT_EQ(Hook.set, (std::vector<int>{1, 0}));

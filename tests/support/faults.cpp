@@ -26,18 +26,17 @@ static int InItsOwnProcess(const std::function<Outcome()>& story) {
 }
 
 int FailEachCall(const std::function<void()>& story) {
-    for (int nth = 1;; ++nth) {
-        const int outcome = InItsOwnProcess([&] {
+    int nth = 0, outcome = HELD;
+    while (outcome == HELD) {
+        ++nth;
+        outcome = InItsOwnProcess([&] {
             Desk.fault = {"", nth, 0, 87, 0};
             story();
             return Desk.fault.hits ? HELD : NOTHING_FAILED;
         });
-        if (outcome == NOTHING_FAILED)
-            return nth - 1;
-        EXPECT_EQ(outcome, HELD) << "with call " << nth << " failing";
-        if (outcome != HELD)
-            return nth;
     }
+    EXPECT_EQ(outcome, NOTHING_FAILED) << "with call " << nth << " failing";
+    return nth - 1;
 }
 
 bool HoldsInItsOwnProcess(const std::function<void()>& story) {

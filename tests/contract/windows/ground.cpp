@@ -4,11 +4,11 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-
-constexpr DWORD SLOWNESS = 500; // milliseconds
-constexpr DWORD LONGEST_PLAY = 60000;
+#include <utility>
 
 // The other program's side.
+
+constexpr DWORD SLOWNESS = 500, LONGEST_PLAY = 60000; // milliseconds
 
 static LRESULT CALLBACK StrangerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_TIMER)
@@ -44,12 +44,10 @@ int main(int count, char** words) {
 static std::vector<HANDLE> Programs;
 
 void GroundTearDown() {
-    for (const HANDLE program : Programs) {
+    for (const HANDLE program : std::exchange(Programs, {})) {
         TerminateProcess(program, 0);
         WaitForSingleObject(program, 5000);
-        CloseHandle(program);
     }
-    Programs.clear();
 }
 
 HWND OpenStranger(const char* title, int /*bSlow*/) {
@@ -61,7 +59,6 @@ HWND OpenStranger(const char* title, int /*bSlow*/) {
     PROCESS_INFORMATION started{};
     EXPECT_TRUE(CreateProcessA(path, words.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr,
                                nullptr, &start, &started));
-    CloseHandle(started.hThread);
     Programs.push_back(started.hProcess);
     for (int patience = 0; patience < 500; ++patience) {
         const HWND window = FindWindowA("Stranger", title);

@@ -5,9 +5,7 @@
 namespace {
 
 const RECT NOWHERE{};
-constexpr COLORREF BLACK = 0;
-constexpr COLORREF WHITE = 0xffffff;
-constexpr COLORREF RED = 0x0000ff;
+constexpr COLORREF BLACK = 0, WHITE = 0xffffff, RED = 0x0000ff;
 
 class Painting : public Contract {
   protected:

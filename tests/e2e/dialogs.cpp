@@ -1,8 +1,6 @@
 // The dialogs as a user works them.
 #include "dialogs.h"
 
-#include <commctrl.h>
-
 namespace {
 
 int Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
@@ -84,7 +82,6 @@ void TypeOver(HWND edit, const std::string& text) {
     Until([edit] { return Focused(GetParent(edit)) == GetDlgCtrlID(edit); }, [edit] { Press(edit); });
     PressKeys({VK_HOME});
     PressKeys({VK_SHIFT, VK_END});
-    PressKeys({VK_DELETE});
     for (const char letter : text) {
         const SHORT key = VkKeyScanA(letter);
         if (HIBYTE(key))
@@ -120,16 +117,4 @@ void PressRow(HWND list, const std::string& text) {
           [&] {
               PressAt(list, {20, middle});
           });
-}
-
-// The list tells where a row is only in memory of its own program, so it is worked out from what it answers.
-void PressItem(HWND list, int item) {
-    const auto heightOf = [list](WPARAM items) {
-        return HIWORD(Ask(list, LVM_APPROXIMATEVIEWRECT, items, -1));
-    };
-    Ask(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(item), FALSE);
-    const Place header = PlaceOf(static_cast<HWND>(LongToHandle(Ask(list, LVM_GETHEADER))));
-    const int height = heightOf(2) - heightOf(1);
-    const int row = item - Ask(list, LVM_GETTOPINDEX);
-    PressAt(list, {30, header.bottom - header.top + row * height + height / 2});
 }

@@ -32,6 +32,3 @@ std::string ControlText(HWND dialog, int id);
 // List boxes. The row with this text is insisted on.
 std::vector<std::string> ListTexts(HWND list);
 void PressRow(HWND list, const std::string& text);
-
-// Scrolls a row of a list view into sight and clicks it.
-void PressItem(HWND list, int item);

@@ -10,14 +10,10 @@ constexpr int MENU_LIST = 1061, ACTION_LIST = 1062;
 } // namespace
 
 TEST(KeyboardAlone, SetsTheOptions) {
-    constexpr int FIRST = 1000, DELAY_TIME = 1003, AFTER_TIME = 1078, AT_ONCE = 1079;
+    constexpr int FIRST = 1000, DELAY_TIME = 1003, AFTER_TIME = 1078;
     StartQuorl();
     const HWND options = OpenByRow(54, "Options...");
-    for (const int control : {FIRST, 1001, 1002, 1007, 1008, 1009, 1, 2, 3, 1064, 1076, AT_ONCE, FIRST}) {
-        EXPECT_SOON(Focused(options), control); // round again, without the time, which is off
-        PressKeys({VK_TAB});
-    }
-    PressKeys({VK_SHIFT, VK_TAB});
+    EXPECT_SOON(Focused(options), FIRST);
     PressKeys({VK_SHIFT, VK_TAB});
     PressKeys({VK_UP}); // round the group, over the one that is hidden
     EXPECT_SOON(Focused(options), AFTER_TIME);
@@ -29,7 +25,7 @@ TEST(KeyboardAlone, SetsTheOptions) {
     ExpectSaved("mousescroll_delay_time", "250");
 }
 
-TEST(KeyboardAlone, BindsAKeyAndComposesTheMenuUnlessEscapeCancels) {
+TEST(KeyboardAlone, BindsAKeyThatEscapeLeavesBound) {
     StartQuorl();
     const HWND actions = OpenByRow(55, "Actions...");
     EXPECT_SOON(Focused(actions), KEYBOARD_LIST);
@@ -42,16 +38,6 @@ TEST(KeyboardAlone, BindsAKeyAndComposesTheMenuUnlessEscapeCancels) {
     PressKeys({VK_CONTROL, VK_MENU, 'Q'});
     EXPECT_SOON(OpenedMenu() != nullptr, true);
     PressKeys({VK_ESCAPE});
-
-    const HWND menu = OpenByRow(74, "Customize Menu...");
-    const auto texts = [menu] { return ListTexts(Control(menu, MENU_LIST)); };
-    EXPECT_SOON(Focused(menu), ACTION_LIST);
-    PressInTurn({'R', VK_TAB, VK_TAB, VK_SPACE}); // in the list, past Test, into the menu
-    EXPECT_SOON(texts().back(), "Remove Desktop from bottom");
-    PressInTurn({VK_TAB, VK_HOME, VK_DOWN, VK_TAB, VK_SPACE}); // in the menu's list, out of it
-    EXPECT_SOON(texts()[1], "Customize Menu...");
-    CloseByKey(menu, VK_ESCAPE);
-    ExpectSaved("quorl_menu", "54|55|74|77|49|-1|56|57|-1|59");
 }
 
 TEST(NameRegion, ANameIsNeededAndTheColourIsChosenInTheSystemsOwnDialog) {
@@ -98,19 +84,4 @@ TEST(Tables, AreFullAtTheirLimits) {
     ExpectSaved("num_regions", "199");
     DoRow(51);
     ExpectSaved("num_regions", "0");
-}
-
-TEST(FindWindows, AWindowThatHangsOrIsGoneIsNotGoneTo) {
-    const HWND mail = OpenWindow("mail", {100, 500, 300, 700});
-    OpenWindow("hung", {1800, 300, 2000, 500}, "hung");
-    const HWND gone = OpenWindow("gone", {1800, 300, 2000, 500});
-    StartQuorl();
-    const HWND list = Control(OpenByRow(52, "Find Windows..."), LIST);
-    PostMessageA(gone, WM_CLOSE, 0, 0);
-    EXPECT_TRUE(WaitForEnd(gone));
-    PressRow(list, "gone"); // which is listed yet
-    PressRow(list, "hung");
-    EXPECT_EQ(PlaceOf(mail), (Place{100, 500, 300, 700}));
-    PressRow(list, "mail");
-    EXPECT_SOON(GetForegroundWindow(), mail) << "Quorl goes on";
 }

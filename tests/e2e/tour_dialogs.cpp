@@ -37,7 +37,9 @@ void BindAKey() {
     const HWND dialog = OpenByButton(OpenByRow(54, "Options..."), ACTIONS_BUTTON, "Actions...");
     Until([] { return Stored("Action30") == "-1|-1|6|81|0"; },
           [dialog] {
-              PressItem(Control(dialog, LIST), RIGHT_BY_SCREEN);
+              Press(Control(dialog, LIST));
+              PressKeys({VK_HOME});
+              PressInTurn(std::vector<WORD>(RIGHT_BY_SCREEN, VK_DOWN));
               Press(Control(dialog, KEYS)); // drops the list
               Press(Control(dialog, KEYS));
               PressKeys({'Q'});

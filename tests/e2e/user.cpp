@@ -230,10 +230,6 @@ std::string TextOf(HWND window) {
     return text;
 }
 
-HWND TipStrip() {
-    return FindVisible(0, "w_ToolTip", nullptr);
-}
-
 HWND OpenedMenu() {
     return FindVisible(0, "#32768", nullptr);
 }

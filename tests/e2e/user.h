@@ -72,8 +72,6 @@ void PressButton(DWORD flag);
 Place PlaceOf(HWND window);
 std::string TextOf(HWND window);
 DWORD ProcessOf(HWND window);
-// The strip over the map, while it is on show; else null.
-HWND TipStrip();
 // The popup menu that is open; else null.
 HWND OpenedMenu();
 

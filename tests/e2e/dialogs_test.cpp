@@ -9,22 +9,6 @@ constexpr int MENU_LIST = 1061, ACTION_LIST = 1062;
 
 } // namespace
 
-TEST(KeyboardAlone, SetsTheOptions) {
-    constexpr int FIRST = 1000, DELAY_TIME = 1003, AFTER_TIME = 1078;
-    StartQuorl();
-    const HWND options = OpenByRow(54, "Options...");
-    EXPECT_SOON(Focused(options), FIRST);
-    PressKeys({VK_SHIFT, VK_TAB});
-    PressKeys({VK_UP}); // round the group, over the one that is hidden
-    EXPECT_SOON(Focused(options), AFTER_TIME);
-    PressKeys({VK_TAB});
-    EXPECT_SOON(Focused(options), DELAY_TIME) << "the time is on";
-    TypeOver(Control(options, DELAY_TIME), "250");
-    CloseByKey(options, VK_RETURN);
-    ExpectSaved("mousescroll_delay", "3");
-    ExpectSaved("mousescroll_delay_time", "250");
-}
-
 TEST(KeyboardAlone, BindsAKeyThatEscapeLeavesBound) {
     StartQuorl();
     const HWND actions = OpenByRow(55, "Actions...");

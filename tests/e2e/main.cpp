@@ -1,6 +1,6 @@
 // One program, three uses: the end-to-end tests; the windows in them, which Quorl scrolls (--play); the tour
 // (--tour).
-#include "tour_words.h"
+#include "tour.h"
 
 namespace {
 

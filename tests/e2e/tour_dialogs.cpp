@@ -1,6 +1,6 @@
 // The chapters of the tour that walk through the dialogs.
 #include "dialogs.h"
-#include "tour_words.h"
+#include "tour.h"
 
 namespace {
 

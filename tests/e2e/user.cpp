@@ -194,22 +194,18 @@ void DoRow(int row) {
     PostMessageA(QuorlWindow(), WM_HOTKEY, static_cast<WPARAM>(row), 0);
 }
 
+// Quorl and the window's program do all that an activation means to them; one that comes in between is undone
+// under Wine.
 void Activate(HWND window) {
     const auto isActive = [window] { return GetForegroundWindow() == window; };
     Until(isActive, [&] {
         SetForegroundWindow(window);
         Soon(isActive, true);
-        Settle(window);
+        EXPECT_TRUE(Answers(QuorlWindow()) || !QuorlWindow());
+        EXPECT_TRUE(Answers(window));
+        Sleep(200);
     });
     EXPECT_TRUE(isActive()) << TextOf(window);
-}
-
-// Quorl and the window's program do all that an activation means to them; one that comes in between is undone
-// under Wine.
-void Settle(HWND window) {
-    EXPECT_TRUE(Answers(QuorlWindow()) || !QuorlWindow());
-    EXPECT_TRUE(Answers(window));
-    Sleep(200);
 }
 
 Place PlaceOf(HWND window) {

@@ -54,7 +54,6 @@ void PressInTurn(const std::vector<WORD>& keys);
 void DoRow(int row);
 // Makes a window the one that the user types into, and waits until it has settled there.
 void Activate(HWND window);
-void Settle(HWND window);
 
 // Puts the pointer there, and waits until every program is told so.
 void MoveMouse(POINT to);

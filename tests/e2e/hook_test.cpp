@@ -134,6 +134,7 @@ TEST_F(HookLibrary, OneMoveWaitsForAWindowThatIsBusyAndEveryClickDoesHoweverOfte
     }
     SetMouseHook(1);
     MoveBy(20);
+    MoveBy(30);
     Sleep(100);
     EXPECT_EQ(CountOf(WM_MOUSEMOVE), 1);
     for (const WPARAM message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONUP})

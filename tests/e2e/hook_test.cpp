@@ -4,6 +4,7 @@
 #include <tlhelp32.h>
 
 #include <set>
+#include <thread>
 
 namespace {
 
@@ -38,6 +39,14 @@ void MoveBy(LONG dx) {
 // Another program's hook on our messages, which keeps what it sees to itself.
 LRESULT CALLBACK KeepToItself(int, WPARAM, LPARAM) {
     return 0;
+}
+
+void Shake(const std::stop_token& stop) {
+    for (LONG i = 0; !stop.stop_requested(); i = (i + 1) % 20) {
+        MoveBy(i);
+        if (i == 0)
+            Sleep(1);
+    }
 }
 
 class HookLibrary : public testing::Test {
@@ -107,6 +116,8 @@ class HookLibrary : public testing::Test {
         return threads;
     }
 
+    HANDLE OpenWatcher() { return OpenThread(THREAD_ALL_ACCESS, FALSE, *Watchers().begin()); }
+
     // How often the library tells of one click: presses, once its release is told as well or time is over.
     void ExpectToTellOfAClick(int times) {
         News.clear();
@@ -119,30 +130,41 @@ class HookLibrary : public testing::Test {
 
 } // namespace
 
-TEST_F(HookLibrary, OneMoveWaitsForAWindowThatIsBusyAndEveryClickDoesHoweverOftenTheWatchingBegins) {
-    constexpr int TIMES = 3;
+TEST_F(HookLibrary, OneMoveWaitsForAWindowThatIsBusyAndEveryClickDoes) {
+    constexpr int TIMES = 3; // over before a slow machine takes the window for one that works
     Pressed = 0;
     for (int i = 0; i < TIMES; ++i) { // busy: nothing is taken out of the queue meanwhile
-        SetMouseHook(1);
         MoveBy(i);
         Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
         Click(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
         Click(MOUSEEVENTF_WHEEL, MOUSEEVENTF_WHEEL);
         MoveBy(-i);
-        Sleep(100);
-        SetMouseHook(0);
     }
-    SetMouseHook(1);
-    MoveBy(20);
-    MoveBy(30);
+    Sleep(6300); // long enough to be called hung
+    // A thread that sends input waits for the hook, and while it waits its windows do not count as hung.
+    std::jthread(MoveBy, 20).join();
     Sleep(100);
     EXPECT_EQ(CountOf(WM_MOUSEMOVE), 1);
+    EXPECT_EQ(News.front(), WPARAM{WM_MOUSEMOVE}) << "the first news stays the first";
     for (const WPARAM message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONUP})
         EXPECT_EQ(CountOf(message), TIMES) << message;
     EXPECT_EQ(News.size(), 1U + 4 * TIMES) << "the wheel tells nothing";
     EXPECT_EQ(Pressed, TIMES) << "nothing is withheld";
     MoveBy(50);
     EXPECT_SOON(CountOf(WM_MOUSEMOVE), 2);
+}
+
+TEST_F(HookLibrary, OneMoveWaitsHoweverOftenTheWatchingEndsAndBegins) {
+    for (int time = 0; time < 3; ++time) {
+        SetMouseHook(1);
+        MoveBy(time);
+        Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
+        Sleep(100);
+        SetMouseHook(0);
+    }
+    EXPECT_EQ(CountOf(WM_MOUSEMOVE), 1);
+    EXPECT_EQ(CountOf(WM_LBUTTONDOWN), 3);
+    EXPECT_EQ(CountOf(WM_LBUTTONUP), 3);
 }
 
 TEST_F(HookLibrary, AForeignHookThatHidesTheMessagesHoldsTheNewsUpOnce) {
@@ -165,9 +187,22 @@ TEST_F(HookLibrary, AskedOrLoadedTwiceItWatchesOnce) {
         ExpectToTellOfAClick(asked.back() == '1');
     }
     Load();
+    EXPECT_EQ(Watchers().size(), 1U);
     FreeLibrary(library);
     ExpectToTellOfAClick(1);
+    SetMouseHook(0);
+    EXPECT_EQ(Watchers().size(), 0U) << "the thread has ended when the call is back";
     ExpectToGoWithOneRelease();
+}
+
+TEST_F(HookLibrary, ComesAndGoesWhileTheMouseMoves) {
+    const std::jthread shaking(Shake);
+    for (int i = 0; i < 50; ++i) {
+        Sleep(i % 2 * 5U);
+        Pump();
+        ExpectToGoWithOneRelease();
+    }
+    EXPECT_SOON(CountOf(WM_MOUSEMOVE) > 0, true);
 }
 
 TEST_F(HookLibrary, AWindowThatIsGoneEndsTheWatchingAndAnotherOneHasTheNewsOnceItIsNamed) {
@@ -179,7 +214,13 @@ TEST_F(HookLibrary, AWindowThatIsGoneEndsTheWatchingAndAnotherOneHasTheNewsOnceI
     OpenTarget();
     SaveSharedData(window);
     SetMouseHook(1);
+    const HWND first = window;
+    OpenTarget();
+    SaveSharedData(window); // while it watches
+    DestroyWindow(first);
     ExpectToTellOfAClick(1);
+    SaveSharedData(nullptr);
+    ExpectToTellOfAClick(0);
     ExpectToGoWithOneRelease();
 }
 
@@ -187,8 +228,22 @@ TEST_F(HookLibrary, AThreadThatWasKilledIsReplacedAndHoldsNothing) {
     for (int time = 0; time < 2; ++time) {
         SetMouseHook(1);
         ExpectToTellOfAClick(1);
-        TerminateThread(OpenThread(THREAD_TERMINATE, FALSE, *Watchers().begin()), 0);
+        TerminateThread(OpenWatcher(), 0);
+        EXPECT_SOON(Watchers().size(), 0U);
         ExpectToTellOfAClick(0);
     }
+    ExpectToGoWithOneRelease();
+}
+
+TEST_F(HookLibrary, TheCodeOfAThreadThatEndsTooLateStaysUntilItHasEnded) {
+    const HANDLE watcher = OpenWatcher();
+    SuspendThread(watcher);
+    SetMouseHook(0);
+    FreeLibrary(library);
+    EXPECT_TRUE(GetModuleHandleA("quorl.dll")) << "the thread is still in it";
+    ResumeThread(watcher);
+    EXPECT_EQ(WaitForSingleObject(watcher, 5000), WAIT_OBJECT_0);
+    Load();
+    ExpectToTellOfAClick(1);
     ExpectToGoWithOneRelease();
 }

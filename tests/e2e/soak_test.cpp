@@ -1,7 +1,8 @@
 // Long days among real programs, hung and dying ones among them, and sudden ends of Quorl.
 //   QUORL_SOAK="ACTS KILLS SEED"   how long; without it a short one
-#include "dialogs.h"
+#include "user.h"
 
+#include <psapi.h>
 #include <winternl.h>
 
 #include <random>
@@ -9,12 +10,18 @@
 
 namespace {
 
+struct Length {
+    int acts = 60, kills = 2;
+    unsigned seed = 1;
+};
+
 constexpr std::size_t MOST_PROGRAMS = 12;
 constexpr int ACTS_BEFORE_KILL = 20;
 constexpr ULONGLONG FIRST_MINUTE = 60000;
+constexpr SIZE_T MEMORY_SWING = 4U << 20; // what the working set breathes by
 constexpr int MENU = 0, EXIT = 59, LOCK_MACHINE = 84, SCREEN_SAVER = 108, NUM_ROWS = 123;
+constexpr int RESIZE_OK = 1044; // closes Resize Windows
 
-int Acts, Kills;
 std::mt19937 Chance;
 
 int Below(int limit) {
@@ -32,34 +39,50 @@ struct Program {
 };
 std::vector<Program> Programs;
 
-std::vector<HWND> OpenDialogs() {
+std::vector<HWND> DialogsOfQuorl() {
     std::vector<HWND> dialogs;
     for (HWND dialog = nullptr; (dialog = FindWindowExA(nullptr, dialog, "#32770", nullptr));)
-        if (IsWindowVisible(dialog))
+        if (IsWindowVisible(dialog) && ProcessOf(dialog) == ProcessOf(QuorlWindow()))
             dialogs.push_back(dialog);
     return dialogs;
 }
 
-// Only those that hold up the others: message boxes and the choice of a colour.
-std::size_t CloseDialogs(bool onlyModal) {
-    constexpr int BOX_TEXT = 0xffff, RESIZE_OK = 1044;
-    for (const HWND dialog : OpenDialogs())
-        if (!onlyModal || GetDlgItem(dialog, BOX_TEXT) || TextOf(dialog) == "Color")
-            for (const WPARAM answer : {IDNO, IDCANCEL, IDOK, RESIZE_OK})
-                PostMessageA(dialog, WM_COMMAND, answer, 0);
-    return OpenDialogs().size();
+void Answer(HWND dialog, std::initializer_list<WPARAM> answers) {
+    for (const WPARAM answer : answers)
+        PostMessageA(dialog, WM_COMMAND, answer, 0);
 }
 
-void CloseAll() {
-    EXPECT_SOON(CloseDialogs(false), 0U) << TextOf(FindWindowA("#32770", nullptr));
+void AnswerBoxes() {
+    static const std::set<std::string> modeless = {
+        "Options...",        "Quorl Help",        "About...",
+        "Name Region",       "Resize Windows...", "Actions...",
+        "Customize Menu...", "Find Windows...",   "Toolwin Transparency...",
+    };
+    for (const HWND box : DialogsOfQuorl())
+        if (!modeless.contains(TextOf(box)))
+            Answer(box, {IDNO, IDCANCEL});
+}
+
+void CloseDialogs() {
+    const auto close = [] {
+        for (const HWND dialog : DialogsOfQuorl())
+            Answer(dialog, {IDNO, IDCANCEL, IDOK, RESIZE_OK});
+        return DialogsOfQuorl().size();
+    };
+    EXPECT_EQ(Soon(close, 0U), 0U) << TextOf(FindWindowA("#32770", nullptr));
 }
 
 void WorkOnTheMap() {
+    static const WORD keys[] = {VK_SHIFT, VK_CONTROL, VK_MENU};
     const Place map = PlaceOf(QuorlWindow());
-    for (const DWORD flag : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
-        SetCursorPos(map.left + Below(200), map.top + Below(100));
-        PressButton(flag);
-    }
+    const WORD key = OneOf(keys);
+    SetCursorPos(map.left + Below(map.right - map.left + 1), map.top + Below(map.bottom - map.top + 1));
+    SendKey(key, 0);
+    PressButton(MOUSEEVENTF_LEFTDOWN);
+    SetCursorPos(map.left + Below(200), map.top + Below(200));
+    PressButton(MOUSEEVENTF_LEFTUP);
+    SendKey(key, KEYEVENTF_KEYUP);
+    PressKeys({VK_ESCAPE});
 }
 
 void OpenAProgram() {
@@ -75,19 +98,23 @@ void EndAProgram() {
     if (Programs.empty())
         return;
     std::swap(Programs[Chance() % Programs.size()], Programs.back());
-    TerminateProcess(OpenProcess(PROCESS_TERMINATE, FALSE, ProcessOf(Programs.back().window)), 0);
+    const HANDLE process = OpenProcess(PROCESS_TERMINATE, FALSE, ProcessOf(Programs.back().window));
+    TerminateProcess(process, 0);
+    CloseHandle(process);
     Programs.pop_back();
 }
 
 void WorkInADialog() {
     static const WORD keys[] = {VK_DOWN, VK_UP, VK_TAB, VK_RETURN, '7', 'Q', VK_ESCAPE};
-    const std::vector<HWND> dialogs = OpenDialogs();
+    const std::vector<HWND> dialogs = DialogsOfQuorl();
     if (dialogs.empty())
         return;
     HWND control = GetWindow(OneOf(dialogs), GW_CHILD);
     for (int steps = Below(30); steps > 0 && GetWindow(control, GW_HWNDNEXT); --steps)
         control = GetWindow(control, GW_HWNDNEXT);
-    PressOnly(control);
+    const Place place = PlaceOf(control);
+    SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+    Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
     PressKeys({OneOf(keys)});
 }
 
@@ -111,7 +138,7 @@ void DoSomething() {
     case 6: OpenAProgram(); break;
     case 7: EndAProgram(); break;
     case 8: ChooseFromMenu(); break;
-    case 9:
+    case 9: WorkInADialog(); break;
     case 10: WorkInADialog(); break;
     default:
         if (!notNow.contains(row))
@@ -119,12 +146,15 @@ void DoSomething() {
     }
 }
 
-void Live(int acts) {
-    for (int act = 0; act < acts && !testing::Test::HasFailure(); ++act) {
+// 1 if Quorl still lives and answers.
+bool Live(int acts) {
+    for (int act = 0; act < acts; ++act) {
         DoSomething();
-        CloseDialogs(true);
-        EXPECT_TRUE(Answers(QuorlWindow())) << "act " << act;
+        AnswerBoxes();
+        if (!Answers(QuorlWindow()))
+            return false;
     }
+    return true;
 }
 
 // The map may be hidden by the settings, and a box may tell of a hotkey.
@@ -135,30 +165,41 @@ HANDLE Start() {
     return quorl;
 }
 
+bool IsBack(const Program& program) {
+    const Place place = PlaceOf(program.window);
+    return !program.good || !IsWindowVisible(program.window) || IsIconic(program.window) ||
+           IsZoomed(program.window) ||
+           (place.left >= 0 && place.left < SCREEN_W && place.top >= 0 && place.top < SCREEN_H);
+}
+
 void QuitAndSeeAllBack() {
-    CloseAll();
+    CloseDialogs();
     DoRow(EXIT);
     PostMessageA(WaitForBox("QUIT?"), WM_COMMAND, IDYES, 0);
     EXPECT_SOON(QuorlWindow(), HWND{});
-    for (const auto& [window, good] : Programs) {
-        const Place place = PlaceOf(window);
-        EXPECT_TRUE(!good || !IsWindowVisible(window) || IsIconic(window) || IsZoomed(window) ||
-                    (place.left >= 0 && place.left < SCREEN_W && place.top >= 0 && place.top < SCREEN_H))
-            << place;
-    }
+    for (const Program& program : Programs)
+        EXPECT_TRUE(IsBack(program)) << PlaceOf(program.window);
+}
+
+// What stands last in a file that was saved without a stop.
+void ExpectWholeSettings() {
+    std::vector<std::string> keys = {"Quorl.right", "border", "num_regions", "quorl_menu_count", "Action122"};
+    for (int region = atoi(Stored("num_regions").c_str()); region > 0; --region)
+        keys.push_back("Region" + std::to_string(region - 1));
+    for (const std::string& key : keys)
+        EXPECT_NE(Stored(key), "") << key;
 }
 
 // A day as long as it was asked for, with three programs to begin with.
-void Begin() {
-    unsigned seed = 1;
-    Acts = 60;
-    Kills = 2;
+Length Begin() {
+    Length length;
     if (const char* const words = getenv("QUORL_SOAK"))
-        sscanf(words, "%d %d %u", &Acts, &Kills, &seed);
-    Chance.seed(seed);
+        sscanf(words, "%d %d %u", &length.acts, &length.kills, &length.seed);
+    Chance.seed(length.seed);
     Programs.clear();
     for (const char* const title : {"first", "second", "third"})
         Programs.push_back({OpenWindow(title, EDITOR), true});
+    return length;
 }
 
 // What the system keeps of a dialog, or of a menu, for the next one is kept once; so are up to 64 contexts,
@@ -166,13 +207,19 @@ void Begin() {
 void OpenAllOnce() {
     ChooseFromMenu();
     Sleep(1000); // what was chosen is open, and its Escape has come through
-    CloseAll();
+    CloseDialogs();
     for (const int row : {54, 54, 54, 54, 54, 49, 52, 53, 55, 56, 57, 74, 111, 116}) {
         DoRow(row);
-        EXPECT_SOON(OpenDialogs().size(), 1U) << row;
-        CloseAll();
+        EXPECT_SOON(DialogsOfQuorl().size(), 1U) << row;
+        CloseDialogs();
     }
 }
+
+struct ResourcesInUse {
+    int windows;   // visible or not
+    int gdi;       // pens, brushes, fonts, contexts, ..., but no bitmaps; -1: cannot be counted
+    SIZE_T memory; // bytes in the working set
+};
 
 // Wine counts no graphics objects, but it keeps them, as Windows does, in a table in the program's memory.
 // Its place in the process environment block, and what an entry is.
@@ -185,53 +232,66 @@ struct GdiEntry {
     BYTE user[9];
 };
 
-// Pens, brushes, fonts, contexts. A row that was only posted may open a dialog yet.
-int GdiObjectsAtRest(HANDLE quorl) {
-    Sleep(2000);
-    CloseAll();
-    Sleep(500);
+int GdiObjectsOf(HANDLE process) {
     PROCESS_BASIC_INFORMATION basics = {};
-    NtQueryInformationProcess(quorl, ProcessBasicInformation, &basics, sizeof basics, nullptr);
+    NtQueryInformationProcess(process, ProcessBasicInformation, &basics, sizeof basics, nullptr);
     const char* const block = reinterpret_cast<const char*>(basics.PebBaseAddress);
     const void* place = nullptr;
     std::vector<GdiEntry> table(65536);
-    EXPECT_TRUE(ReadProcessMemory(quorl, block + TABLE_POINTER, &place, sizeof place, nullptr));
-    EXPECT_TRUE(ReadProcessMemory(quorl, place, table.data(), table.size() * sizeof(GdiEntry), nullptr));
+    if (!ReadProcessMemory(process, block + TABLE_POINTER, &place, sizeof place, nullptr) ||
+        !ReadProcessMemory(process, place, table.data(), table.size() * sizeof(GdiEntry), nullptr))
+        return -1;
     return static_cast<int>(std::count_if(table.begin(), table.end(), [](const GdiEntry& entry) {
         return entry.type != 0 && entry.type != BITMAP_TYPE;
     }));
 }
 
+// A row that was only posted may open a dialog yet.
+ResourcesInUse ResourcesAtRest(HANDLE quorl) {
+    Sleep(2000);
+    CloseDialogs();
+    EXPECT_TRUE(Answers(QuorlWindow()));
+    Sleep(500);
+    int windows = 0;
+    for (HWND window = nullptr; (window = FindWindowExA(nullptr, window, nullptr, nullptr));)
+        windows += ProcessOf(window) == GetProcessId(quorl);
+    PROCESS_MEMORY_COUNTERS memory = {};
+    K32GetProcessMemoryInfo(quorl, &memory, sizeof memory);
+    return {windows, GdiObjectsOf(quorl), memory.WorkingSetSize};
+}
+
 } // namespace
 
 TEST(Soak, QuorlGoesOnAnsweringAndKeepsNothingOfWhatItUsed) {
-    Begin();
+    const Length length = Begin();
     const HANDLE quorl = Start();
     OpenAllOnce();
     const ULONGLONG start = GetTickCount64();
     int done = 0;
-    for (; done < Acts && GetTickCount64() < start + FIRST_MINUTE; ++done)
-        Live(1);
-    const int first = GdiObjectsAtRest(quorl);
-    Live(Acts - done);
-    EXPECT_LE(GdiObjectsAtRest(quorl), first) << "graphics objects";
+    for (; done < length.acts && GetTickCount64() < start + FIRST_MINUTE; ++done)
+        ASSERT_TRUE(Live(1)) << "act " << done;
+    const ResourcesInUse first = ResourcesAtRest(quorl);
+    ASSERT_TRUE(Live(length.acts - done));
+    const ResourcesInUse last = ResourcesAtRest(quorl);
+    EXPECT_LE(last.windows, first.windows);
+    EXPECT_LE(last.gdi, first.gdi) << "graphics objects";
+    EXPECT_LE(last.memory, first.memory + MEMORY_SWING);
     QuitAndSeeAllBack();
 }
 
 TEST(Soak, WhenQuorlIsKilledTheNextOneBringsTheWindowsBackAndTheSettingsAreWhole) {
-    Begin();
+    const Length length = Begin();
     Start();
     ExpectSaved("num_regions", "0");
     QuitAndSeeAllBack();
-    for (int kill = 0; kill < Kills && !testing::Test::HasFailure(); ++kill) {
+    for (int kill = 0; kill < length.kills && !testing::Test::HasFailure(); ++kill) {
         const HANDLE quorl = Start();
-        Live(ACTS_BEFORE_KILL);
+        ASSERT_TRUE(Live(ACTS_BEFORE_KILL));
         DoRow(Below(3) ? SAVE : Below(NUM_ROWS));
         Sleep(static_cast<DWORD>(Below(60)));
         TerminateProcess(quorl, 0);
         WaitForExit(quorl);
-        for (const char* const key : {"border", "num_regions", "quorl_menu_count", "Action122"})
-            EXPECT_NE(Stored(key), "") << key;
+        ExpectWholeSettings();
         Start();
         QuitAndSeeAllBack();
     }

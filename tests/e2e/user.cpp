@@ -194,18 +194,22 @@ void DoRow(int row) {
     PostMessageA(QuorlWindow(), WM_HOTKEY, static_cast<WPARAM>(row), 0);
 }
 
-// Quorl and the window's program do all that an activation means to them; one that comes in between is undone
-// under Wine.
 void Activate(HWND window) {
     const auto isActive = [window] { return GetForegroundWindow() == window; };
     Until(isActive, [&] {
         SetForegroundWindow(window);
         Soon(isActive, true);
-        EXPECT_TRUE(Answers(QuorlWindow()) || !QuorlWindow());
-        EXPECT_TRUE(Answers(window));
-        Sleep(200);
+        Settle(window);
     });
     EXPECT_TRUE(isActive()) << TextOf(window);
+}
+
+// Quorl and the window's program do all that an activation means to them; one that comes in between is undone
+// under Wine.
+void Settle(HWND window) {
+    EXPECT_TRUE(Answers(QuorlWindow()) || !QuorlWindow());
+    EXPECT_TRUE(Answers(window));
+    Sleep(200);
 }
 
 Place PlaceOf(HWND window) {
@@ -224,6 +228,10 @@ std::string TextOf(HWND window) {
     char text[1024] = "";
     GetWindowTextA(window, text, sizeof text);
     return text;
+}
+
+HWND TipStrip() {
+    return FindVisible(0, "w_ToolTip", nullptr);
 }
 
 HWND OpenedMenu() {

@@ -54,6 +54,7 @@ void PressInTurn(const std::vector<WORD>& keys);
 void DoRow(int row);
 // Makes a window the one that the user types into, and waits until it has settled there.
 void Activate(HWND window);
+void Settle(HWND window);
 
 // Puts the pointer there, and waits until every program is told so.
 void MoveMouse(POINT to);
@@ -71,6 +72,8 @@ void PressButton(DWORD flag);
 Place PlaceOf(HWND window);
 std::string TextOf(HWND window);
 DWORD ProcessOf(HWND window);
+// The strip over the map, while it is on show; else null.
+HWND TipStrip();
 // The popup menu that is open; else null.
 HWND OpenedMenu();
 

@@ -12,7 +12,7 @@ HELP = DOCS / "help"
 SOURCE = DOCS.parent / "src"
 
 MODIFIERS = (("KEY_CTRL", "Ctrl"), ("KEY_ALT", "Alt"), ("KEY_SHIFT", "Shift"), ("KEY_WIN", "Win"))
-ALL_MODIFIERS = "KEY_SHIFT | KEY_ALT | KEY_CTRL"  # MODS_ALL in hotkeys.cpp
+ALL_MODIFIERS = "KEY_SHIFT | KEY_ALT | KEY_CTRL"  # MODS_ALL in default_bindings.cpp
 BUTTONS = {"LBUTTON": "left button", "MBUTTON": "middle button", "RBUTTON": "right button"}
 OFFERED = {"KEY": "key, menu", "MOUSE": "mouse", "BOTH": "key, menu, mouse", "OFF": "nowhere"}
 
@@ -60,7 +60,7 @@ def combination(modifiers, key):
 
 def bindings():
     """The start bindings: {("KEY" or "MOUSE", number): text}."""
-    text = (SOURCE / "actions/hotkeys.cpp").read_text()
+    text = (SOURCE / "actions/default_bindings.cpp").read_text()
     table = text[text.index("DefaultBindings[]") :]
     table = table[: table.index("};")]
     found = {}

@@ -62,7 +62,9 @@ TEST_F(ActiveWindow, GoesTopmostAndBack) {
 TEST_F(ActiveWindow, LockedStaysThroughScrollsUntilItIsUnlocked) {
     Command(40);
     EXPECT_EQ(Desk.tones.size(), 12U);
+    EXPECT_EQ(Desk.tones.back(), 11000U);
     EXPECT_EQ(PlaceAfter(30).left, 300);
     Command(41);
+    EXPECT_EQ(Desk.tones.size(), 12U + 13U);
     EXPECT_EQ(PlaceAfter(28).left, 1324);
 }

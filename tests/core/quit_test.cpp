@@ -1,5 +1,6 @@
 #include "core/quit.h"
 
+#include "core/main.h"
 #include "support/quorl_test.h"
 
 class Quitting : public RunningQuorl {
@@ -11,7 +12,7 @@ TEST_F(Quitting, WhatComesAfterYesNeitherMovesAWindowThatWasFoldedBackNorSavesAg
     Command(47);
     const auto saved = Desk.files;
     Desk.files.clear();
-    WillAnswer({IDYES});
+    WillAnswer({IDYES, IDYES});
     PostMessageA(MainWnd, WM_CLOSE, 0, 0);
     Desk.foreground = far;
     for (const WPARAM row : {WPARAM{30}, WPARAM{101}}) // pressed while the box was open
@@ -19,15 +20,24 @@ TEST_F(Quitting, WhatComesAfterYesNeitherMovesAWindowThatWasFoldedBackNorSavesAg
     Settle();
     EXPECT_EQ(PlaceOf(far).left, 76);
     EXPECT_EQ(Desk.files, saved);
+    EXPECT_EQ(ConfirmQuit(MainWnd), 1);
     SendMessageA(MainWnd, WM_ENDSESSION, 1, 0);
     EXPECT_EQ(Desk.files, saved) << "the bindings are released by now";
 }
 
-// A box over a refused combination lets the user do that.
-TEST_F(QuorlTest, ThatIsQuitBeforeItHasReadItsSettingsSavesNothing) {
-    WillAnswer({IDYES});
-    ConfirmQuit(nullptr);
+// The box over a refused combination lets the user close Quorl before it has read its settings.
+TEST_F(QuorlTest, ThatIsQuitDuringItsStartSavesNothingAndLeavesNoIcon) {
+    Desk.fault = {"RegisterHotKey", 1, 0, ERROR_HOTKEY_ALREADY_REGISTERED, 0};
+    Desk.inBox = [] {
+        Desk.inBox = nullptr;
+        ConfirmQuit(MainWnd);
+    };
+    WillAnswer({IDYES, IDOK});
+    EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
+    EXPECT_FALSE(Desk.bRunDry);
+    EXPECT_TRUE(Desk.tray.empty());
     EXPECT_TRUE(Desk.files.empty());
+    EXPECT_TRUE(Hook.set.empty());
 }
 
 TEST_F(Quitting, TheEndOfTheSessionSavesIfThatIsWantedAndFoldsIfOthersStay) {

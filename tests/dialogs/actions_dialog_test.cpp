@@ -25,6 +25,7 @@ class ActionsDialog : public DialogTest {
 TEST_F(ActionsDialog, EachTabShowsItsRowsAndItsOwnBindingOfOneThatStandsInBoth) {
     Bind(RIGHT_SCREEN, KEY_WIN | KEY_SHIFT, LBUTTON);
     EXPECT_TRUE(IsWindowVisible(dialog));
+    EXPECT_EQ(Kept(LIST).extendedStyle, LVS_EX_FULLROWSELECT);
     EXPECT_EQ(Kept(KEYS).rows.back(), (DeskRow{"F24", VK_F1 + 23}));
     EXPECT_EQ(TextInList(At(LIST), KEY_RIGHT_SCREEN, 1), "Move one desktop to the right");
     EXPECT_EQ(Binding(KEY_RIGHT_SCREEN), "C-A-Right");
@@ -74,6 +75,7 @@ TEST_F(ActionsDialog, AnAppliedKeyReplacesTheOldOneAtOnceEvenIfItIsRefusedAndCle
     EXPECT_EQ(viewAfter(MOD_SHIFT | MOD_ALT, VK_F1 + 4), 1024);
 
     Click(CLEAR);
+    EXPECT_EQ(Kept(LIST).redrawn.size(), 3U) << "with Apply twice";
     EXPECT_EQ(viewAfter(MOD_SHIFT | MOD_ALT, VK_F1 + 4), 1024);
 
     ActionTable[5].vk = VK_F1 + 12;

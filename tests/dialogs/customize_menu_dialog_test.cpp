@@ -34,6 +34,7 @@ class CustomizeMenuDialog : public DialogTest {
 TEST_F(CustomizeMenuDialog, OffersWhatTheMenuDoesNotHoldWhichGoesToItsEndAndComesBack) {
     OpenWith({54, -1, 0});
     const Rows offered = Kept(ACTION_LIST).rows;
+    EXPECT_NE(Kept(UP).image, Kept(DOWN).image);
     EXPECT_EQ(offered.size(), 101U) << "of 103 with a key not row 0 and 54";
     EXPECT_EQ(Kept(MENU_LIST).rows.at(0), (DeskRow{"Options...", 54}));
     EXPECT_EQ(Kept(MENU_LIST).rows.at(2), (DeskRow{"<---------------->", -2}));

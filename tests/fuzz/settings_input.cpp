@@ -33,7 +33,7 @@ static std::string Saved() {
 void TrySettings(std::string_view input) {
     if (input.empty())
         return;
-    const int flags = input[0];
+    const int flags = static_cast<unsigned char>(input[0]);
     Desk.bTrace = 0;
     Desk.answers.assign(std::size_t{6} * NUM_ACTIONS, IDOK); // boxes of refused hotkeys
     StartQuorl();

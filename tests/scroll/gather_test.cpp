@@ -33,10 +33,20 @@ TEST_F(Gather, EveryManagedWindowComesBackLockedOnesToo) {
     EXPECT_EQ(PlaceOf(minimized).left, -32000);
 }
 
-TEST_F(Gather, ATimeoutIsSilentAndCostsASecond) {
+TEST_F(Gather, ATimeoutIsSilentAndCostsASecondAndAnyOtherRefusalIsTold) {
     RowOf(far).answer = RowOf(left).answer = DeskAnswer::TimesOut;
+    RowOf(left).error = 0; // as the oldest systems have it
     const DWORD before = Desk.now;
     GatherWindows();
     EXPECT_EQ(Desk.now - before, 2000U);
     EXPECT_EQ(PlaceOf(far).left, 1500) << "it stays";
+
+    RowOf(far).answer = DeskAnswer::Answers;
+    RowOf(left).answer = DeskAnswer::Fails;
+    RowOf(left).error = ERROR_ACCESS_DENIED;
+    WillAnswer({IDOK});
+    Desk.inBox = [] { OpenKnown("box", {10, 10, 20, 20}); }; // comes to stand before all others
+    GatherWindows();
+    EXPECT_EQ(LastBox(), "Not a timeout! A window won't restore!/ok");
+    EXPECT_EQ(PlaceOf(far).left, 476);
 }

@@ -73,9 +73,11 @@ TEST_F(Settings, AreSavedAsAWholeOrNotAtAllAndLeaveNoCopyInTheWay) {
 
 TEST_F(QuorlTest, TakesNoHarmFromAFileHoweverLongItsValuesAre) {
     const std::string marks(100000, '|');
-    for (const std::string& lines :
-         {"border=" + marks + "9\nnum_regions=1\nRegion0=" + marks + "a\nAction5=" + marks,
-          "quorl_menu_count=999\nquorl_menu=" + std::string(4046, '1') + marks + "|5",
-          "Action5=1|2" + std::string(10 << 20, '7') + "\nnum_regions=1\nRegion0=a|1"})
+    const std::string files[] = {
+        "border=" + marks + "9\nnum_regions=1\nRegion0=" + marks + "a\nAction5=" + marks,
+        "quorl_menu_count=999\nquorl_menu=" + std::string(4046, '1') + marks + "|5",
+        "Action5=1|2" + std::string(10 << 20, '7') + "\nnum_regions=1\nRegion0=a|1",
+    };
+    for (const std::string& lines : files)
         EXPECT_TRUE(HoldsInItsOwnProcess([&] { TrySettings("\2" + lines); })) << lines.substr(0, 20);
 }

@@ -10,7 +10,7 @@ using Strokes = std::vector<std::string>;
 // "what rect", and what it is drawn with where that shows.
 std::string InWords(const DeskStroke& stroke) {
     static const char* const styles[] = {" solid", " dashed", " dotted"};
-    const std::string words = stroke.what + " " + testing::PrintToString(stroke.rect);
+    std::string words = stroke.what + " " + testing::PrintToString(stroke.rect);
     const std::string pen =
         styles[stroke.pen.style] + std::to_string(stroke.pen.width) + " " + std::to_string(stroke.pen.color);
     if (stroke.what == "DrawFocusRect")

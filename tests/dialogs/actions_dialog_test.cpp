@@ -61,6 +61,11 @@ TEST_F(ActionsDialog, AnAppliedKeyReplacesTheOldOneAtOnceEvenIfItIsRefusedAndCle
         Settle();
         return VDesk.left;
     };
+    Click(APPLY);
+    EXPECT_EQ(Desk.beeps.size(), 1U) << "no row";
+    Desk.beeps.clear();
+    for (const DeskRow& key : Kept(KEYS).rows)
+        EXPECT_TRUE(key.text.size() > 1 || key.data == key.text[0]) << key.text;
     Desk.hotkeys.push_back({nullptr, 1, MOD_CONTROL | MOD_ALT, 'Q'});
     Choose(LIST, KEY_RIGHT_SCREEN);
     Choose(KEYS, Q);

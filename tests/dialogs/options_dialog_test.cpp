@@ -22,6 +22,7 @@ TEST_F(OptionsDialog, ShowsWhatIsInForceAndOkTakesOverWhatIsTypedAndHoldsEveryWi
     const HWND editor = OpenKnown("editor", {100, 100, 500, 400});
     Options.minscroll = 10;
     Open(ITSELF);
+    EXPECT_EQ(PlaceOf(At(HEIGHT_SPINNER)).right - PlaceOf(At(HEIGHT)).right, 15);
     const struct {
         int box;
         const char *shown, *typed;

@@ -65,6 +65,9 @@ TEST_F(SmallDialogs, ResizeAppliesASizeAtTheCornerOfTheWindowThatWasChosenLast) 
 }
 
 TEST_F(SmallDialogs, KeysEndAllButTransparency) {
+    Open(HELP);
+    SendMessageA(dialog, WM_SIZE, 0, MAKELPARAM(500, 400));
+    EXPECT_EQ(PlaceOf(At(IDOK)).top - PlaceOf(At(1068)).bottom, 10) << "the text gives way to the button";
     for (const int row : {FIND_WINDOW, FIND_REGION, HELP, ABOUT, TRANSPARENCY}) {
         Open(row);
         EXPECT_NE(Desk.focus, dialog) << row;

@@ -57,7 +57,7 @@ TEST_F(ActionMenu, TheRegionsHangBelowTheEntriesAndAChoiceJumps) {
 
 TEST_F(ActionMenu, TheIconOpensItOnARightPressAndTurnsTheMapOnADoubleClick) {
     const DeskTrayIcon& icon = Desk.tray.at(0);
-    EXPECT_EQ(icon.tip, "Quorl");
+    EXPECT_EQ(icon.tip + " " + std::to_string(icon.id), "Quorl 1125");
     Desk.choices = {77};
     for (const UINT mouse : {WM_RBUTTONDOWN, WM_RBUTTONUP, WM_LBUTTONDBLCLK}) {
         PostMessageA(icon.window, icon.callback, icon.id, static_cast<LPARAM>(mouse));

@@ -46,6 +46,8 @@ TEST_F(Regions, TheFirstTenRowsGetADigitThatJumpsThereAndOutlivesThem) {
     for (int row = 0; row < 12; ++row)
         Mark("region", 100 * row, 300);
     RegisterRegionKeys(MainWnd);
+    PressDigit('0');
+    EXPECT_EQ(ViewCorner(), (POINT{0, 300}));
     PressDigit('9');
     EXPECT_EQ(ViewCorner(), (POINT{900, 300}));
     Command(UNMARK_ALL);

@@ -82,6 +82,7 @@ TEST_F(Map, ADialogPulsesFromTheFirstPaintOnWhileItsOwnerIsDisabled) {
 TEST(MapBox, OnlyAnActiveDialogOfADisabledOwnerPulses) {
     EXPECT_EQ(KindOfBox(1, "#3277", WS_DISABLED), ACTIVE_BOX);
     EXPECT_EQ(KindOfBox(1, "Afx:400000:8", WS_DISABLED), PULSING_BOX);
+    EXPECT_EQ(NextFlashLevel(256), 26);
     EXPECT_EQ(NextFlashLevel(275), 45) << "wraps round and keeps its pace";
 }
 

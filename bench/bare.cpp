@@ -1,14 +1,12 @@
-// What Quorl asks the platform for in its frequent deeds, without Quorl.
+// The platform calls of frequent operations, without Quorl.
 #include "bare.h"
 
-#include "deeds.h"
+#include "operations.h"
 
 #include "core/state.h"
-#include "scroll/gather.h"
-#include "scroll/refresh.h"
-#include "scroll/shift.h"
-#include "scroll/window_table.h"
-#include "toolwin/map_scale.h"
+#include "toolwin/map_coordinates.h"
+#include "windows/other_window.h"
+#include "windows/window_table.h"
 
 #include <initializer_list>
 
@@ -16,14 +14,14 @@ namespace {
 
 struct BareRow {
     HWND hwnd;
-    int bManaged;
-    RECT place; // screen pixels
-    RECT box;   // map pixels
+    bool managed;
+    RECT rect; // screen pixels
+    RECT box;  // map pixels
 };
 
 } // namespace
 
-static const UINT GATHER_PATIENCE = 1000;
+static const UINT_PTR FLASH_TIMER = 1234; // of the map
 
 static BareRow Rows[MAX_WINDOWS];
 static int num_rows;
@@ -38,23 +36,23 @@ static void Lines(HDC context, const RECT& box) {
     LineTo(context, box.left, box.top);
 }
 
-// What it takes to know whether a window is managed, up to the answer that settles it.
-static void AskWhetherManaged(const BareRow& row) {
+// The calls that decide whether a window is managed, up to the decisive one.
+static void QueryManaged(const BareRow& row) {
     char name[128];
-    RECT place;
+    RECT rect;
     DWORD reasons = 0;
     if (!IsWindowEnabled(row.hwnd) || !IsWindowVisible(row.hwnd) || !GetDesktopWindow() ||
-        IsIconic(row.hwnd) || !GetClassNameA(row.hwnd, name, 127) || !row.bManaged)
+        IsIconic(row.hwnd) || !GetClassNameA(row.hwnd, name, 127) || !row.managed)
         return;
     if (pDwmGetWindowAttribute)
         pDwmGetWindowAttribute(row.hwnd, 14, &reasons, sizeof reasons);
-    GetWindowRect(row.hwnd, &place);
+    GetWindowRect(row.hwnd, &rect);
 }
 
 static void PaintWindow(HDC context, const BareRow& row, HWND active, HPEN red, HPEN dotted) {
     char name[128];
-    AskWhetherManaged(row);
-    if (!row.bManaged)
+    QueryManaged(row);
+    if (!row.managed)
         return;
     if (row.hwnd != active) {
         DrawFocusRect(context, &row.box);
@@ -103,9 +101,9 @@ static LRESULT CALLBACK BareMapProc(HWND window, UINT message, WPARAM wParam, LP
     }
 }
 
-// Of the map's styles, so that the system has as much to do for it, but disabled, so that Quorl does not take
-// it for a program's. It stands beside the map.
-static void MakeBareMap() {
+// Has the styles of the map, so it costs the system as much, but is disabled, so Quorl does not manage it.
+// Placed beside the map.
+static void CreateBareMap() {
     WNDCLASSA description{};
     description.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
     description.lpfnWndProc = BareMapProc;
@@ -128,7 +126,7 @@ static void MakeBareMap() {
 
 void PrepareBare() {
     if (!BareMap)
-        MakeBareMap();
+        CreateBareMap();
     RebuildWindowTable();
     RECT map{};
     GetClientRect(MainWnd, &map);
@@ -136,8 +134,8 @@ void PrepareBare() {
         const HWND window = WindowTable[num_rows].hwnd;
         BareRow& row = Rows[num_rows];
         row = {window, IsManagedWindow(window), {}, {}};
-        GetWindowRect(window, &row.place);
-        row.box = WindowBox(row.place, map, VDesk, Quorl);
+        GetWindowRect(window, &row.rect);
+        row.box = WindowBox(row.rect, map, VDesk, Quorl);
     }
     BareViewBox = ViewBox(map, VDesk, Quorl);
 }
@@ -147,23 +145,23 @@ void BarePaint() {
     UpdateWindow(BareMap);
 }
 
-static void PingAndMove(const BareRow& row, int dx, UINT patience) {
-    WindowPlace place{row.place.left + dx, row.place.top, row.place.right - row.place.left,
-                      row.place.bottom - row.place.top};
+static void MoveRow(const BareRow& row, int dx, UINT timeout) {
+    WindowPosition rect{row.rect.left + dx, row.rect.top, row.rect.right - row.rect.left,
+                        row.rect.bottom - row.rect.top};
     DWORD_PTR result = 0;
     SetLastError(0);
-    SendMessageTimeoutA(row.hwnd, WM_MOVING, 0, reinterpret_cast<LPARAM>(&place), SMTO_ABORTIFHUNG, patience,
+    SendMessageTimeoutA(row.hwnd, WM_MOVING, 0, reinterpret_cast<LPARAM>(&rect), SMTO_ABORTIFHUNG, timeout,
                         &result);
-    MoveWindow(row.hwnd, place.x, place.y, place.width, place.height, TRUE);
+    MoveWindow(row.hwnd, rect.x, rect.y, rect.width, rect.height, TRUE);
 }
 
 static void ScrollRow(const BareRow& row, int dx) {
     char name[256];
     GetClassNameA(row.hwnd, name, 255);
-    AskWhetherManaged(row);
-    if (!row.bManaged)
+    QueryManaged(row);
+    if (!row.managed)
         return;
-    PingAndMove(row, dx, SCROLL_PATIENCE);
+    MoveRow(row, dx, SCROLL_TIMEOUT);
     ShowWindow(row.hwnd, SW_SHOW);
 }
 
@@ -178,28 +176,28 @@ void BareScroll() {
 void PingMoveShow() {
     for (const int dx : {-ScreenW(), 0})
         for (int row = 0; row < num_rows; ++row)
-            if (Rows[row].bManaged) {
-                PingAndMove(Rows[row], dx, SCROLL_PATIENCE);
+            if (Rows[row].managed) {
+                MoveRow(Rows[row], dx, SCROLL_TIMEOUT);
                 ShowWindow(Rows[row].hwnd, SW_SHOW);
             }
 }
 
-static BOOL CALLBACK LookAtWindow(HWND window, LPARAM) {
-    RECT place;
-    GetWindowRect(window, &place);
+static BOOL CALLBACK QueryWindow(HWND window, LPARAM) {
+    RECT rect;
+    GetWindowRect(window, &rect);
     return TRUE;
 }
 
 void BareTicks() {
-    RECT place;
+    RECT rect;
     for (int tick = 1; tick < TICKS; ++tick)
         for (int row = 0; row < num_rows; ++row)
-            GetWindowRect(Rows[row].hwnd, &place);
-    EnumWindows(LookAtWindow, 0);
+            GetWindowRect(Rows[row].hwnd, &rect);
+    EnumWindows(QueryWindow, 0);
     BarePaint();
 }
 
-static BOOL CALLBACK LookAtMonitor(HMONITOR monitor, HDC, RECT*, LPARAM) {
+static BOOL CALLBACK QueryMonitor(HMONITOR monitor, HDC, RECT*, LPARAM) {
     MONITORINFO info{};
     info.cbSize = sizeof info;
     return GetMonitorInfoA(monitor, &info);
@@ -208,17 +206,17 @@ static BOOL CALLBACK LookAtMonitor(HMONITOR monitor, HDC, RECT*, LPARAM) {
 void BareMouseMove() {
     POINT cursor;
     GetCursorPos(&cursor);
-    EnumDisplayMonitors(nullptr, nullptr, LookAtMonitor, 0);
+    EnumDisplayMonitors(nullptr, nullptr, QueryMonitor, 0);
     for (const int button : {VK_LBUTTON, VK_MBUTTON, VK_RBUTTON})
         GetAsyncKeyState(button);
 }
 
 void BareFold() {
-    EnumWindows(LookAtWindow, 0);
+    EnumWindows(QueryWindow, 0);
     for (int row = 0; row < num_rows; ++row) {
-        AskWhetherManaged(Rows[row]);
-        if (!Rows[row].bManaged)
+        QueryManaged(Rows[row]);
+        if (!Rows[row].managed)
             continue;
-        PingAndMove(Rows[row], 0, GATHER_PATIENCE);
+        MoveRow(Rows[row], 0, FOLD_TIMEOUT);
     }
 }

@@ -1,20 +1,20 @@
-// What Quorl asks the platform for in its frequent deeds, without Quorl: the same calls in the same order,
-// with everything decided beforehand. What Quorl takes longer is its own share.
+// The platform calls of Quorl's frequent operations without Quorl: the same calls in the same order, with
+// every decision made beforehand. Whatever Quorl takes longer is its own cost.
 #pragma once
 
 #include "core/platform.h"
 
-// Remembers all rows of the window table, how Quorl sees them, and makes the window that stands in for the
-// map, as large as that. Again after windows have come or gone.
+// Copies the window table and creates a replacement for the map with the same size. Call it again after
+// windows were opened or closed.
 void PrepareBare();
 
-// To the screen on the right and back.
+// One screen to the right and back.
 void BareScroll();
-// The same, and of each managed window only the ping, the move and the show.
+// The same with only ping, move and show for each managed window.
 void PingMoveShow();
-// From one rebuilding of the window table to the next.
+// From one rebuild of the window table to the next.
 void BareTicks();
 void BarePaint();
-// The mouse moves in the middle of the screen.
+// A mouse move in the middle of the screen.
 void BareMouseMove();
 void BareFold();

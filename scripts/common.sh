@@ -1,4 +1,4 @@
-# What ./run and ./test share: installing, building, cleaning up. Sourced from the clone's root.
+# Installing packages, building and cleaning up, for ./run, ./test and ./fuzz. Source it in the root of the clone.
 
 BUILD_PACKAGES=(git cmake ninja-build g++ libgtest-dev googletest libbenchmark-dev
     g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
@@ -9,7 +9,7 @@ X86_PACKAGES=(debootstrap)
 
 LOGS=$PWD/build/log
 mkdir -p "$LOGS"
-# Nothing of a run stays outside the clone: compilers and Wine keep their caches here, too.
+# Leave nothing outside the clone: the caches of the compiler and of Wine go here too.
 export CCACHE_DIR=${CCACHE_DIR:-$PWD/build/cache/ccache} XDG_CACHE_HOME=$PWD/build/cache
 
 die() { printf '%s\n' "$*" >&2; exit 1; }
@@ -18,17 +18,17 @@ AS_ROOT=()
 [ "$(id -u)" = 0 ] || AS_ROOT=(sudo -E)
 as_root() { "${AS_ROOT[@]}" "$@"; }
 
-# What was started last is ended first, however the script ends.
+# Commands to run when the script ends for whatever reason, last in, first out.
 AT_EXIT=()
 at_exit() { AT_EXIT=("$*" "${AT_EXIT[@]}"); }
 run_at_exit() { local step; for step in "${AT_EXIT[@]}"; do eval "$step" || true; done; }
 trap run_at_exit EXIT
 trap 'exit 130' INT TERM HUP
 
-# Runs a long step with its output in a log, which is shown if the step fails: logged NAME COMMAND...
+# logged NAME COMMAND...: runs a command with its output in a log; if it fails, shows the end of the log.
 logged() {
     local log=$LOGS/$1.log start=$SECONDS; shift
-    "$@" >"$log" 2>&1 </dev/null || { tail -n 60 "$log" >&2; die "failed: $* (all of it: $log)"; }
+    "$@" >"$log" 2>&1 </dev/null || { tail -n 60 "$log" >&2; die "failed: $* (full log: $log)"; }
     LOGGED_SECONDS=$((SECONDS - start))
 }
 
@@ -39,10 +39,10 @@ install_packages() {
     done
     [ ${#missing[@]} -gt 0 ] || return 0
     command -v apt-get >/dev/null ||
-        die "Missing: ${missing[*]}. There is no apt-get here; install what corresponds to them by hand."
+        die "Missing packages: ${missing[*]}. This system has no apt-get; install the equivalents by hand."
     [ "$(id -u)" = 0 ] || command -v sudo >/dev/null ||
-        die "Missing: ${missing[*]}. Run this as root, or install sudo, or install them by hand."
-    echo "Installing with apt: ${missing[*]}"
+        die "Missing packages: ${missing[*]}. Run this as root, install sudo, or install the packages by hand."
+    echo "Installing packages with apt: ${missing[*]}"
     logged apt-update as_root apt-get update
     logged apt-install as_root env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y --no-install-recommends "${missing[@]}"

@@ -1,23 +1,23 @@
-# A small Debian in build/x86 with 32-bit Wine: the host's own package index often cannot give it, because
-# its i386 packages must match the installed amd64 ones to the letter.
+# A small Debian in build/x86 with 32-bit Wine. The host often cannot install it, because its i386 packages must
+# have exactly the versions of the installed amd64 ones.
 
 X86=$PWD/build/x86
 X86_MOUNTS=("$X86/tmp/.X11-unix" "$X86/proc")
 X86_EMULATOR=/proc/sys/fs/binfmt_misc/quorl-i386
 
-# Sets `ground` so that Windows programs run in the folder. Programs are put in /quorl there.
+# Sets wine_env so that Windows programs run in the folder. They belong into /quorl there.
 start_x86() {
     if [ ! -f "$X86/ready" ]; then
         logged x86-folder make_x86
-        echo "Made the 32-bit folder in $LOGGED_SECONDS s"
+        echo "Created the 32-bit folder in $LOGGED_SECONDS s"
     fi
     at_exit "unmount_x86"
     as_root mount -t proc proc "$X86/proc"
     as_root mkdir -p "$X86/tmp/.X11-unix" "$X86/quorl"
     as_root mount --bind /tmp/.X11-unix "$X86/tmp/.X11-unix"
     runs_x86 || emulate_x86
-    runs_x86 || die "This machine can neither run 32-bit programs nor emulate them."
-    ground=("${AS_ROOT[@]}" env HOME=/quorl XDG_CACHE_HOME=/quorl/cache chroot "$X86")
+    runs_x86 || die "This machine can neither run nor emulate 32-bit programs."
+    wine_env=("${AS_ROOT[@]}" env HOME=/quorl XDG_CACHE_HOME=/quorl/cache chroot "$X86")
 }
 
 unmount_x86() {
@@ -33,7 +33,7 @@ make_x86() {
     release=$(. /etc/os-release && echo "$VERSION_CODENAME")
     mirror=$(apt-get indextargets --format '$(REPO_URI) $(RELEASE)' 'Created-By: Packages' |
         awk -v release="$release" '$2 == release { print $1; exit }')
-    [ -n "$mirror" ] || die "apt knows no mirror for $release"
+    [ -n "$mirror" ] || die "apt has no mirror for $release"
     as_root rm -rf "$X86"
     as_root debootstrap --variant=minbase "$release" "$X86" "$mirror"
     as_root sh -c "grep -l Acquire /etc/apt/apt.conf.d/* | xargs -r cp -t '$X86/etc/apt/apt.conf.d'"
@@ -53,12 +53,12 @@ x86_install() {
 
 runs_x86() { as_root chroot "$X86" /lib/i386-linux-gnu/ld-linux.so.2 --version >/dev/null 2>&1; }
 
-# Some virtual machines have no 32-bit mode at all; there the processor is emulated, program by program.
+# Some virtual machines cannot run 32-bit programs at all. Emulate the processor there, for each program.
 emulate_x86() {
     local release magic mask
     release=$(. /etc/os-release && echo "$VERSION_CODENAME")
     if [ ! -x "$X86/usr/bin/qemu-i386-static" ]; then
-        # Version 7 hangs in Wine's threads, 10 does not: it comes from the backports.
+        # From the backports: version 7 hangs in Wine's threads, version 10 does not.
         logged x86-emulator x86_install --release "$release-backports" qemu-user-static
         echo "Installed an emulator for 32-bit programs in $LOGGED_SECONDS s"
     fi

@@ -1,11 +1,11 @@
-// What the mouse on the map costs: looking up a combination, and a move that only tells what lies under it,
-// by the number of windows. Times contain those of the in-memory desktop's calls.
+// The cost of the mouse on the map: looking up a binding, and hovering by the number of windows. Times
+// include those of the in-memory desktop's calls.
 #include "running.h"
 
 #include "core/state.h"
 #include "mouse/map_buttons.h"
 #include "mouse/map_hover.h"
-#include "scroll/window_table.h"
+#include "windows/window_table.h"
 
 #include "desk/desk.h"
 
@@ -17,13 +17,13 @@ void MatchCombination(benchmark::State& state) {
     RunQuorl();
     const int flags = static_cast<int>(state.range(0));
     for ([[maybe_unused]] const auto& round : state)
-        benchmark::DoNotOptimize(MatchMouseAction(MainWnd, ACTION_MOUSE, flags, 0, nullptr, 0));
+        benchmark::DoNotOptimize(MatchMouseAction(flags, 0));
 }
 
 void ReadHeldFlags(benchmark::State& state) {
     RunQuorl();
     for ([[maybe_unused]] const auto& round : state)
-        benchmark::DoNotOptimize(GetHeldFlags(KEYS_AND_BUTTONS));
+        benchmark::DoNotOptimize(GetHeldFlags());
 }
 
 void HoverMove(benchmark::State& state) {
@@ -33,13 +33,13 @@ void HoverMove(benchmark::State& state) {
     for ([[maybe_unused]] const auto& round : state) {
         OnToolwinMouseMove(MainWnd, x, 60, 0);
         x ^= 1;
-        Desk.strokes.clear();
+        Desk.drawCalls.clear();
     }
 }
 
 } // namespace
 
-void EnrollMapMouse() {
+void RegisterMapMouse() {
     benchmark::RegisterBenchmark("match-combination", MatchCombination)
         ->Arg(LBUTTON)
         ->Arg(KEY_ALT | KEY_SHIFT); // bound; bound to nothing

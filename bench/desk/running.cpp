@@ -1,7 +1,7 @@
-// A running Quorl on the in-memory desktop, as the benchmarks need it.
+// Starts Quorl and opens windows on the in-memory desktop.
 #include "running.h"
 
-#include "core/main.h"
+#include "app/main.h"
 #include "core/state.h"
 
 #include "desk/desk.h"
@@ -11,7 +11,7 @@
 static std::vector<HWND> Windows;
 
 void RunQuorl() {
-    Desk.bTrace = 0;
+    Desk.recording = 0;
     if (!MainWnd)
         StartUp(reinterpret_cast<HINSTANCE>(0x400000));
 }

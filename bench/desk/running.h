@@ -1,13 +1,13 @@
-// A running Quorl on the in-memory desktop, as the benchmarks need it.
+// Shared by the benchmarks on the in-memory desktop.
 #pragma once
 
-// Starts Quorl, once for the whole process; the in-memory desktop writes nothing down.
+// Starts Quorl once per process, with recording off.
 void RunQuorl();
 
-// Has so many windows of other programs stand on the desktop, the first of them active. Starts Quorl if need
-// be.
+// Starts Quorl if necessary and opens or closes other programs' windows until there are `count`; the first is
+// active.
 void RunWithWindows(int count);
 
-// The benchmarks of the other files join the list.
-void EnrollMapMouse();
-void EnrollSettings();
+// Register the benchmarks of the other files.
+void RegisterMapMouse();
+void RegisterSettings();

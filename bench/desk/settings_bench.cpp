@@ -1,4 +1,4 @@
-// What loading and saving the settings costs beyond the disk, by the number of regions.
+// The cost of loading and saving settings without the disk, by the number of regions.
 #include "running.h"
 
 #include "core/state.h"
@@ -15,15 +15,15 @@ namespace {
 void SaveWithRegions(int count) {
     RunQuorl();
     for (int index = 0; index < count; ++index)
-        RegionTable[index] = {index, "some region", 1024, 768, 2048, 1536, 0x00ff00};
+        RegionTable[index] = {"some region", 1024, 768, 2048, 1536, 0x00ff00};
     num_regions = count;
-    SaveSettings(MainWnd);
+    SaveSettings();
 }
 
 void Load(benchmark::State& state) {
     SaveWithRegions(static_cast<int>(state.range(0)));
     for ([[maybe_unused]] const auto& round : state) {
-        LoadSettings(MainWnd);
+        LoadSettingsAction({});
         Desk.beeps.clear(); // one for each region that gets no digit
     }
 }
@@ -31,12 +31,12 @@ void Load(benchmark::State& state) {
 void Save(benchmark::State& state) {
     SaveWithRegions(static_cast<int>(state.range(0)));
     for ([[maybe_unused]] const auto& round : state)
-        SaveSettings(MainWnd);
+        SaveSettings();
 }
 
 } // namespace
 
-void EnrollSettings() {
+void RegisterSettings() {
     benchmark::RegisterBenchmark("load", Load)->Arg(0)->Arg(10)->Arg(MAX_REGIONS);
     benchmark::RegisterBenchmark("save", Save)->Arg(0)->Arg(10)->Arg(MAX_REGIONS);
 }

@@ -1,14 +1,13 @@
-// What the frequent deeds cost among real windows of another program, each beside its bare platform calls,
-// taking turns in one run; and what a start is spent on.
-//   quorl_bench.exe            all of it
+// The cost of frequent operations among another program's real windows, each alternating with its bare
+// platform calls in one run, and the parts of a start.
+//   quorl_bench.exe            everything
 //   quorl_bench.exe N          among N windows only, without the starts
-//   quorl_bench.exe --play N   the other program, with N windows
-//   quorl_bench.exe --start    one start, its parts
-#include "deeds.h"
+//   quorl_bench.exe --play N   acts as the other program, with N windows
+//   quorl_bench.exe --start    one start, split into parts
+#include "operations.h"
 
-#include "actions/default_bindings.h"
 #include "actions/hotkeys.h"
-#include "core/main.h"
+#include "app/main.h"
 #include "core/state.h"
 #include "menus/tray.h"
 
@@ -21,10 +20,10 @@
 
 namespace {
 
-constexpr char PLAYER_CLASS[] = "QuorlBenchPlayer";
-constexpr UINT CALM_MESSAGE = WM_APP; // answered when everything that waits has been handled
+constexpr char PROGRAM_CLASS[] = "QuorlBenchProgram";
+constexpr UINT IDLE_MESSAGE = WM_APP; // returns after all pending messages were handled
 constexpr int STARTS = 11;
-constexpr int CROWD = 1000;
+constexpr int MANY_WINDOWS = 1000;
 
 double Now() { // milliseconds
     LARGE_INTEGER count, second;
@@ -39,55 +38,55 @@ double Median(std::vector<double> values) {
     return *middle;
 }
 
-void HandleWaiting() {
+void HandlePending() {
     MSG message;
     while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
         DispatchMessageA(&message);
 }
 
-LRESULT CALLBACK PlayerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == CALM_MESSAGE)
-        HandleWaiting();
+LRESULT CALLBACK ProgramProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == IDLE_MESSAGE)
+        HandlePending();
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
-HWND OpenPlayer(DWORD exStyle, DWORD style, const POINT& at, const SIZE& size) {
-    return CreateWindowExA(exStyle, PLAYER_CLASS, "player", style, at.x, at.y, size.cx, size.cy, nullptr,
+HWND OpenProgramWindow(DWORD exStyle, DWORD style, const POINT& at, const SIZE& size) {
+    return CreateWindowExA(exStyle, PROGRAM_CLASS, "program", style, at.x, at.y, size.cx, size.cy, nullptr,
                            nullptr, nullptr, nullptr);
 }
 
-// One of many: as a program's window stands among others.
+// An ordinary overlapping window.
 HWND OpenOrdinary(int number) {
-    return OpenPlayer(0, WS_OVERLAPPEDWINDOW, {number % 500, number % 300 + 100}, {300, 200});
+    return OpenProgramWindow(0, WS_OVERLAPPEDWINDOW, {number % 500, number % 300 + 100}, {300, 200});
 }
 
-// One of a crowd, side by side: where a thousand lie over each other, the system spends minutes on what is to
-// be seen of each.
+// Windows side by side: with a thousand overlapping ones the system spends minutes on computing visible
+// parts.
 HWND OpenTile(int number) {
     constexpr int columns = 34;
-    return OpenPlayer(WS_EX_TOOLWINDOW, WS_POPUP | WS_BORDER, {number % columns * 30, number / columns * 20},
-                      {28, 18});
+    return OpenProgramWindow(WS_EX_TOOLWINDOW, WS_POPUP | WS_BORDER,
+                             {number % columns * 30, number / columns * 20}, {28, 18});
 }
 
 int Play(int count) {
     WNDCLASSA type{};
-    type.lpfnWndProc = PlayerProc;
-    type.lpszClassName = PLAYER_CLASS;
+    type.lpfnWndProc = ProgramProc;
+    type.lpszClassName = PROGRAM_CLASS;
     type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
     RegisterClassA(&type);
     for (int i = 0; i < count; ++i)
-        ShowWindow(count < CROWD ? OpenOrdinary(i) : OpenTile(i), SW_SHOWNOACTIVATE);
+        ShowWindow(count < MANY_WINDOWS ? OpenOrdinary(i) : OpenTile(i), SW_SHOWNOACTIVATE);
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0)
         DispatchMessageA(&message);
     return 0;
 }
 
-// Its output goes to `output`, if there is one. Gives the process.
-HANDLE StartAgain(const std::string& words, HANDLE output = nullptr) {
+// Returns the process; `output` receives its standard output.
+HANDLE StartSelf(const std::string& arguments, HANDLE output = nullptr) {
     char program[MAX_PATH];
     GetModuleFileNameA(nullptr, program, MAX_PATH);
-    std::string line = '"' + std::string(program) + "\" " + words;
+    std::string line = '"' + std::string(program) + "\" " + arguments;
     STARTUPINFOA how{};
     how.cb = sizeof how;
     if (output) {
@@ -101,59 +100,61 @@ HANDLE StartAgain(const std::string& words, HANDLE output = nullptr) {
     std::exit(1);
 }
 
-BOOL CALLBACK CountPlayer(HWND window, LPARAM count) {
+BOOL CALLBACK CountIfProgram(HWND window, LPARAM count) {
     char name[64] = "";
     GetClassNameA(window, name, sizeof name);
-    if (std::strcmp(name, PLAYER_CLASS) == 0 && IsWindowVisible(window))
+    if (std::strcmp(name, PROGRAM_CLASS) == 0 && IsWindowVisible(window))
         ++*reinterpret_cast<int*>(count);
     return TRUE;
 }
 
-int PlayersOnShow() {
+int CountProgramWindows() {
     int count = 0;
-    EnumWindows(CountPlayer, reinterpret_cast<LPARAM>(&count));
+    EnumWindows(CountIfProgram, reinterpret_cast<LPARAM>(&count));
     return count;
 }
 
-// Nobody has anything left to do.
-void WaitForCalm() {
-    SendMessageA(FindWindowA(PLAYER_CLASS, nullptr), CALM_MESSAGE, 0, 0);
+// Returns when the other program has handled everything.
+void WaitForIdle() {
+    SendMessageA(FindWindowA(PROGRAM_CLASS, nullptr), IDLE_MESSAGE, 0, 0);
 }
 
-double TimeOf(void (*does)()) {
-    WaitForCalm();
+double TimeOf(void (*run)()) {
+    WaitForIdle();
     const double start = Now();
-    does();
+    run();
     return Now() - start;
 }
 
-// Prints the medians of both sides, and that of the ratios of neighbours, which one slow moment hardly moves.
-void Measure(const Deed& deed, int windows) {
-    const int rounds = windows < CROWD ? 51 : 15;
+// Prints the medians of both sides and of the ratios of neighbouring measurements, which a slow moment hardly
+// affects.
+void Measure(const Operation& operation, int windows) {
+    const int rounds = windows < MANY_WINDOWS ? 51 : 15;
     std::vector<double> quorl, bare, ratios;
-    deed.quorl();
-    deed.bare();
+    operation.quorl();
+    operation.bare();
     for (int round = 0; round < rounds; ++round) {
-        quorl.push_back(TimeOf(deed.quorl));
-        bare.push_back(TimeOf(deed.bare));
+        quorl.push_back(TimeOf(operation.quorl));
+        bare.push_back(TimeOf(operation.bare));
         ratios.push_back(quorl.back() / bare.back());
     }
-    std::printf("%-22s %5d %12.1f %12.1f %8.2f\n", deed.name, windows, 1000 * Median(quorl) / deed.times,
-                1000 * Median(bare) / deed.times, Median(ratios));
+    std::printf("%-22s %5d %12.1f %12.1f %8.2f\n", operation.name, windows,
+                1000 * Median(quorl) / operation.times, 1000 * Median(bare) / operation.times,
+                Median(ratios));
     std::fflush(stdout);
 }
 
-void MeasureAmong(int windows) {
-    const HANDLE player = StartAgain("--play " + std::to_string(windows));
-    while (PlayersOnShow() < windows)
+void MeasureWithWindows(int windows) {
+    const HANDLE program = StartSelf("--play " + std::to_string(windows));
+    while (CountProgramWindows() < windows)
         Sleep(50);
-    WaitForCalm();
-    PrepareDeeds();
-    for (int deed = 0; deed < num_deeds; ++deed)
-        Measure(Deeds[deed], windows);
-    TerminateProcess(player, 0);
-    WaitForSingleObject(player, INFINITE);
-    while (PlayersOnShow() > 0)
+    WaitForIdle();
+    PrepareOperations();
+    for (int operation = 0; operation < num_operations; ++operation)
+        Measure(Operations[operation], windows);
+    TerminateProcess(program, 0);
+    WaitForSingleObject(program, INFINITE);
+    while (CountProgramWindows() > 0)
         Sleep(50);
 }
 
@@ -170,11 +171,11 @@ double Age() {
 
 void End() {
     TrayIcon(MainWnd, NIM_DELETE);
-    ClearAllActionKeys(MainWnd);
+    ClearAllActionKeys();
     ShutDown();
 }
 
-// What StartUp loads is loaded beforehand, so that each part is seen by itself. Prints one line of numbers.
+// Loads the libraries before StartUp does, so each part is measured by itself. Prints one line of numbers.
 int StartOnce() {
     const double age = Age();
     double at[6] = {Now()};
@@ -187,9 +188,11 @@ int StartOnce() {
     at[3] = Now();
     UpdateWindow(MainWnd);
     at[4] = Now();
-    ClearAllActionKeys(MainWnd);
+    ClearAllActionKeys();
     const double released = Now();
-    SetDefaultBindings(MainWnd);
+    FillActionTable();
+    for (int id = 0; id < NUM_ACTIONS; ++id)
+        RegisterDefaultKey(id);
     at[5] = Now();
     std::printf("%f %f %f %f %f %f\n", age, at[1] - at[0], at[2] - at[1], at[3] - at[2], at[4] - at[3],
                 at[5] - released);
@@ -199,15 +202,15 @@ int StartOnce() {
 
 enum StartPart { CREATION, COMPOSITOR, HOOK_LIBRARY, START_UP, FIRST_PAINT, HOTKEYS, NUM_PARTS };
 const char* const PartNames[NUM_PARTS] = {
-    "the system makes the process", "dwmapi.dll",      "quorl.dll",
-    "StartUp without these two",    "the first paint", "in StartUp: hotkeys",
+    "process creation",          "dwmapi.dll",  "quorl.dll",
+    "StartUp without these two", "first paint", "StartUp: hotkeys only",
 };
 
 std::vector<double> PartsOfOneStart() {
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     HANDLE read = nullptr, write = nullptr;
     CreatePipe(&read, &write, &inherited, 0);
-    const HANDLE child = StartAgain("--start", write);
+    const HANDLE child = StartSelf("--start", write);
     WaitForSingleObject(child, INFINITE);
     CloseHandle(write);
     char text[256] = "";
@@ -239,23 +242,23 @@ void MeasureStarts() {
 
 } // namespace
 
-int main(int count, char** words) {
-    if (count == 3 && std::strcmp(words[1], "--play") == 0)
-        return Play(std::atoi(words[2]));
-    if (count == 2 && std::strcmp(words[1], "--start") == 0)
+int main(int count, char** arguments) {
+    if (count == 3 && std::strcmp(arguments[1], "--play") == 0)
+        return Play(std::atoi(arguments[2]));
+    if (count == 2 && std::strcmp(arguments[1], "--start") == 0)
         return StartOnce();
-    const int only = count == 2 ? std::atoi(words[1]) : 0;
+    const int only = count == 2 ? std::atoi(arguments[1]) : 0;
     if (!only)
         MeasureStarts();
     if (!StartUp(GetModuleHandleA(nullptr)))
         return 1;
     UpdateWindow(MainWnd);
-    std::printf("%-22s %5s %12s %12s %8s\n", "deed", "among", "quorl us", "bare us", "ratio");
+    std::printf("%-22s %5s %12s %12s %8s\n", "operation", "windows", "quorl us", "bare us", "ratio");
     if (only)
-        MeasureAmong(only);
+        MeasureWithWindows(only);
     else
         for (const int windows : {10, 100, 1000})
-            MeasureAmong(windows);
+            MeasureWithWindows(windows);
     End();
     return 0;
 }

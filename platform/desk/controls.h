@@ -1,13 +1,13 @@
-// What dialogs and controls share with the rest of the in-memory desktop.
+// Shared by dialogs and controls.
 #pragma once
 
-#include "ground.h"
+#include "internal.h"
 
 #include <commctrl.h>
 
 #include <span>
 
-// Styles that only the system reads.
+// Styles and messages that only the system's own code uses.
 constexpr DWORD BS_DEFPUSHBUTTON = 1;
 constexpr DWORD BS_AUTOCHECKBOX = 3;
 constexpr DWORD BS_GROUPBOX = 7;
@@ -22,27 +22,26 @@ constexpr DWORD LBS_NOTIFY = 1;
 constexpr DWORD LBS_SORT = 2;
 constexpr DWORD WS_GROUP = 0x00020000;
 
-// Messages and news that only the system and its controls exchange.
 constexpr UINT BM_GETCHECK = 0x00F0;
 constexpr UINT BM_SETCHECK = 0x00F1;
 
-// A class that the system brings along.
+// A predefined window class.
 struct SystemClass {
     const char* name;
     WNDPROC procedure;
 };
 
-// Null if there is none of that name, in any case.
-const SystemClass* SystemClassNamed(const char* name);
+// Case-insensitive; null if there is none of that name.
+const SystemClass* FindSystemClass(const char* name);
 
-// What a kind of control answers to one message; what no row answers goes to the default.
 struct ControlMessage {
     UINT message;
-    LRESULT (*answer)(DeskWindow& control, WPARAM wParam, LPARAM lParam);
+    LRESULT (*handler)(DeskWindow& control, WPARAM wParam, LPARAM lParam);
 };
 
-LRESULT AnswerBy(std::span<const ControlMessage> table, HWND control, UINT message, WPARAM wParam,
-                 LPARAM lParam);
+// Messages that are not in the table go to DefaultProc.
+LRESULT HandleByTable(std::span<const ControlMessage> table, HWND control, UINT message, WPARAM wParam,
+                      LPARAM lParam);
 
 LRESULT CALLBACK ButtonProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK StaticProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam);
@@ -54,25 +53,25 @@ LRESULT CALLBACK ListViewProc(HWND control, UINT message, WPARAM wParam, LPARAM 
 LRESULT CALLBACK TrackbarProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Tells the parent by WM_COMMAND, or by WM_NOTIFY with a record that begins with `header`.
-void Tell(const DeskWindow& control, WORD code);
-LRESULT Notify(const DeskWindow& control, NMHDR& header, UINT code);
+// Sends WM_COMMAND, or WM_NOTIFY with a record that begins with `header`, to the parent.
+void NotifyCommand(const DeskWindow& control, WORD code);
+LRESULT SendNotify(const DeskWindow& control, NMHDR& header, UINT code);
 
-// A label or a frame round other controls: the mouse goes through.
-int IsSeenThrough(const DeskWindow& control);
+// Labels and group boxes do not receive mouse input.
+bool IsTransparentToMouse(const DeskWindow& control);
 
-// Visible with all it stands in, and enabled.
-int IsUsable(HWND control);
+// Shown and enabled.
+bool IsUsable(HWND control);
 
-// As a click or the space bar does it.
+// As a click or the space bar does.
 void PressButton(DeskWindow& button);
 
-// The user has clicked a row or a tab, one function a kind.
-void ChooseInListBox(DeskWindow& control, int row);
-void ChooseInComboBox(DeskWindow& control, int row);
-void ChooseTab(DeskWindow& control, int row);
-void ChooseInListView(DeskWindow& control, int row);
+// As a click on an item does.
+void SelectInListBox(DeskWindow& control, int index);
+void SelectInComboBox(DeskWindow& control, int index);
+void SelectTab(DeskWindow& control, int index);
+void SelectInListView(DeskWindow& control, int index);
 
-// The next control behind `from` (null: the first) that Tab goes to, round the end; `bBack` the other way.
-// Null if there is none.
-HWND NextTabStop(HWND dialog, HWND from, int bBack);
+// The next control after `from` that Tab moves to, with wrap-around; null `from`: the first. Null if there is
+// none.
+HWND NextTabStop(HWND dialog, HWND from, bool backwards);

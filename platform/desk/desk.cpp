@@ -1,5 +1,5 @@
-// The record itself: faults, look-up of handles, and what tests do to it.
-#include "ground.h"
+// The record itself: fault injection, window handles, opening and killing windows.
+#include "internal.h"
 
 #include <algorithm>
 #include <cstring>
@@ -7,50 +7,50 @@
 
 DeskState Desk;
 
-int Fails(const char* call) {
+bool CallFails(const char* call) {
     ++Desk.calls;
-    if (Desk.bTrace)
+    if (Desk.recording)
         Desk.trace.push_back(call);
     DeskFault& fault = Desk.fault;
     if (fault.callsLeft == 0 || (!fault.call.empty() && fault.call != call))
-        return 0;
+        return false;
     if (fault.callsLeft > 1) {
         --fault.callsLeft;
-        return 0;
+        return false;
     }
-    fault.callsLeft = fault.bForGood ? 1 : 0;
+    fault.callsLeft = fault.permanent ? 1 : 0;
     ++fault.hits;
     Desk.lastError = fault.error;
-    return 1;
+    return true;
 }
 
-int CallsOf(const char* call) {
+int CountCalls(const char* call) {
     return static_cast<int>(std::count_if(Desk.trace.begin(), Desk.trace.end(),
                                           [call](const char* made) { return !std::strcmp(made, call); }));
 }
 
-// Handles start high and are spaced, so that a small number is never taken for one.
-static HWND HandleAt(std::size_t place) {
-    return reinterpret_cast<HWND>((place + 0x4000) * 4);
+// Handles start high, so a small number is never a valid one.
+static HWND HandleFor(std::size_t index) {
+    return reinterpret_cast<HWND>((index + 0x4000) * 4);
 }
 
-static std::size_t PlaceOf(HWND window) {
+static std::size_t IndexOf(HWND window) {
     return reinterpret_cast<std::size_t>(window) / 4 - 0x4000;
 }
 
-DeskWindow& RowOf(HWND window) {
-    return Desk.windows.at(PlaceOf(window));
+DeskWindow& WindowOf(HWND window) {
+    return Desk.windows.at(IndexOf(window));
 }
 
-DeskWindow* Living(HWND window) {
-    const std::size_t place = PlaceOf(window);
-    if (place >= Desk.windows.size() || !Desk.windows[place].handle)
+DeskWindow* LiveWindow(HWND window) {
+    const std::size_t index = IndexOf(window);
+    if (index >= Desk.windows.size() || !Desk.windows[index].handle)
         return nullptr;
-    return &Desk.windows[place];
+    return &Desk.windows[index];
 }
 
-DeskWindow* Named(HWND window) {
-    DeskWindow* row = Living(window);
+DeskWindow* ResolveHandle(HWND window) {
+    DeskWindow* row = LiveWindow(window);
     if (row && row->diesAtCall && --row->diesAtCall == 0) {
         KillWindow(window);
         row = nullptr;
@@ -60,47 +60,59 @@ DeskWindow* Named(HWND window) {
     return row;
 }
 
-// What a topmost window owns is topmost with it.
-HWND NewWindow(DeskWindow row) {
-    const HWND handle = HandleAt(Desk.windows.size());
-    row.handle = handle;
-    const int bChild = (row.style & WS_CHILD) != 0;
-    const DeskWindow* owner = bChild ? nullptr : Living(row.owner);
-    row.exStyle |= owner ? owner->exStyle & WS_EX_TOPMOST : 0;
-    std::vector<HWND>& others = bChild ? RowOf(row.owner).children : Desk.order;
-    Desk.windows.push_back(std::move(row));
+DeskWindow* ResolveForChange(HWND window) {
+    DeskWindow* record = ResolveHandle(window);
+    if (record && record->elevated) {
+        Desk.lastError = ERROR_ACCESS_DENIED;
+        return nullptr;
+    }
+    if (record && record->response == DeskResponse::Hung)
+        ++Desk.blockedCalls;
+    return record;
+}
+
+// Windows owned by a topmost window are topmost too.
+HWND AddWindow(DeskWindow window) {
+    const HWND handle = HandleFor(Desk.windows.size());
+    window.handle = handle;
+    window.dpi = DisplayFor(window.rect).dpi;
+    const bool isChild = (window.style & WS_CHILD) != 0;
+    const DeskWindow* owner = isChild ? nullptr : LiveWindow(window.owner);
+    window.exStyle |= owner ? owner->exStyle & WS_EX_TOPMOST : 0;
+    std::vector<HWND>& others = isChild ? WindowOf(window.owner).children : Desk.zOrder;
+    Desk.windows.push_back(std::move(window));
     others.push_back(handle);
-    if (!bChild)
+    if (!isChild)
         Raise(handle);
     return handle;
 }
 
-HWND OpenWindow(const char* title, const RECT& place, const char* className) {
+HWND OpenWindow(const char* title, const RECT& rect, const char* className) {
     DeskWindow window;
     window.className = className;
     window.title = title;
-    window.place = place;
+    window.rect = rect;
     window.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
-    return NewWindow(std::move(window));
+    return AddWindow(std::move(window));
 }
 
-static void TakeFromOthers(HWND window) {
-    std::erase(Desk.order, window);
-    if (DeskWindow* parent = Living(RowOf(window).owner))
+static void Unlink(HWND window) {
+    std::erase(Desk.zOrder, window);
+    if (DeskWindow* parent = LiveWindow(WindowOf(window).owner))
         std::erase(parent->children, window);
 }
 
 void KillWindow(HWND window) {
-    const std::vector<HWND> children = RowOf(window).children;
+    const std::vector<HWND> children = WindowOf(window).children;
     for (const HWND child : children)
         KillWindow(child);
-    TakeFromOthers(window);
-    RowOf(window).handle = nullptr;
+    Unlink(window);
+    WindowOf(window).handle = nullptr;
     for (HWND* held : {&Desk.foreground, &Desk.focus, &Desk.capture})
         if (*held == window)
             *held = nullptr;
-    DropTimersOf(window);
-    DropHotkeysOf(window);
+    RemoveTimers(window);
+    RemoveHotkeys(window);
 }
 
 int CopyText(const std::string& from, char* to, int limit) {

@@ -1,5 +1,6 @@
-// The desktop held in memory: one record, which tests read and write directly. The calls that windows.h
-// declares act on it as Windows would. Start reading here; each .cpp beside it implements one group of calls.
+// The in-memory desktop: one record, `Desk`, that tests read and write directly. The calls declared in
+// windows.h act on it as Windows would. Start reading here; each .cpp beside it implements one group of
+// calls. Rectangles and points are screen pixels unless stated otherwise, times are milliseconds.
 #pragma once
 
 #include "windows.h"
@@ -12,97 +13,104 @@
 #include <string>
 #include <vector>
 
-// How a window of another program behaves when it is asked something.
-enum class DeskAnswer {
-    Answers,
-    TimesOut, // waits out its time, then fails with `error`
+// How another program's window responds to a sent message.
+enum class DeskResponse {
+    Responds,
+    TimesOut, // uses up the timeout, then fails with `error`
     Hung,     // known to be hung: fails at once with `error`
     Fails,    // refuses with `error`
-    Leaves,   // its program ends instead of answering
+    Exits,    // its program ends instead of responding
 };
 
 struct DeskMessage {
     UINT message;
     WPARAM wParam;
     LPARAM lParam;
-    RECT record; // what lParam pointed to, for WM_MOVING
+    RECT record; // for WM_MOVING: what lParam pointed to
 };
 
-// A row of a list box or a drop-down list, a tab, a column of a list view.
-struct DeskRow {
-    std::string text;
-    LPARAM data = 0; // of a column: its width in pixels
+// An item of a list box or a drop-down list, a tab, a column of a list view.
+struct DeskItem {
+    std::string text; // UTF-8
+    LPARAM data = 0;  // of a column: its width in pixels
 };
 
-// What a control keeps; each kind uses its own few.
+// State of a control; each kind uses a few of the fields.
 struct DeskControl {
-    int bChecked = 0;            // button
-    HANDLE image = nullptr;      // button, as BM_SETIMAGE gave it
-    std::vector<DeskRow> rows;   // list box, drop-down list, tab control
-    std::size_t room = SIZE_MAX; // rows that it takes: none fits in after them
-    int chosen = -1;             // row that is selected, tab that is shown
-    int count = 0;               // list view: rows, which it only counts
-    int mark = -1;               // list view: row that was clicked last
-    std::vector<DeskRow> columns;
-    std::vector<int> redrawn;                // list view: rows that were asked for anew
-    DWORD extendedStyle = 0;                 // list view
-    int least = 0, most = 100, position = 0; // trackbar
+    bool checked = false;            // button
+    HANDLE image = nullptr;          // button: set by BM_SETIMAGE
+    std::vector<DeskItem> items;     // list box, drop-down list, tab control
+    std::size_t capacity = SIZE_MAX; // items it accepts before it reports that memory ran out
+    int selected = -1;               // selected item, visible tab
+    int itemCount = 0;               // list view: it stores only the number of its items
+    int mark = -1;                   // list view: item clicked last
+    std::vector<DeskItem> columns;
+    std::vector<int> redrawn;             // list view: items that LVM_REDRAWITEMS named
+    DWORD extendedStyle = 0;              // list view
+    int min = 0, max = 100, position = 0; // trackbar
 };
 
 struct DeskWindow {
-    HWND handle = nullptr; // null: the window is gone
+    HWND handle = nullptr; // null: destroyed
     std::string className;
-    std::string title;
-    RECT place{}; // screen pixels
+    std::string title; // UTF-8; A calls see characters beyond Latin-1 as '?'
+    RECT rect{};
     DWORD style = 0;
     DWORD exStyle = 0;
     HWND owner = nullptr; // of a child: its parent
     HINSTANCE instance = nullptr;
-    WNDPROC procedure = nullptr; // null: a window of another program
-    RECT restored{};             // place before it was minimized or maximized
-    int bMaximizeAgain = 0;      // it was maximized when it was minimized
-    int bCloaked = 0;            // the compositor keeps it out of sight
-    int alpha = -1;              // as SetLayeredWindowAttributes set it; -1: never
-    std::vector<HWND> children;  // in the order of their creation
-    LONG_PTR id = 0;             // of a child
+    WNDPROC procedure = nullptr;    // null: another program's window
+    RECT normalRect{};              // `rect` before it was minimized or maximized
+    bool restoresMaximized = false; // was maximized when it was minimized
+    bool cloaked = false;           // hidden by the compositor although visible
+    std::optional<RECT>
+        margins;                // invisible part of the frame per side; default: Desk.frameMargins if sizable
+    UINT dpi = 96;              // of this process: the scale it was told last
+    int alpha = -1;             // set by SetLayeredWindowAttributes; -1: never
+    std::vector<HWND> children; // in order of creation
+    LONG_PTR id = 0;            // of a child
     LONG_PTR userData = 0;
     DLGPROC dialog = nullptr;   // of a dialog
-    HWND focusInside = nullptr; // of a dialog: the control that has the focus whenever it is active
+    HWND dialogFocus = nullptr; // of a dialog: the control that has the focus while it is active
     DeskControl control;        // of a control
 
-    // Windows of other programs only:
-    DeskAnswer answer = DeskAnswer::Answers;
-    DWORD error = ERROR_TIMEOUT; // when it times out or is hung; the oldest systems say 0
-    int bRewrites = 0;           // its WM_MOVING handler puts `rewritten` into the record
-    RECT rewritten{};            // left, top, width, height
-    SIZE least{0, 0};            // sizes that it refuses to go below or above
-    SIZE most{1 << 20, 1 << 20};
-    int diesAtCall = 0; // the n-th call that names this window finds it gone; 0: never
+    // Other programs' windows only:
+    DeskResponse response = DeskResponse::Responds;
+    DWORD error = ERROR_TIMEOUT; // last error after TimesOut, Hung or Fails
+    bool overridesMove = false;  // its WM_MOVING handler writes `moveOverride` into the record
+    RECT moveOverride{};         // left, top, width, height
+    bool elevated = false;       // higher integrity: messages and changes fail with ERROR_ACCESS_DENIED
+    bool movesOwned = false;     // its program moves the windows it owns along with it
+    bool dpiAware = true;        // false: reports 96 DPI and is moved to whole pixels of its own scale only
+    std::optional<RECT> pendingRect; // posted by SWP_ASYNCWINDOWPOS; WakeWindow applies it
+    SIZE minSize{0, 0};
+    SIZE maxSize{1 << 20, 1 << 20};
+    int diesAtCall = 0; // destroyed just before the n-th call that names it; 0: never
     std::vector<DeskMessage> received;
 
-    int bInvalid = 0; // waits for WM_PAINT
-    int bErase = 0;   // its background waits too
-    RECT invalid{};   // client pixels
+    bool needsPaint = false; // WM_PAINT is pending
+    bool needsErase = false; // so is WM_ERASEBKGND
+    RECT invalid{};          // client pixels
 };
 
 struct DeskTimer {
     HWND window;
     UINT_PTR id;
-    DWORD period; // milliseconds
+    DWORD period;
     DWORD due;
     TIMERPROC callback;
 };
 
-// What the user did with the mouse and no thread has read yet.
+// Mouse input that no thread has read yet.
 struct DeskInput {
     UINT message;
-    POINT at; // screen pixels
+    POINT at;
     DWORD time;
-    BYTE keys[256]; // what was held when it happened
+    BYTE keys[256]; // keys and buttons held at that time
 };
 
 struct DeskHotkey {
-    HWND window; // null: held by another program
+    HWND window; // null: another program's
     int id;
     UINT modifiers;
     UINT key;
@@ -116,16 +124,16 @@ struct DeskBox {
     int answer;
 };
 
-// One call fails: the n-th of that name, or the n-th of all. `hits` says how often it struck.
+// Makes one call fail: the n-th of that name, or the n-th of any name.
 struct DeskFault {
-    std::string call;  // empty: any call
-    int callsLeft = 0; // 0: nothing fails
-    int bForGood = 0;  // once struck, all later ones fail too
+    std::string call;       // empty: any call
+    int callsLeft = 0;      // 0: nothing fails
+    bool permanent = false; // later calls fail too
     DWORD error = 0;
-    int hits = 0;
+    int hits = 0; // calls that failed
 };
 
-enum class DeskObjectKind { Brush, Font, Icon, Pen };
+enum class DeskObjectKind { Bitmap, Brush, Font, Icon, Pen };
 
 struct DeskPen {
     int style;
@@ -133,56 +141,61 @@ struct DeskPen {
     COLORREF color;
 };
 
+// One drawing call with the objects that were selected at the time.
+struct DeskDrawCall {
+    std::string call; // its name
+    HWND window;
+    RECT rect;        // client pixels; LineTo: from left, top to right, bottom
+    std::string text; // UTF-8
+    HGDIOBJ font;
+    UINT format; // DrawEdge: the edge, with the flags in the second byte
+    DeskPen pen{};
+    HGDIOBJ brush = nullptr;
+    COLORREF fill = 0; // of the brush
+    int rop = R2_COPYPEN;
+    RECT clip{};
+    std::vector<POINT> points; // Polygon
+    COLORREF textColor = 0;
+};
+
 struct DeskObject {
     DeskObjectKind kind{};
-    int bStock = 0; // belongs to the system and is never deleted
-    int bLive = 1;
+    bool stock = false; // belongs to the system and is never deleted
+    bool live = true;
     int index = 0;      // Brush: system colour; Icon: resource number
     COLORREF color = 0; // Brush
     DeskPen pen{};
     int height = 0; // Font
     int weight = 0;
     std::string face;
+    SIZE size{};                         // Bitmap, Icon: pixels requested
+    std::vector<DeskDrawCall> drawCalls; // Bitmap: drawn into it
 };
 
 struct DeskContext {
-    HWND window;
-    HGDIOBJ font, pen, brush; // selected
+    HWND window;              // null: a memory context
+    HGDIOBJ font, pen, brush; // selected objects
     int rop;
-    POINT at;  // where a line starts
-    RECT clip; // client pixels: nothing is drawn outside
-    int bLive;
-    int backMode = 2; // OPAQUE
+    POINT at;  // current position
+    RECT clip; // client pixels
+    bool live;
+    int backMode = 2;         // OPAQUE
+    HGDIOBJ bitmap = nullptr; // of a memory context
+    COLORREF textColor = 0;
 };
 
-// One thing drawn.
-struct DeskStroke {
-    std::string what; // name of the call
-    HWND window;
-    RECT rect; // LineTo: from left, top up to right, bottom
-    std::string text;
-    HGDIOBJ font;
-    UINT format;   // DrawEdge: the edge, with its flags in the second byte
-    DeskPen pen{}; // what was selected at that moment
-    HGDIOBJ brush = nullptr;
-    COLORREF fill = 0; // of the brush
-    int rop = R2_COPYPEN;
-    RECT clip{};
-    std::vector<POINT> points; // Polygon
-};
-
-// What TileWindows was given.
+// The arguments of a TileWindows call.
 struct DeskTiling {
     UINT how;
     RECT rect;
     std::vector<HWND> windows;
 };
 
-struct DeskColorBox {
+struct DeskColorDialog {
     HWND owner;
     COLORREF initial;
     DWORD flags;
-    std::vector<COLORREF> custom; // the 16 beside the palette
+    std::vector<COLORREF> custom; // the 16 custom colours
 };
 
 struct DeskMenuItem {
@@ -193,18 +206,18 @@ struct DeskMenuItem {
     std::string text;
 };
 
-// Its items can still be read when it has been destroyed.
+// Its items can still be read after it was destroyed.
 struct DeskMenu {
     std::vector<DeskMenuItem> items;
-    int bLive = 1;
+    bool live = true;
 };
 
 struct DeskShownMenu {
     HMENU menu;
-    POINT at; // screen pixels
+    POINT at;
     UINT flags;
     HWND window;
-    UINT choice; // 0: the user chose nothing
+    UINT choice; // 0: closed without a choice
 };
 
 struct DeskTrayIcon {
@@ -217,127 +230,172 @@ struct DeskTrayIcon {
 
 struct DeskModule {
     std::map<std::string, FARPROC> exports;
-    int bInstalled = 1; // LoadLibraryA finds it
+    bool installed = true; // LoadLibraryA finds it
     int loads = 0;
 };
 
+struct DeskDisplay {
+    RECT rect;
+    RECT work;        // without the taskbar
+    std::string name; // szDevice, which identifies it when displays change; "": numbered by its index
+    UINT dpi;
+
+    // NOLINTNEXTLINE: a plain rectangle is a display without a taskbar
+    DeskDisplay(const RECT& area) : DeskDisplay(area, area) {}
+    DeskDisplay(const RECT& area, const RECT& workArea, std::string device = "", UINT pixelsPerInch = 96)
+        : rect(area), work(workArea), name(std::move(device)), dpi(pixelsPerInch) {}
+};
+
 struct DeskState {
-    std::deque<DeskWindow> windows; // every window ever made; a handle is a place in here
-    std::vector<HWND> order;        // living top-level windows, the topmost first
+    std::deque<DeskWindow> windows; // every window ever created; handles are indices into it
+    std::vector<HWND> zOrder;       // existing top-level windows, topmost first
     std::map<std::string, WNDCLASSA> classes;
     HWND foreground = nullptr;
     HWND focus = nullptr;
     HWND capture = nullptr;
+    bool foregroundLock = false; // SetForegroundWindow needs the foreground or the last input, as on Windows
+    bool ownsLastInput = false;  // this process received the last input
+    bool clicksActivate = false; // a press on an inactive window of this process activates it, as on Windows
+    std::vector<HWND> flashing;  // windows that were refused the foreground
 
-    DWORD now = 0;   // milliseconds
-    DWORD until = 0; // GetMessageA lets time pass up to here, then gives 0 ...
-    int bRunDry = 0; // ... and sets this, so that it is not taken for the end
-    std::deque<std::function<void()>>
-        script; // what the user does, one act whenever nothing else is to be done
+    // GetMessageA with nothing to do runs the next entry of `script`, then moves the clock to the next timer;
+    // at `runUntil` it sets `timeIsUp` and returns 0.
+    DWORD now = 0;
+    DWORD runUntil = 0;
+    bool timeIsUp = false;
+    std::deque<std::function<void()>> script; // what the user does
     std::deque<MSG> queue;
     std::deque<DeskInput> inputs;
-    int bQuit = 0;
+    bool quitPosted = false;
     int exitCode = 0;
     std::vector<DeskTimer> timers;
 
     POINT cursor{512, 384};
-    BYTE keysNow[256] = {};  // GetAsyncKeyState: the state of the moment, 1 is down
-    BYTE keysRead[256] = {}; // GetKeyState: as of the last input message that the thread has read
+    BYTE keysNow[256] = {};  // GetAsyncKeyState: current state, 1 is down
+    BYTE keysRead[256] = {}; // GetKeyState: as of the input message read last
     std::vector<DeskHotkey> hotkeys;
+    std::map<char, SHORT> keyScans; // replaces what VkKeyScanA returns; -1: the layout lacks the character
+    DWORD messageTime = 0;          // GetMessageTime
 
-    int pixelsPerInch{96};
-    std::vector<RECT> monitors{
-        {0, 0, 1024, 768}
-    };                    // the first is the primary one
+    int pixelsPerInch{96}; // of the system: GetDeviceCaps, size of small icons
+    std::vector<DeskDisplay> displays{RECT{0, 0, 1024, 768}}; // the first is the primary one
+    RECT frameMargins{}; // invisible part of sizable frames; {7, 0, 7, 7} on Windows 10 and 11
     std::map<std::string, DeskModule> modules; // by lower-case name
-    std::map<std::string, std::string> files;  // profile files by lower-case name
-    std::set<std::string> protectedFiles;      // the read-only ones among them
+    std::map<std::string, std::string>
+        files; // text by lower-case name in the Windows folder, else by full path
+    std::wstring programPath = L"C:\\Program Files\\Quorl\\quorl.exe"; // GetModuleFileNameW
+    std::map<std::wstring, std::wstring> shortPaths; // GetShortPathNameW; others stay as they are
+    std::set<std::string> protectedFiles;            // read-only ones
 
-    std::deque<int> answers; // to the boxes that will come
+    std::deque<int> boxAnswers; // to the next message boxes
     std::vector<DeskBox> boxes;
-    std::deque<std::optional<COLORREF>> colorAnswers; // to the colour dialogs that will come; none cancels
-    std::vector<DeskColorBox> colorBoxes;
-    std::map<int, COLORREF> systemColors{
-        {COLOR_BACKGROUND, 0xa56e3a}
-    }; // all others are grey
-    std::function<void()> inBox;       // runs while a box is open, as timers and other messages do
-    int surprises = 0; // boxes and menus that nobody answers, and calls that would have blocked for ever
-    std::deque<UINT> choices; // from the menus that will come, by id; 0 closes the menu
+    std::deque<std::optional<COLORREF>> colorChoices; // in the next colour dialogs; nullopt cancels
+    std::vector<DeskColorDialog> colorDialogs;
+    std::map<int, COLORREF> systemColors{{COLOR_BACKGROUND, 0xa56e3a},
+                                         {COLOR_INFOTEXT, 0}}; // all others are grey
+    std::function<void()> duringBox; // runs while a box is open, as its message loop would
+    int unexpected = 0;           // boxes and menus without a prepared answer, calls that would block forever
+    int blockedCalls = 0;         // changes of hung windows that would wait for them
+    std::deque<UINT> menuChoices; // item ids for the next menus; 0 closes the menu
     std::deque<DeskMenu> menus;
     std::vector<DeskShownMenu> shownMenus;
     std::vector<DeskTrayIcon> tray;
+    int trayAddsToFail = 0;                         // the next NIM_ADD calls fail ...
+    bool trayAddsLate = false;                      // ... but add the icon all the same, as after a timeout
+    std::map<std::string, UINT> registeredMessages; // by lower-case name
+    DWORD shutdownLevel = 0x280;
+    std::map<HWND, RECT> rememberedRects; // where other programs' windows were when log-off ended them
     std::vector<UINT> beeps;
-    std::vector<DWORD> tones; // hertz, as Beep was given them
+    std::vector<DWORD> tones; // frequencies in hertz given to Beep
     std::vector<DeskTiling> tilings;
     int locks = 0; // calls of LockWorkStation
     std::vector<DeskMessage> broadcasts;
 
     std::deque<DeskObject> objects;
     std::deque<DeskContext> contexts;
-    std::vector<DeskStroke> strokes;
-    int deletedInUse =
-        0; // objects deleted while selected: Windows waits with them, good programs do not do it
+    std::vector<DeskDrawCall> drawCalls;
+    int deletedInUse = 0; // objects deleted while selected
 
     DWORD lastError = 0;
-    LPTOP_LEVEL_EXCEPTION_FILTER crashFilter = nullptr; // what runs when the process crashes
+    LPTOP_LEVEL_EXCEPTION_FILTER crashFilter = nullptr;
     DeskFault fault;
-    int calls = 0;  // platform calls so far
-    int bTrace = 1; // keep their names, what was drawn and what others received; off in benchmarks
-    std::vector<const char*> trace;
+    int calls = 0;                  // platform calls so far
+    bool recording = true;          // fills `trace`, `drawCalls` and `received`; off in benchmarks
+    std::vector<const char*> trace; // names of the calls
 };
 
 extern DeskState Desk;
 
-// Opens a window of another program, on top of the others and without activating it. Screen pixels.
-HWND OpenWindow(const char* title, const RECT& place, const char* className = "Program");
+// Opens another program's window on top of the others, without activating it.
+HWND OpenWindow(const char* title, const RECT& rect, const char* className = "Program");
 
-// The row of a window, dead or alive; `window` must have been a window once.
-DeskWindow& RowOf(HWND window);
+// The record of a window, existing or destroyed; `window` must be a handle that was valid once.
+DeskWindow& WindowOf(HWND window);
 
-// A menu, living or destroyed.
+// A menu, existing or destroyed.
 DeskMenu& MenuOf(HMENU menu);
 
-// The window is gone from one moment to the next, as when its program is killed.
+// What the user sees of a window: its rectangle without the invisible part of the frame.
+RECT VisibleRect(HWND window);
+
+// A hung window responds again and obeys the move that was posted to it meanwhile.
+void WakeWindow(HWND window);
+
+// Changes the displays as Windows does: sends WM_DISPLAYCHANGE and WM_SETTINGCHANGE, then relocates the
+// windows of removed or moved displays, except those that moved meanwhile. Without `relocate` that waits for
+// RelocateWindows. Displays are identified by name.
+void ChangeDisplays(std::vector<DeskDisplay> displays, bool relocate = true);
+void RelocateWindows();
+
+// The taskbar loses its icons and announces itself by the registered message "TaskbarCreated".
+void RestartTaskbar();
+
+// Ends the session: this process receives WM_QUERYENDSESSION and WM_ENDSESSION with lParam `reason`, before
+// the other programs end if its shutdown level is above theirs.
+void LogOff(LPARAM reason = 0);
+
+// Optional functions: DwmGetWindowAttribute in dwmapi.dll; GetDpiForWindow in user32.dll.
+void InstallCompositor();
+void InstallDpiFunctions();
+
+// Removes a window without any message, as when its program is killed.
 void KillWindow(HWND window);
 
-// The user presses a combination: posts WM_HOTKEY if this process holds it. Modifiers are MOD_ values.
-void PressCombination(UINT modifiers, UINT key);
+// Presses a key combination: posts WM_HOTKEY if this process holds it. MOD_ values.
+void PressHotkey(UINT modifiers, UINT key);
 
-// The user holds or releases a key or button: the state of the moment, not yet read by any thread.
-void HoldKey(int key, int bDown);
+// Holds a combination down: as many WM_HOTKEY as the keyboard repeats, `interval` apart, with the clock after
+// the last one.
+void HoldHotkey(UINT modifiers, UINT key, int repeats, DWORD interval = 33);
 
-// The user moves the mouse, in screen pixels, or works a button, which is a VK_ value: the state of the
-// moment changes, and a message waits for whoever gets it then.
+// Presses or releases a key or button; no thread has read it yet.
+void HoldKey(int key, bool down);
+
+// Moves the mouse, or presses or releases one of its buttons (VK_ values). The current state changes at once,
+// and the input is queued for the window that will receive it.
 void MoveMouse(int x, int y);
-void PressMouse(int button, int bDown);
+void PressMouse(int button, bool down);
 
-// A point of a window's client area, in screen pixels.
-POINT OnScreen(HWND window, int x, int y);
+// From client to screen pixels.
+POINT ToScreen(HWND window, int x, int y);
 
-// How often a call of this name was made since `Desk.trace` was last cleared.
-int CallsOf(const char* call);
+// Number of calls of this name since `Desk.trace` was last cleared.
+int CountCalls(const char* call);
 
-// Drawing objects and contexts that nobody has deleted or released; those of the system do not count.
+// Drawing objects and contexts that have not been deleted or released, without the system's own.
 int LiveObjects();
 int LiveContexts();
 
-// The control of a dialog by its number, without counting as a call; null if there is none.
-HWND ControlOf(HWND dialog, int id);
+// The control of a dialog by its id, without counting as a call; null if there is none.
+HWND FindControl(HWND dialog, int id);
 
-// What a user does with controls. Nothing happens to one that is hidden or disabled.
-//
-// Clicks a button: it takes the focus, changes its check mark by itself if it is of that kind, and tells.
-void ClickControl(HWND button);
-// Goes to a control; the one that is left tells that.
-void GoToControl(HWND control);
-// Goes to an edit box and replaces its text; digits only where it takes no others.
-void TypeInto(HWND edit, const char* text);
-// Clicks a row, from 0, of a list box, a drop-down list or a list view, or a tab.
-void ChooseRow(HWND control, int row);
-// Drags the slider of a trackbar to a position.
+// User actions on controls. They do nothing to a hidden or disabled one.
+void ClickControl(HWND button); // as the mouse does it: focus, automatic check mark, notification
+void FocusControl(HWND control);
+void TypeText(HWND edit, const char* text); // replaces all of it
+void SelectItem(HWND control, int index);   // list box, drop-down list, list view or tab control; from 0
 void DragSlider(HWND trackbar, int position);
-// Presses and releases a key, which goes to whatever has the focus. VK_ values.
-void PressKey(int key);
+void PressKey(int key); // presses and releases it where the focus is. VK_ values.
 
-// What the user reads in a row and a column of a list view, both from 0.
-std::string TextInList(HWND listView, int row, int column);
+// The text in a list view's cell, both from 0.
+std::string ListViewText(HWND listView, int item, int column);

@@ -1,4 +1,4 @@
-// Dialogs: made from their templates, ended, and asked for their controls by number.
+// Dialogs: creation from templates, closing, access to controls by id.
 #include "controls.h"
 #include "templates.h"
 
@@ -8,42 +8,43 @@
 #include <cstdlib>
 #include <utility>
 
-// Pixels of MS Sans Serif at 8 points and 96 dots an inch: 4 units across, 8 down.
+// Pixels of 4 horizontal and 8 vertical dialog units: MS Sans Serif at 8 points and 96 DPI.
 constexpr int BASE_WIDTH = 6;
 constexpr int BASE_HEIGHT = 13;
 
-static int Across(int units) {
+static int PixelsX(int units) {
     return (units * BASE_WIDTH + 2) / 4;
 }
 
-static int Down(int units) {
+static int PixelsY(int units) {
     return (units * BASE_HEIGHT + 4) / 8;
 }
 
 static void AddControl(HWND dialog, const ControlTemplate& from, const SystemClass& kind) {
-    const POINT corner = OnScreen(dialog, Across(from.place.x), Down(from.place.y));
+    const POINT corner = ToScreen(dialog, PixelsX(from.rect.x), PixelsY(from.rect.y));
     DeskWindow control;
     control.className = kind.name;
     control.title = from.text;
-    control.place = {corner.x, corner.y, corner.x + Across(from.place.width),
-                     corner.y + Down(from.place.height)};
+    control.rect = {corner.x, corner.y, corner.x + PixelsX(from.rect.width),
+                    corner.y + PixelsY(from.rect.height)};
     control.style = from.style;
     control.exStyle = from.exStyle;
     control.owner = dialog;
     control.id = from.id;
-    control.instance = RowOf(dialog).instance;
+    control.instance = WindowOf(dialog).instance;
     control.procedure = kind.procedure;
-    Invalidate(RowOf(NewWindow(std::move(control))), nullptr, 1);
+    Invalidate(WindowOf(AddWindow(std::move(control))), nullptr, 1);
 }
 
-// In the middle of the screen, or where the template says in the client area of its owner, on the screen.
+// Centred on the primary display, or at the template's position in the owner's client area, clamped to the
+// display.
 static POINT CornerOf(const DialogTemplate& from, HWND owner, SIZE size) {
-    const RECT screen = Desk.monitors.front();
+    const RECT screen = Desk.displays.front().rect;
     if (from.style & DS_CENTER)
-        return {(screen.left + screen.right - size.cx) / 2, (screen.top + screen.bottom - size.cy) / 2};
-    POINT corner{Across(from.place.x), Down(from.place.y)};
-    if (Living(owner))
-        corner = OnScreen(owner, corner.x, corner.y);
+        return {screen.left + (Width(screen) - size.cx) / 2, screen.top + (Height(screen) - size.cy) / 2};
+    POINT corner{PixelsX(from.rect.x), PixelsY(from.rect.y)};
+    if (LiveWindow(owner))
+        corner = ToScreen(owner, corner.x, corner.y);
     return {std::max(screen.left, std::min(corner.x, screen.right - size.cx)),
             std::max(screen.top, std::min(corner.y, screen.bottom - size.cy))};
 }
@@ -57,40 +58,39 @@ static HWND NewDialog(const DialogTemplate& from, HWND owner, HINSTANCE instance
     dialog.owner = owner;
     dialog.instance = instance;
     dialog.procedure = DialogProc;
-    const RECT frame = FrameOf(dialog);
-    const SIZE size{Across(from.place.width) + frame.left + frame.right,
-                    Down(from.place.height) + frame.top + frame.bottom};
+    const RECT frame = FrameWidths(dialog);
+    const SIZE size{PixelsX(from.rect.width) + frame.left + frame.right,
+                    PixelsY(from.rect.height) + frame.top + frame.bottom};
     const POINT corner = CornerOf(from, owner, size);
-    dialog.place = {corner.x, corner.y, corner.x + size.cx, corner.y + size.cy};
-    return NewWindow(std::move(dialog));
+    dialog.rect = {corner.x, corner.y, corner.x + size.cx, corner.y + size.cy};
+    return AddWindow(std::move(dialog));
 }
 
-// 0 if there is no such control: then there is no dialog.
-static int AddControls(HWND dialog, const DialogTemplate& from) {
+// False for an unknown class: the dialog is not created then.
+static bool AddControls(HWND dialog, const DialogTemplate& from) {
     for (const ControlTemplate& control : from.controls) {
-        const SystemClass* kind = SystemClassNamed(control.className.c_str());
+        const SystemClass* kind = FindSystemClass(control.className.c_str());
         if (!kind)
-            return 0;
+            return false;
         AddControl(dialog, control, *kind);
     }
-    return 1;
+    return true;
 }
 
-// TRUE from the procedure leaves the focus to the first control that Tab goes to.
-static void Start(HWND dialog, LPARAM parameter) {
+// If WM_INITDIALOG returns TRUE, the first tab stop gets the focus.
+static void SendInit(HWND dialog, LPARAM parameter) {
     const HWND first = NextTabStop(dialog, nullptr, 0);
-    const INT_PTR bGiveFocus =
-        RowOf(dialog).dialog(dialog, WM_INITDIALOG, reinterpret_cast<WPARAM>(first), parameter);
-    if (!bGiveFocus || !Living(dialog))
+    const INT_PTR wantsFocus =
+        WindowOf(dialog).dialog(dialog, WM_INITDIALOG, reinterpret_cast<WPARAM>(first), parameter);
+    if (!wantsFocus || !LiveWindow(dialog))
         return;
     const HWND now = NextTabStop(dialog, nullptr, 0);
-    GoTo(now ? now : dialog);
+    FocusWindow(now ? now : dialog);
 }
 
-HWND CreateDialogParamA(HINSTANCE instance, LPCSTR name, HWND parent, DLGPROC procedure, LPARAM parameter) {
-    if (Fails("CreateDialogParamA"))
-        return nullptr;
-    const DialogTemplate* from = TemplateOf(static_cast<int>(reinterpret_cast<UINT_PTR>(name)));
+static HWND CreateFromTemplate(HINSTANCE instance, UINT_PTR id, HWND parent, DLGPROC procedure,
+                               LPARAM parameter) {
+    const DialogTemplate* from = FindTemplate(static_cast<int>(id));
     if (!from)
         return nullptr;
     const HWND dialog = NewDialog(*from, parent, instance);
@@ -98,143 +98,157 @@ HWND CreateDialogParamA(HINSTANCE instance, LPCSTR name, HWND parent, DLGPROC pr
         KillWindow(dialog);
         return nullptr;
     }
-    RowOf(dialog).dialog = procedure;
-    Start(dialog, parameter);
-    return Living(dialog) ? dialog : nullptr;
+    WindowOf(dialog).dialog = procedure;
+    SendInit(dialog, parameter);
+    return LiveWindow(dialog) ? dialog : nullptr;
 }
 
-// Of these the result is what the dialog's procedure gives; of all others only whether it is done.
-static int IsResult(UINT message) {
+HWND CreateDialogParamA(HINSTANCE instance, LPCSTR name, HWND parent, DLGPROC procedure, LPARAM parameter) {
+    return CallFails("CreateDialogParamA")
+               ? nullptr
+               : CreateFromTemplate(instance, reinterpret_cast<UINT_PTR>(name), parent, procedure, parameter);
+}
+
+HWND CreateDialogParamW(HINSTANCE instance, LPCWSTR name, HWND parent, DLGPROC procedure, LPARAM parameter) {
+    return CallFails("CreateDialogParamW")
+               ? nullptr
+               : CreateFromTemplate(instance, reinterpret_cast<UINT_PTR>(name), parent, procedure, parameter);
+}
+
+// For these the dialog procedure's result is the message's result; for all others it says whether it was
+// handled.
+static bool IsResult(UINT message) {
     return message == WM_INITDIALOG || message == WM_CTLCOLORSTATIC;
 }
 
-// Closing a dialog means what Escape means.
+// WM_CLOSE becomes the Cancel command.
 static LRESULT DefaultOfDialog(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_CLOSE)
-        return DefaultAnswer(dialog, message, wParam, lParam);
-    Desk.queue.push_back({dialog, WM_COMMAND, IDCANCEL, reinterpret_cast<LPARAM>(ControlOf(dialog, IDCANCEL)),
-                          Desk.now, Desk.cursor});
+        return DefaultProc(dialog, message, wParam, lParam);
+    Desk.queue.push_back({dialog, WM_COMMAND, IDCANCEL,
+                          reinterpret_cast<LPARAM>(FindControl(dialog, IDCANCEL)), Desk.now, Desk.cursor});
     return 0;
 }
 
 LRESULT CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-    const DLGPROC procedure = RowOf(dialog).dialog;
+    const DLGPROC procedure = WindowOf(dialog).dialog;
     const INT_PTR answer = procedure ? procedure(dialog, message, wParam, lParam) : 0;
     if (answer)
         return IsResult(message) ? answer : 0;
-    return Living(dialog) ? DefaultOfDialog(dialog, message, wParam, lParam) : 0;
+    return LiveWindow(dialog) ? DefaultOfDialog(dialog, message, wParam, lParam) : 0;
 }
 
-static int StandsIn(HWND control, HWND dialog) {
-    const DeskWindow* row = Living(control);
-    while (row && row->handle != dialog && (row->style & WS_CHILD))
-        row = Living(row->owner);
-    return row && row->handle == dialog;
+static bool IsInside(HWND control, HWND dialog) {
+    const DeskWindow* record = LiveWindow(control);
+    while (record && record->handle != dialog && (record->style & WS_CHILD))
+        record = LiveWindow(record->owner);
+    return record && record->handle == dialog;
 }
 
-// The window stays, hidden. The control with the focus loses it to the dialog first, and tells.
+// Only hides the window. A focused control loses the focus to the dialog first, with its notification.
 BOOL EndDialog(HWND dialog, INT_PTR) {
-    DeskWindow* row = Fails("EndDialog") ? nullptr : Named(dialog);
-    if (!row || !row->dialog)
+    DeskWindow* record = CallFails("EndDialog") ? nullptr : ResolveHandle(dialog);
+    if (!record || !record->dialog)
         return FALSE;
-    if (StandsIn(Desk.focus, dialog))
-        MoveFocus(dialog);
-    const int bActive = Desk.foreground == dialog;
-    Hide(*row);
-    const DeskWindow* owner = Living(row->owner);
-    if (bActive && owner && (owner->style & WS_VISIBLE))
+    if (IsInside(Desk.focus, dialog))
+        ChangeFocus(dialog);
+    const bool wasActive = Desk.foreground == dialog;
+    HideWindow(*record);
+    const DeskWindow* owner = LiveWindow(record->owner);
+    if (wasActive && owner && (owner->style & WS_VISIBLE))
         Activate(owner->handle);
     return TRUE;
 }
 
-HWND ControlOf(HWND dialog, int id) {
-    const DeskWindow* row = Living(dialog);
-    for (const HWND child : row ? row->children : std::vector<HWND>{})
-        if (RowOf(child).id == id)
+HWND FindControl(HWND dialog, int id) {
+    const DeskWindow* record = LiveWindow(dialog);
+    for (const HWND child : record ? record->children : std::vector<HWND>{})
+        if (WindowOf(child).id == id)
             return child;
     return nullptr;
 }
 
 HWND GetDlgItem(HWND dialog, int id) {
-    return Fails("GetDlgItem") || !Named(dialog) ? nullptr : ControlOf(dialog, id);
+    return CallFails("GetDlgItem") || !ResolveHandle(dialog) ? nullptr : FindControl(dialog, id);
 }
 
-static LRESULT Ask(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam) {
-    return CallProcedure(ControlOf(dialog, id), message, wParam, lParam);
+static LRESULT SendToControl(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam) {
+    return CallWndProc(FindControl(dialog, id), message, wParam, lParam);
 }
 
 LRESULT SendDlgItemMessageA(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam) {
-    return Fails("SendDlgItemMessageA") ? 0 : Ask(dialog, id, message, wParam, lParam);
+    return CallFails("SendDlgItemMessageA") ? 0 : SendToControl(dialog, id, message, wParam, lParam);
 }
 
 BOOL SetDlgItemTextA(HWND dialog, int id, LPCSTR text) {
-    return !Fails("SetDlgItemTextA") && Ask(dialog, id, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text)) != 0;
+    return !CallFails("SetDlgItemTextA") &&
+           SendToControl(dialog, id, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text)) != 0;
 }
 
 UINT GetDlgItemTextA(HWND dialog, int id, LPSTR text, int limit) {
     if (limit > 0)
         *text = 0;
-    if (Fails("GetDlgItemTextA"))
+    if (CallFails("GetDlgItemTextA"))
         return 0;
     return static_cast<UINT>(
-        Ask(dialog, id, WM_GETTEXT, static_cast<WPARAM>(limit), reinterpret_cast<LPARAM>(text)));
+        SendToControl(dialog, id, WM_GETTEXT, static_cast<WPARAM>(limit), reinterpret_cast<LPARAM>(text)));
 }
 
-BOOL SetDlgItemInt(HWND dialog, int id, UINT value, BOOL bSigned) {
-    const std::string text = bSigned ? std::to_string(static_cast<int>(value)) : std::to_string(value);
-    return !Fails("SetDlgItemInt") &&
-           Ask(dialog, id, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str())) != 0;
+BOOL SetDlgItemInt(HWND dialog, int id, UINT value, BOOL isSigned) {
+    const std::string text = isSigned ? std::to_string(static_cast<int>(value)) : std::to_string(value);
+    return !CallFails("SetDlgItemInt") &&
+           SendToControl(dialog, id, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str())) != 0;
 }
 
-// A number past its 32 bits, and what is no number, is 0.
-static int ParseNumber(const char* text, BOOL bSigned, UINT* value) {
+// Fails for anything that is not a 32-bit number.
+static bool ParseNumber(const char* text, BOOL isSigned, UINT* value) {
     char* end = nullptr;
     const long long number = std::strtoll(text, &end, 10);
-    const long long least = bSigned ? INT32_MIN : 0;
-    const long long most = bSigned ? INT32_MAX : UINT32_MAX;
-    if (end == text || number < least || number > most)
-        return 0;
+    const long long min = isSigned ? INT32_MIN : 0;
+    const long long max = isSigned ? INT32_MAX : UINT32_MAX;
+    if (end == text || number < min || number > max)
+        return false;
     *value = static_cast<UINT>(number);
-    return 1;
+    return true;
 }
 
-UINT GetDlgItemInt(HWND dialog, int id, BOOL* bRead, BOOL bSigned) {
+UINT GetDlgItemInt(HWND dialog, int id, BOOL* translated, BOOL isSigned) {
     char text[30] = "";
     UINT value = 0;
-    int bNumber = 0;
-    if (!Fails("GetDlgItemInt") && Ask(dialog, id, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text)))
-        bNumber = ParseNumber(text, bSigned, &value);
-    if (bRead)
-        *bRead = bNumber;
+    bool isNumber = false;
+    if (!CallFails("GetDlgItemInt") &&
+        SendToControl(dialog, id, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text)))
+        isNumber = ParseNumber(text, isSigned, &value);
+    if (translated)
+        *translated = isNumber;
     return value;
 }
 
 BOOL CheckDlgButton(HWND dialog, int id, UINT state) {
-    if (Fails("CheckDlgButton") || !ControlOf(dialog, id))
+    if (CallFails("CheckDlgButton") || !FindControl(dialog, id))
         return FALSE;
-    Ask(dialog, id, BM_SETCHECK, state, 0);
+    SendToControl(dialog, id, BM_SETCHECK, state, 0);
     return TRUE;
 }
 
 UINT IsDlgButtonChecked(HWND dialog, int id) {
-    return Fails("IsDlgButtonChecked") ? 0 : static_cast<UINT>(Ask(dialog, id, BM_GETCHECK, 0, 0));
+    return CallFails("IsDlgButtonChecked") ? 0
+                                           : static_cast<UINT>(SendToControl(dialog, id, BM_GETCHECK, 0, 0));
 }
 
 BOOL ChooseColorA(CHOOSECOLORA* choice) {
-    if (Fails("ChooseColorA") || choice->lStructSize != sizeof *choice)
+    if (CallFails("ChooseColorA") || choice->lStructSize != sizeof *choice)
         return FALSE;
-    Desk.colorBoxes.push_back({
-        choice->hwndOwner,
-        choice->rgbResult,
-        choice->Flags,
-        {choice->lpCustColors, choice->lpCustColors + 16}
-    });
-    if (Desk.colorAnswers.empty()) {
-        ++Desk.surprises;
+    Desk.colorDialogs.push_back({choice->hwndOwner,
+                                 choice->rgbResult,
+                                 choice->Flags,
+                                 {choice->lpCustColors, choice->lpCustColors + 16}});
+    if (Desk.colorChoices.empty()) {
+        ++Desk.unexpected;
         return FALSE;
     }
-    const std::optional<COLORREF> answer = Desk.colorAnswers.front();
-    Desk.colorAnswers.pop_front();
+    const std::optional<COLORREF> answer = Desk.colorChoices.front();
+    Desk.colorChoices.pop_front();
     choice->rgbResult = answer.value_or(choice->rgbResult);
     return answer.has_value();
 }

@@ -1,56 +1,64 @@
-// Invalid areas, contexts, drawing objects; what is drawn is recorded, not painted.
-#include "ground.h"
+// Invalid areas, contexts, drawing objects, text. Drawing is recorded, not rasterised.
+#include "internal.h"
 
 #include <algorithm>
 #include <cstring>
 #include <utility>
 
-constexpr SIZE CHARACTER{7, 16}; // each one's pixels, in every font
+constexpr SIZE CHARACTER{7, 16}; // pixels of a character in every font
 
-void Invalidate(DeskWindow& window, const RECT* rect, int bErase) {
-    RECT area = rect ? *rect : ClientArea(window);
-    if (window.bInvalid)
+void Invalidate(DeskWindow& window, const RECT* rect, bool needsErase) {
+    RECT area = rect ? *rect : ClientRect(window);
+    if (window.needsPaint)
         area = {std::min(area.left, window.invalid.left), std::min(area.top, window.invalid.top),
                 std::max(area.right, window.invalid.right), std::max(area.bottom, window.invalid.bottom)};
     window.invalid = area;
-    window.bInvalid = 1;
-    window.bErase |= bErase;
+    window.needsPaint = 1;
+    window.needsErase |= needsErase;
 }
 
 BOOL InvalidateRect(HWND window, const RECT* rect, BOOL erase) {
-    DeskWindow* row = Fails("InvalidateRect") ? nullptr : Named(window);
-    if (row)
-        Invalidate(*row, rect, erase);
-    return row != nullptr;
+    DeskWindow* record = CallFails("InvalidateRect") ? nullptr : ResolveHandle(window);
+    if (record)
+        Invalidate(*record, rect, erase);
+    return record != nullptr;
 }
 
 BOOL UpdateWindow(HWND window) {
-    const DeskWindow* row = Fails("UpdateWindow") ? nullptr : Named(window);
-    if (!row)
+    const DeskWindow* record = CallFails("UpdateWindow") ? nullptr : ResolveHandle(window);
+    if (!record)
         return FALSE;
-    if (row->bInvalid && IsInSight(window))
-        CallProcedure(window, WM_PAINT, 0, 0);
+    if (record->needsPaint && IsShown(window))
+        CallWndProc(window, WM_PAINT, 0, 0);
     return TRUE;
 }
 
-// Places of what is gone are used again, so that a long run does not grow.
-static DeskObject* Keep(DeskObjectKind kind, int index, int bStock) {
+DeskObject* NewObject(DeskObjectKind kind, int index, bool stock) {
     const auto gone = std::find_if(Desk.objects.begin(), Desk.objects.end(),
-                                   [](const DeskObject& object) { return !object.bLive; });
+                                   [](const DeskObject& object) { return !object.live; });
     DeskObject& object = gone == Desk.objects.end() ? Desk.objects.emplace_back() : *gone;
     object = {};
     object.kind = kind;
     object.index = index;
-    object.bStock = bStock;
+    object.stock = stock;
     return &object;
 }
 
-// What a fresh context has selected.
+static std::size_t StockIndex(DeskObjectKind kind) {
+    switch (kind) {
+    case DeskObjectKind::Pen: return 0;
+    case DeskObjectKind::Brush: return 1;
+    case DeskObjectKind::Font: return 2;
+    default: return 3;
+    }
+}
+
+// Selected in a new context.
 static HGDIOBJ StockObject(DeskObjectKind kind) {
-    static DeskObject* stock[3];
-    DeskObject*& object = stock[kind == DeskObjectKind::Pen ? 0 : kind == DeskObjectKind::Brush ? 1 : 2];
+    static DeskObject* stock[4];
+    DeskObject*& object = stock[StockIndex(kind)];
     if (!object)
-        object = Keep(kind, -1, 1);
+        object = NewObject(kind, -1, 1);
     object->color = 0xffffff;
     object->pen = {PS_SOLID, 1, 0};
     return object;
@@ -58,7 +66,7 @@ static HGDIOBJ StockObject(DeskObjectKind kind) {
 
 static HDC ContextFor(HWND window, const RECT& clip) {
     const auto gone = std::find_if(Desk.contexts.begin(), Desk.contexts.end(),
-                                   [](const DeskContext& context) { return !context.bLive; });
+                                   [](const DeskContext& context) { return !context.live; });
     DeskContext& context = gone == Desk.contexts.end() ? Desk.contexts.emplace_back() : *gone;
     context = {};
     context.window = window;
@@ -67,61 +75,67 @@ static HDC ContextFor(HWND window, const RECT& clip) {
     context.brush = StockObject(DeskObjectKind::Brush);
     context.rop = R2_COPYPEN;
     context.clip = clip;
-    context.bLive = 1;
+    context.live = 1;
     return reinterpret_cast<HDC>(&context);
 }
 
-DeskContext* ContextOf(HDC context) {
-    auto* row = reinterpret_cast<DeskContext*>(context);
-    return row && row->bLive ? row : nullptr;
+DeskContext* LiveContext(HDC context) {
+    auto* record = reinterpret_cast<DeskContext*>(context);
+    return record && record->live ? record : nullptr;
 }
 
-static int Release(HDC context) {
-    DeskContext* row = ContextOf(context);
-    if (row)
-        row->bLive = 0;
-    return row != nullptr;
+static bool Release(HDC context) {
+    DeskContext* record = LiveContext(context);
+    if (record)
+        record->live = 0;
+    return record != nullptr;
 }
 
 HDC BeginPaint(HWND window, PAINTSTRUCT* paint) {
     *paint = {};
-    DeskWindow* row = Fails("BeginPaint") ? nullptr : Named(window);
-    if (!row)
+    DeskWindow* record = CallFails("BeginPaint") ? nullptr : ResolveHandle(window);
+    if (!record)
         return nullptr;
-    paint->hdc = ContextFor(window, row->invalid);
-    paint->rcPaint = row->invalid;
-    const int bErase = row->bErase;
-    row->bInvalid = row->bErase = 0;
-    if (bErase)
-        paint->fErase = !CallProcedure(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(paint->hdc), 0);
+    paint->hdc = ContextFor(window, record->invalid);
+    paint->rcPaint = record->invalid;
+    const int needsErase = record->needsErase;
+    record->needsPaint = record->needsErase = false;
+    if (needsErase)
+        paint->fErase = !CallWndProc(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(paint->hdc), 0);
     return paint->hdc;
 }
 
 BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) {
-    return !Fails("EndPaint") && Named(window) && Release(paint->hdc);
+    return !CallFails("EndPaint") && ResolveHandle(window) && Release(paint->hdc);
 }
 
 HDC OpenContext(const DeskWindow& window) {
-    return ContextFor(window.handle, ClientArea(window));
+    return ContextFor(window.handle, ClientRect(window));
+}
+
+HDC OpenMemoryContext() {
+    const HDC context = ContextFor(nullptr, {});
+    LiveContext(context)->bitmap = StockObject(DeskObjectKind::Bitmap);
+    return context;
 }
 
 HDC GetDC(HWND window) {
-    const DeskWindow* row = Fails("GetDC") ? nullptr : Named(window);
-    return row ? OpenContext(*row) : nullptr;
+    const DeskWindow* record = CallFails("GetDC") ? nullptr : ResolveHandle(window);
+    return record ? OpenContext(*record) : nullptr;
 }
 
 int ReleaseDC(HWND, HDC context) {
-    return !Fails("ReleaseDC") && Release(context);
+    return !CallFails("ReleaseDC") && Release(context);
 }
 
 int GetDeviceCaps(HDC context, int index) {
-    const bool bKnown = !Fails("GetDeviceCaps") && ContextOf(context) && index == LOGPIXELSX;
-    return bKnown ? Desk.pixelsPerInch : 0;
+    const bool known = !CallFails("GetDeviceCaps") && LiveContext(context) && index == LOGPIXELSX;
+    return known ? Desk.pixelsPerInch : 0;
 }
 
 DWORD GetSysColor(int index) {
     constexpr COLORREF grey = 0xc0c0c0;
-    if (Fails("GetSysColor"))
+    if (CallFails("GetSysColor"))
         return 0;
     const auto found = Desk.systemColors.find(index);
     return found == Desk.systemColors.end() ? grey : found->second;
@@ -129,19 +143,19 @@ DWORD GetSysColor(int index) {
 
 HBRUSH GetSysColorBrush(int index) {
     static DeskObject* brushes[32];
-    if (Fails("GetSysColorBrush"))
+    if (CallFails("GetSysColorBrush"))
         return nullptr;
     DeskObject*& brush = brushes[index & 31];
     if (!brush)
-        brush = Keep(DeskObjectKind::Brush, index, 1);
+        brush = NewObject(DeskObjectKind::Brush, index, 1);
     return reinterpret_cast<HBRUSH>(brush);
 }
 
 HFONT CreateFontA(int height, int, int, int, int weight, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
                   DWORD, LPCSTR face) {
-    if (Fails("CreateFontA"))
+    if (CallFails("CreateFontA"))
         return nullptr;
-    DeskObject* font = Keep(DeskObjectKind::Font, 0, 0);
+    DeskObject* font = NewObject(DeskObjectKind::Font, 0, 0);
     font->height = height;
     font->weight = weight;
     font->face = face;
@@ -149,51 +163,57 @@ HFONT CreateFontA(int height, int, int, int, int weight, DWORD, DWORD, DWORD, DW
 }
 
 HBRUSH CreateSolidBrush(COLORREF color) {
-    if (Fails("CreateSolidBrush"))
+    if (CallFails("CreateSolidBrush"))
         return nullptr;
-    DeskObject* brush = Keep(DeskObjectKind::Brush, -1, 0);
+    DeskObject* brush = NewObject(DeskObjectKind::Brush, -1, 0);
     brush->color = color;
     return reinterpret_cast<HBRUSH>(brush);
 }
 
 HPEN CreatePen(int style, int width, COLORREF color) {
-    if (Fails("CreatePen"))
+    if (CallFails("CreatePen"))
         return nullptr;
-    DeskObject* pen = Keep(DeskObjectKind::Pen, -1, 0);
+    DeskObject* pen = NewObject(DeskObjectKind::Pen, -1, 0);
     pen->pen = {style, width, color};
     return reinterpret_cast<HPEN>(pen);
 }
 
-// A picture named by number; the system's own (no instance) are never deleted.
-static DeskObject* KeepIcon(HINSTANCE instance, LPCSTR name) {
-    return Keep(DeskObjectKind::Icon, static_cast<int>(reinterpret_cast<UINT_PTR>(name) & 0xffff), !instance);
+// `name` is a resource number. Without an instance it is the system's own icon and never deleted.
+static DeskObject* NewIcon(HINSTANCE instance, LPCSTR name) {
+    return NewObject(DeskObjectKind::Icon, static_cast<int>(reinterpret_cast<UINT_PTR>(name) & 0xffff),
+                     !instance);
 }
 
-HANDLE LoadImageA(HINSTANCE instance, LPCSTR name, UINT, int, int, UINT) {
-    return Fails("LoadImageA") ? nullptr : KeepIcon(instance, name);
+HANDLE LoadImageA(HINSTANCE instance, LPCSTR name, UINT, int width, int height, UINT) {
+    if (CallFails("LoadImageA"))
+        return nullptr;
+    DeskObject* icon = NewIcon(instance, name);
+    icon->size = {width, height};
+    return icon;
 }
 
 HICON LoadIconA(HINSTANCE instance, LPCSTR name) {
-    return Fails("LoadIconA") ? nullptr : reinterpret_cast<HICON>(KeepIcon(instance, name));
+    return CallFails("LoadIconA") ? nullptr : reinterpret_cast<HICON>(NewIcon(instance, name));
 }
 
 HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name) {
-    return Fails("LoadCursorA") ? nullptr : reinterpret_cast<HCURSOR>(KeepIcon(instance, name));
+    return CallFails("LoadCursorA") ? nullptr : reinterpret_cast<HCURSOR>(NewIcon(instance, name));
 }
 
-// The place in a context that holds objects of a kind; an icon has none.
+// Icons cannot be selected.
 static HGDIOBJ* SlotFor(DeskContext& on, DeskObjectKind kind) {
     switch (kind) {
     case DeskObjectKind::Font: return &on.font;
     case DeskObjectKind::Pen: return &on.pen;
     case DeskObjectKind::Brush: return &on.brush;
+    case DeskObjectKind::Bitmap: return on.window ? nullptr : &on.bitmap;
     default: return nullptr;
     }
 }
 
 HGDIOBJ SelectObject(HDC context, HGDIOBJ object) {
-    DeskContext* on = Fails("SelectObject") ? nullptr : ContextOf(context);
-    if (!on || !object || !static_cast<DeskObject*>(object)->bLive)
+    DeskContext* on = CallFails("SelectObject") ? nullptr : LiveContext(context);
+    if (!on || !object || !static_cast<DeskObject*>(object)->live)
         return nullptr;
     HGDIOBJ* slot = SlotFor(*on, static_cast<DeskObject*>(object)->kind);
     if (!slot)
@@ -202,67 +222,95 @@ HGDIOBJ SelectObject(HDC context, HGDIOBJ object) {
     return object;
 }
 
-static int IsSelected(HGDIOBJ object) {
+static bool IsSelected(HGDIOBJ object) {
     return std::any_of(Desk.contexts.begin(), Desk.contexts.end(), [object](const DeskContext& context) {
-        return context.bLive && (context.font == object || context.pen == object || context.brush == object);
+        return context.live && (context.font == object || context.pen == object || context.brush == object ||
+                                context.bitmap == object);
     });
 }
 
-// An icon is no drawing object: DeleteObject refuses it. So it does for one that is gone already.
+// Refuses icons, which are not drawing objects, and objects deleted before.
 BOOL DeleteObject(HGDIOBJ object) {
-    if (Fails("DeleteObject") || !object)
+    if (CallFails("DeleteObject") || !object)
         return FALSE;
-    auto& row = *static_cast<DeskObject*>(object);
-    if (!row.bLive || row.kind == DeskObjectKind::Icon)
+    auto& record = *static_cast<DeskObject*>(object);
+    if (!record.live || record.kind == DeskObjectKind::Icon)
         return FALSE;
     Desk.deletedInUse += IsSelected(object);
-    row.bLive = row.bStock;
+    record.live = record.stock;
     return TRUE;
 }
 
 int LiveObjects() {
     return static_cast<int>(
         std::count_if(Desk.objects.begin(), Desk.objects.end(),
-                      [](const DeskObject& object) { return object.bLive && !object.bStock; }));
+                      [](const DeskObject& object) { return object.live && !object.stock; }));
 }
 
 int LiveContexts() {
     return static_cast<int>(std::count_if(Desk.contexts.begin(), Desk.contexts.end(),
-                                          [](const DeskContext& context) { return context.bLive; }));
+                                          [](const DeskContext& context) { return context.live; }));
 }
 
 int SetBkMode(HDC context, int mode) {
-    DeskContext* on = Fails("SetBkMode") ? nullptr : ContextOf(context);
+    DeskContext* on = CallFails("SetBkMode") ? nullptr : LiveContext(context);
     return on ? std::exchange(on->backMode, mode) : 0;
 }
 
-// An empty text has no height.
-BOOL GetTextExtentPoint32A(HDC context, LPCSTR, int length, SIZE* extent) {
-    if (Fails("GetTextExtentPoint32A") || !ContextOf(context))
+// An empty text has height 0.
+BOOL GetTextExtentPoint32W(HDC context, LPCWSTR, int length, SIZE* extent) {
+    if (CallFails("GetTextExtentPoint32W") || !LiveContext(context))
         return FALSE;
     *extent = {CHARACTER.cx * length, length > 0 ? CHARACTER.cy : 0};
     return TRUE;
 }
 
-// A text too long for its place ends in three points when the format asks for that in the text itself.
-static void Shorten(LPSTR text, int length, const RECT& rect, UINT format) {
-    constexpr UINT inPlace = DT_END_ELLIPSIS | DT_MODIFYSTRING;
-    const LONG room = std::max(1, (rect.right - rect.left) / CHARACTER.cx);
-    if ((format & inPlace) == inPlace && length > room)
-        std::memcpy(text + std::max(1, room - 3), "...", 4);
+BOOL GetTextExtentPoint32A(HDC context, LPCSTR, int length, SIZE* extent) {
+    if (CallFails("GetTextExtentPoint32A") || !LiveContext(context))
+        return FALSE;
+    *extent = {CHARACTER.cx * length, length > 0 ? CHARACTER.cy : 0};
+    return TRUE;
 }
 
-// What is kept is the text as it was handed over, since its place in a test is seldom as wide as on a screen.
+// With DT_MODIFYSTRING the ellipsis is written into the text.
+template <typename Character>
+static void AddEllipsis(Character* text, int length, const RECT& rect, UINT format) {
+    constexpr UINT inPlace = DT_END_ELLIPSIS | DT_MODIFYSTRING;
+    const LONG fits = std::max(1, Width(rect) / CHARACTER.cx);
+    if ((format & inPlace) != inPlace || length <= fits)
+        return;
+    Character* end = text + std::max(1, fits - 3);
+    std::fill_n(end, 3, static_cast<Character>('.'));
+    end[3] = 0;
+}
+
+// Records the text without the ellipsis: rectangles in tests are seldom as wide as on a screen.
+static void RecordText(const DeskContext& context, const char* call, const std::string& text,
+                       const RECT& rect, UINT format) {
+    DeskDrawCall* drawn = RecordDraw(context, call, rect);
+    if (!drawn)
+        return;
+    drawn->text = text;
+    drawn->font = context.font;
+    drawn->format = format;
+}
+
 int DrawTextExA(HDC context, LPSTR text, int length, RECT* rect, UINT format, DRAWTEXTPARAMS*) {
-    const DeskContext* on = Fails("DrawTextExA") ? nullptr : ContextOf(context);
-    if (!on)
+    const DeskContext* record = CallFails("DrawTextExA") ? nullptr : LiveContext(context);
+    if (!record)
         return 0;
-    if (Desk.bTrace) {
-        Record(*on, "DrawTextExA", *rect);
-        Desk.strokes.back().text.assign(text, static_cast<std::size_t>(length));
-        Desk.strokes.back().font = on->font;
-        Desk.strokes.back().format = format;
-    }
-    Shorten(text, length, *rect, format);
+    if (Desk.recording)
+        RecordText(*record, "DrawTextExA", FromAnsi({text, static_cast<std::size_t>(length)}), *rect, format);
+    AddEllipsis(text, length, *rect, format);
+    return CHARACTER.cy;
+}
+
+int DrawTextExW(HDC context, LPWSTR text, int length, RECT* rect, UINT format, DRAWTEXTPARAMS*) {
+    const DeskContext* record = CallFails("DrawTextExW") ? nullptr : LiveContext(context);
+    if (!record)
+        return 0;
+    if (Desk.recording)
+        RecordText(*record, "DrawTextExW", FromWide({text, static_cast<std::size_t>(length)}), *rect, format);
+    AddEllipsis(text, length, *rect, format);
     return CHARACTER.cy;
 }

@@ -1,19 +1,21 @@
-// The files of the Windows folder: the same that the profile functions read and write.
-#include "ground.h"
+// Files, shared with the profile functions.
+#include "internal.h"
 
 static const std::string FOLDER = "C:\\WINDOWS";
 
 UINT GetWindowsDirectoryA(LPSTR folder, UINT size) {
-    return Fails("GetWindowsDirectoryA")
+    return CallFails("GetWindowsDirectoryA")
                ? 0
                : static_cast<UINT>(CopyText(FOLDER, folder, static_cast<int>(size)));
 }
 
-static std::string NameIn(LPCSTR path) {
-    return LowerCase(path + FOLDER.size() + 1);
+std::string FileKey(const std::string& path) {
+    const std::string key = LowerCase(path);
+    const std::string prefix = LowerCase(FOLDER) + '\\';
+    return key.starts_with(prefix) ? key.substr(prefix.size()) : key;
 }
 
-static BOOL Refuse(DWORD error) {
+static BOOL FailWith(DWORD error) {
     SetLastError(error);
     return FALSE;
 }
@@ -23,47 +25,56 @@ static bool IsProtected(const std::string& name) {
 }
 
 BOOL CopyFileA(LPCSTR from, LPCSTR to, BOOL) {
-    if (Fails("CopyFileA"))
+    if (CallFails("CopyFileA"))
         return FALSE;
-    const auto file = Desk.files.find(NameIn(from));
+    const auto file = Desk.files.find(FileKey(from));
     if (file == Desk.files.end())
-        return Refuse(ERROR_FILE_NOT_FOUND);
-    if (IsProtected(NameIn(to)))
-        return Refuse(ERROR_ACCESS_DENIED);
+        return FailWith(ERROR_FILE_NOT_FOUND);
+    if (IsProtected(FileKey(to)))
+        return FailWith(ERROR_ACCESS_DENIED);
     const std::string text = file->second;
-    Desk.files[NameIn(to)] = text;
-    if (IsProtected(NameIn(from)))
-        Desk.protectedFiles.insert(NameIn(to));
+    Desk.files[FileKey(to)] = text;
+    if (IsProtected(FileKey(from)))
+        Desk.protectedFiles.insert(FileKey(to));
     return TRUE;
 }
 
-// The protection of what is moved goes along; that of what is replaced refuses.
+// The read-only attribute moves along with the file. A read-only target is not replaced.
 BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD) {
-    if (Fails("MoveFileExA") || !CopyFileA(from, to, FALSE))
+    if (CallFails("MoveFileExA") || !CopyFileA(from, to, FALSE))
         return FALSE;
-    Desk.protectedFiles.erase(NameIn(from));
+    Desk.protectedFiles.erase(FileKey(from));
     return DeleteFileA(from);
 }
 
 BOOL DeleteFileA(LPCSTR file) {
-    if (Fails("DeleteFileA"))
+    if (CallFails("DeleteFileA"))
         return FALSE;
-    if (!Desk.files.contains(NameIn(file)))
-        return Refuse(ERROR_FILE_NOT_FOUND);
-    if (IsProtected(NameIn(file)))
-        return Refuse(ERROR_ACCESS_DENIED);
-    Desk.files.erase(NameIn(file));
+    if (!Desk.files.contains(FileKey(file)))
+        return FailWith(ERROR_FILE_NOT_FOUND);
+    if (IsProtected(FileKey(file)))
+        return FailWith(ERROR_ACCESS_DENIED);
+    Desk.files.erase(FileKey(file));
     return TRUE;
 }
 
 BOOL SetFileAttributesA(LPCSTR file, DWORD attributes) {
-    if (Fails("SetFileAttributesA"))
+    if (CallFails("SetFileAttributesA"))
         return FALSE;
-    if (!Desk.files.contains(NameIn(file)))
-        return Refuse(ERROR_FILE_NOT_FOUND);
+    if (!Desk.files.contains(FileKey(file)))
+        return FailWith(ERROR_FILE_NOT_FOUND);
     if (attributes & FILE_ATTRIBUTE_READONLY)
-        Desk.protectedFiles.insert(NameIn(file));
+        Desk.protectedFiles.insert(FileKey(file));
     else
-        Desk.protectedFiles.erase(NameIn(file));
+        Desk.protectedFiles.erase(FileKey(file));
     return TRUE;
+}
+
+DWORD GetFileAttributesA(LPCSTR file) {
+    const std::string key = FileKey(file);
+    if (CallFails("GetFileAttributesA") || !Desk.files.contains(key)) {
+        SetLastError(ERROR_FILE_NOT_FOUND);
+        return INVALID_FILE_ATTRIBUTES;
+    }
+    return IsProtected(key) ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL;
 }

@@ -1,5 +1,5 @@
-// The user's hands: keys, hotkeys, cursor, capture.
-#include "ground.h"
+// Keyboard, hotkeys, cursor, mouse capture.
+#include "internal.h"
 
 #include <algorithm>
 #include <cstring>
@@ -13,8 +13,12 @@ static const DeskHotkey* HolderOf(UINT modifiers, UINT key) {
 }
 
 BOOL RegisterHotKey(HWND window, int id, UINT modifiers, UINT key) {
-    if (Fails("RegisterHotKey") || !Named(window))
+    if (CallFails("RegisterHotKey") || !ResolveHandle(window))
         return FALSE;
+    if (key > 0xFF) { // as VkKeyScanA reports a character without a key
+        Desk.lastError = ERROR_INVALID_PARAMETER;
+        return FALSE;
+    }
     if (HolderOf(modifiers, key)) {
         Desk.lastError = ERROR_HOTKEY_ALREADY_REGISTERED;
         return FALSE;
@@ -24,7 +28,7 @@ BOOL RegisterHotKey(HWND window, int id, UINT modifiers, UINT key) {
 }
 
 BOOL UnregisterHotKey(HWND window, int id) {
-    if (Fails("UnregisterHotKey"))
+    if (CallFails("UnregisterHotKey"))
         return FALSE;
     const auto isIt = [=](const DeskHotkey& key) { return key.window == window && key.id == id; };
     if (std::erase_if(Desk.hotkeys, isIt))
@@ -33,23 +37,34 @@ BOOL UnregisterHotKey(HWND window, int id) {
     return FALSE;
 }
 
-void DropHotkeysOf(HWND window) {
+void RemoveHotkeys(HWND window) {
     std::erase_if(Desk.hotkeys, [window](const DeskHotkey& key) { return key.window == window; });
 }
 
-void PressCombination(UINT modifiers, UINT key) {
+void PressHotkey(UINT modifiers, UINT key) {
     const DeskHotkey* hotkey = HolderOf(modifiers, key);
+    Desk.ownsLastInput = hotkey && hotkey->window;
     if (hotkey && hotkey->window)
         Desk.queue.push_back({hotkey->window, WM_HOTKEY, static_cast<WPARAM>(hotkey->id),
                               MAKELPARAM(static_cast<int>(modifiers), static_cast<int>(key)), Desk.now,
                               Desk.cursor});
 }
 
-// A United States keyboard, as far as letters, digits, space and tab go.
+void HoldHotkey(UINT modifiers, UINT key, int repeats, DWORD interval) {
+    for (int repeat = 0; repeat < repeats; ++repeat) {
+        Desk.now += repeat ? interval : 0;
+        PressHotkey(modifiers, key);
+    }
+}
+
+// Letters, digits, space and tab of a United States keyboard.
 SHORT VkKeyScanA(char character) {
     constexpr int shift = 0x100;
-    if (Fails("VkKeyScanA") || !character)
+    if (CallFails("VkKeyScanA") || !character)
         return -1;
+    const auto replaced = Desk.keyScans.find(character);
+    if (replaced != Desk.keyScans.end())
+        return replaced->second;
     if (character >= 'a' && character <= 'z')
         return static_cast<SHORT>(character - 'a' + 'A');
     if (character >= 'A' && character <= 'Z')
@@ -61,55 +76,52 @@ SHORT VkKeyScanA(char character) {
     return static_cast<SHORT>(found ? shift + '0' + (found - shiftedDigits) : -1);
 }
 
-void HoldKey(int key, int bDown) {
-    Desk.keysNow[key] = static_cast<BYTE>(bDown != 0);
+void HoldKey(int key, bool down) {
+    Desk.keysNow[key] = static_cast<BYTE>(down != 0);
 }
 
-static SHORT KeyBits(BYTE bDown) {
-    return static_cast<SHORT>(bDown ? -0x8000 : 0);
+static SHORT KeyBits(BYTE down) {
+    return static_cast<SHORT>(down ? -0x8000 : 0);
 }
 
 SHORT GetKeyState(int key) {
-    return Fails("GetKeyState") ? SHORT{0} : KeyBits(Desk.keysRead[key & 255]);
+    return CallFails("GetKeyState") ? SHORT{0} : KeyBits(Desk.keysRead[key & 255]);
 }
 
 SHORT GetAsyncKeyState(int key) {
-    return Fails("GetAsyncKeyState") ? SHORT{0} : KeyBits(Desk.keysNow[key & 255]);
+    return CallFails("GetAsyncKeyState") ? SHORT{0} : KeyBits(Desk.keysNow[key & 255]);
 }
 
 BOOL GetCursorPos(POINT* point) {
-    if (Fails("GetCursorPos"))
+    if (CallFails("GetCursorPos"))
         return FALSE;
     *point = Desk.cursor;
     return TRUE;
 }
 
-// The cursor stays on the monitors; one rectangle round all of them is near enough here.
+// Clamps to the bounding rectangle of all displays.
 BOOL SetCursorPos(int x, int y) {
-    if (Fails("SetCursorPos"))
+    if (CallFails("SetCursorPos"))
         return FALSE;
-    RECT all = Desk.monitors.front();
-    for (const RECT& monitor : Desk.monitors)
-        all = {std::min(all.left, monitor.left), std::min(all.top, monitor.top),
-               std::max(all.right, monitor.right), std::max(all.bottom, monitor.bottom)};
+    const RECT all = DesktopBounds();
     Desk.cursor = {std::clamp(x, all.left, all.right - 1), std::clamp(y, all.top, all.bottom - 1)};
     return TRUE;
 }
 
 HWND SetCapture(HWND window) {
-    if (Fails("SetCapture") || !Named(window))
+    if (CallFails("SetCapture") || !ResolveHandle(window))
         return nullptr;
     const HWND before = Desk.capture;
     Desk.capture = window;
     if (before && before != window)
-        CallProcedure(before, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(window));
+        CallWndProc(before, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(window));
     return before;
 }
 
 BOOL ReleaseCapture() {
-    if (Fails("ReleaseCapture"))
+    if (CallFails("ReleaseCapture"))
         return FALSE;
     if (const HWND before = std::exchange(Desk.capture, nullptr))
-        CallProcedure(before, WM_CAPTURECHANGED, 0, 0);
+        CallWndProc(before, WM_CAPTURECHANGED, 0, 0);
     return TRUE;
 }

@@ -1,5 +1,5 @@
-// Popup menus, and the icons of the notification area.
-#include "ground.h"
+// Popup menus and notification icons.
+#include "internal.h"
 
 #include <shellapi.h>
 
@@ -9,31 +9,31 @@ DeskMenu& MenuOf(HMENU menu) {
     return *reinterpret_cast<DeskMenu*>(menu);
 }
 
-// The living menu behind a handle, or null with the last error set.
-static DeskMenu* LivingMenu(HMENU menu) {
-    if (menu && MenuOf(menu).bLive)
+// The existing menu behind a handle, or null with the last error set.
+static DeskMenu* LiveMenu(HMENU menu) {
+    if (menu && MenuOf(menu).live)
         return &MenuOf(menu);
     Desk.lastError = ERROR_INVALID_MENU_HANDLE;
     return nullptr;
 }
 
 HMENU CreatePopupMenu() {
-    return Fails("CreatePopupMenu") ? nullptr : reinterpret_cast<HMENU>(&Desk.menus.emplace_back());
+    return CallFails("CreatePopupMenu") ? nullptr : reinterpret_cast<HMENU>(&Desk.menus.emplace_back());
 }
 
-// The menus that hang below it go with it.
-static void Bury(DeskMenu& menu) {
-    menu.bLive = 0;
+// Includes the submenus.
+static void Destroy(DeskMenu& menu) {
+    menu.live = 0;
     for (const DeskMenuItem& item : menu.items)
-        if (item.submenu && MenuOf(item.submenu).bLive)
-            Bury(MenuOf(item.submenu));
+        if (item.submenu && MenuOf(item.submenu).live)
+            Destroy(MenuOf(item.submenu));
 }
 
 BOOL DestroyMenu(HMENU menu) {
-    DeskMenu* row = Fails("DestroyMenu") ? nullptr : LivingMenu(menu);
-    if (row)
-        Bury(*row);
-    return row != nullptr;
+    DeskMenu* record = CallFails("DestroyMenu") ? nullptr : LiveMenu(menu);
+    if (record)
+        Destroy(*record);
+    return record != nullptr;
 }
 
 static DeskMenuItem ItemFrom(const MENUITEMINFOA& info) {
@@ -51,90 +51,103 @@ static DeskMenuItem ItemFrom(const MENUITEMINFOA& info) {
     return item;
 }
 
-// A position past the end appends. Nothing that Quorl does names an item by its id.
+// A position past the end appends. Inserting by item id is not supported.
 BOOL InsertMenuItemA(HMENU menu, UINT item, BOOL byPosition, const MENUITEMINFOA* info) {
-    DeskMenu* row = Fails("InsertMenuItemA") ? nullptr : LivingMenu(menu);
-    if (!row)
+    DeskMenu* record = CallFails("InsertMenuItemA") ? nullptr : LiveMenu(menu);
+    if (!record)
         return FALSE;
     if (!byPosition || info->cbSize != sizeof *info) {
         Desk.lastError = ERROR_INVALID_PARAMETER;
         return FALSE;
     }
-    const std::size_t place = std::min<std::size_t>(item, row->items.size());
-    row->items.insert(row->items.begin() + static_cast<std::ptrdiff_t>(place), ItemFrom(*info));
+    const std::size_t position = std::min<std::size_t>(item, record->items.size());
+    record->items.insert(record->items.begin() + static_cast<std::ptrdiff_t>(position), ItemFrom(*info));
     return TRUE;
 }
 
-// Whether the user finds an entry with this id, in the menu or below it.
-static int Offers(const DeskMenu& menu, UINT id) {
+// Searches submenus too.
+static bool ContainsItem(const DeskMenu& menu, UINT id) {
     return std::any_of(menu.items.begin(), menu.items.end(), [id](const DeskMenuItem& item) {
         if (item.submenu)
-            return Offers(MenuOf(item.submenu), id) != 0;
+            return ContainsItem(MenuOf(item.submenu), id);
         return item.id == id && !(item.type & MFT_SEPARATOR);
     });
 }
 
-// What the user chooses from the menu: as prepared, as long as it stands there. An empty menu closes at once.
-static UINT Choice(const DeskMenu& menu) {
+// The test's prepared choice, if the menu contains it. An empty menu closes at once.
+static UINT NextChoice(const DeskMenu& menu) {
     if (menu.items.empty())
         return 0;
-    if (Desk.choices.empty()) {
-        ++Desk.surprises;
+    if (Desk.menuChoices.empty()) {
+        ++Desk.unexpected;
         return 0;
     }
-    const UINT id = Desk.choices.front();
-    Desk.choices.pop_front();
-    if (!id || Offers(menu, id))
+    const UINT id = Desk.menuChoices.front();
+    Desk.menuChoices.pop_front();
+    if (!id || ContainsItem(menu, id))
         return id;
-    ++Desk.surprises;
+    ++Desk.unexpected;
     return 0;
 }
 
 BOOL TrackPopupMenuEx(HMENU menu, UINT flags, int x, int y, HWND window, TPMPARAMS*) {
-    const DeskMenu* row = Fails("TrackPopupMenuEx") || !Named(window) ? nullptr : LivingMenu(menu);
-    if (!row)
+    const DeskMenu* record =
+        CallFails("TrackPopupMenuEx") || !ResolveHandle(window) ? nullptr : LiveMenu(menu);
+    if (!record)
         return FALSE;
-    const UINT choice = Choice(*row);
-    Desk.shownMenus.push_back({
-        menu, {x, y},
-         flags, window, choice
-    });
+    const UINT choice = NextChoice(*record);
+    Desk.shownMenus.push_back({menu, {x, y}, flags, window, choice});
     return flags & TPM_RETURNCMD ? static_cast<BOOL>(choice) : TRUE;
 }
 
-static auto TrayPlace(const NOTIFYICONDATAA& data) {
+static auto FindIcon(const NOTIFYICONDATAA& data) {
     return std::find_if(Desk.tray.begin(), Desk.tray.end(), [&data](const DeskTrayIcon& icon) {
         return icon.window == data.hWnd && icon.id == data.uID;
     });
 }
 
-static BOOL AddIcon(const NOTIFYICONDATAA& data) {
-    if (!Named(data.hWnd) || TrayPlace(data) != Desk.tray.end())
+static BOOL RemoveIcon(const NOTIFYICONDATAA& data) {
+    const auto found = FindIcon(data);
+    if (found == Desk.tray.end())
         return FALSE;
-    DeskTrayIcon icon{data.hWnd, data.uID, 0, nullptr, ""};
+    Desk.tray.erase(found);
+    return TRUE;
+}
+
+static void Update(DeskTrayIcon& icon, const NOTIFYICONDATAA& data) {
     if (data.uFlags & NIF_MESSAGE)
         icon.callback = data.uCallbackMessage;
     if (data.uFlags & NIF_ICON)
         icon.icon = data.hIcon;
     if (data.uFlags & NIF_TIP)
         icon.tip = data.szTip;
-    Desk.tray.push_back(icon);
-    return TRUE;
 }
 
-static BOOL RemoveIcon(const NOTIFYICONDATAA& data) {
-    const auto place = TrayPlace(data);
-    if (place == Desk.tray.end())
+static BOOL AddIcon(const NOTIFYICONDATAA& data) {
+    const bool fails = Desk.trayAddsToFail > 0;
+    Desk.trayAddsToFail -= fails;
+    if ((fails && !Desk.trayAddsLate) || !ResolveHandle(data.hWnd) || FindIcon(data) != Desk.tray.end())
         return FALSE;
-    Desk.tray.erase(place);
+    DeskTrayIcon icon{data.hWnd, data.uID, 0, nullptr, ""};
+    Update(icon, data);
+    Desk.tray.push_back(icon);
+    return !fails;
+}
+
+static BOOL ModifyIcon(const NOTIFYICONDATAA& data) {
+    const auto found = FindIcon(data);
+    if (found == Desk.tray.end())
+        return FALSE;
+    Update(*found, data);
     return TRUE;
 }
 
 BOOL Shell_NotifyIconA(DWORD operation, NOTIFYICONDATAA* data) {
-    if (Fails("Shell_NotifyIconA"))
+    if (CallFails("Shell_NotifyIconA"))
         return FALSE;
     switch (operation) {
     case NIM_ADD: return AddIcon(*data);
+    case NIM_MODIFY: return ModifyIcon(*data);
     case NIM_DELETE: return RemoveIcon(*data);
     default: return FALSE;
     }

@@ -1,109 +1,135 @@
-// Sending and posting, the queue with its order of precedence, timers on a virtual clock.
-#include "ground.h"
+// Sending and posting, the message queue with its priorities, timers on a virtual clock.
+#include "internal.h"
 
 #include <algorithm>
 
-LRESULT CallProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const DeskWindow* row = Living(window);
-    return row && row->procedure ? row->procedure(window, message, wParam, lParam) : 0;
-}
-
-// A window of another program takes a message.
+// Delivers a message to another program's window.
 static void Deliver(DeskWindow& window, UINT message, WPARAM wParam, LPARAM lParam) {
     DeskMessage arrived{message, wParam, lParam, {}};
     if (message == WM_MOVING) {
         RECT& record = *reinterpret_cast<RECT*>(lParam);
         arrived.record = record;
-        if (window.bRewrites)
-            record = window.rewritten;
+        if (window.overridesMove)
+            record = window.moveOverride;
     }
-    if (Desk.bTrace)
+    if (Desk.recording)
         window.received.push_back(arrived);
 }
 
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    DeskWindow* row = Fails("SendMessageA") ? nullptr : Named(window);
-    if (!row)
+    DeskWindow* record = CallFails("SendMessageA") ? nullptr : ResolveHandle(window);
+    if (!record)
         return 0;
-    if (row->procedure)
-        return row->procedure(window, message, wParam, lParam);
-    if (row->answer != DeskAnswer::Answers)
-        ++Desk.surprises;
-    Deliver(*row, message, wParam, lParam);
+    if (record->procedure)
+        return CallWndProc(window, message, wParam, lParam);
+    if (record->response != DeskResponse::Responds)
+        ++Desk.unexpected;
+    Deliver(*record, message, wParam, lParam);
     return 0;
 }
 
-// Non-zero when a window of another program does not take the message in time.
-static int Refuses(const DeskWindow& window, UINT milliseconds) {
-    if (window.answer == DeskAnswer::Answers)
-        return 0;
+// True if another program's window does not respond in time.
+static bool FailsToRespond(const DeskWindow& window, UINT milliseconds) {
+    if (window.elevated) {
+        Desk.lastError = ERROR_ACCESS_DENIED;
+        return true;
+    }
+    if (window.response == DeskResponse::Responds)
+        return false;
     Desk.lastError = window.error;
-    if (window.answer == DeskAnswer::TimesOut)
+    if (window.response == DeskResponse::TimesOut)
         Desk.now += milliseconds;
-    if (window.answer == DeskAnswer::Leaves) {
+    if (window.response == DeskResponse::Exits) {
         Desk.lastError = ERROR_INVALID_WINDOW_HANDLE;
         KillWindow(window.handle);
     }
-    return 1;
+    return true;
 }
 
 LRESULT SendMessageTimeoutA(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT, UINT milliseconds,
                             DWORD_PTR* result) {
-    if (Fails("SendMessageTimeoutA"))
+    if (CallFails("SendMessageTimeoutA"))
         return 0;
     *result = 0;
     if (window == HWND_BROADCAST) {
         Desk.broadcasts.push_back({message, wParam, lParam, {}});
         return 1;
     }
-    DeskWindow* row = Named(window);
-    if (!row || Refuses(*row, milliseconds))
+    DeskWindow* record = ResolveHandle(window);
+    if (!record || FailsToRespond(*record, milliseconds))
         return 0;
-    if (row->procedure)
-        *result = static_cast<DWORD_PTR>(row->procedure(window, message, wParam, lParam));
+    if (record->procedure)
+        *result = static_cast<DWORD_PTR>(CallWndProc(window, message, wParam, lParam));
     else
-        Deliver(*row, message, wParam, lParam);
+        Deliver(*record, message, wParam, lParam);
     return 1;
 }
 
 BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (Fails("PostMessageA") || (window && !Named(window)))
+    if (CallFails("PostMessageA"))
         return FALSE;
+    const DeskWindow* record = window ? ResolveHandle(window) : nullptr;
+    if (window && !record)
+        return FALSE;
+    if (record && record->elevated) {
+        Desk.lastError = ERROR_ACCESS_DENIED;
+        return FALSE;
+    }
     Desk.queue.push_back({window, message, wParam, lParam, Desk.now, Desk.cursor});
     return TRUE;
 }
 
 void PostQuitMessage(int exitCode) {
-    if (Fails("PostQuitMessage"))
+    if (CallFails("PostQuitMessage"))
         return;
-    Desk.bQuit = 1;
+    Desk.quitPosted = true;
     Desk.exitCode = exitCode;
 }
 
-static int TakePosted(MSG* message) {
-    if (Desk.queue.empty())
-        return 0;
-    *message = Desk.queue.front();
-    Desk.queue.pop_front();
-    return 1;
+namespace {
+
+// What GetMessageA or PeekMessageA asks for.
+struct Filter {
+    HWND window; // null: any
+    UINT first, last;
+};
+
+} // namespace
+
+static bool Matches(const Filter& filter, HWND window, UINT message) {
+    const bool any = !filter.first && !filter.last;
+    return (!filter.window || filter.window == window) &&
+           (any || (message >= filter.first && message <= filter.last));
 }
 
-// The quit message comes when nothing that was posted is left.
-static int TakeQuit(MSG* message) {
-    if (!Desk.bQuit)
-        return 0;
-    Desk.bQuit = 0;
+static bool TakePosted(MSG* message, const Filter& filter) {
+    const auto found = std::find_if(Desk.queue.begin(), Desk.queue.end(), [&filter](const MSG& posted) {
+        return Matches(filter, posted.hwnd, posted.message);
+    });
+    if (found == Desk.queue.end())
+        return false;
+    *message = *found;
+    Desk.queue.erase(found);
+    return true;
+}
+
+// WM_QUIT comes after all posted messages, whatever the filter says.
+static bool TakeQuit(MSG* message) {
+    if (!Desk.quitPosted)
+        return false;
+    Desk.quitPosted = false;
     *message = {nullptr, WM_QUIT, static_cast<WPARAM>(Desk.exitCode), 0, Desk.now, Desk.cursor};
-    return 1;
+    return true;
 }
 
-static int TakePaint(MSG* message) {
+static bool TakePaint(MSG* message, const Filter& filter) {
     for (const DeskWindow& window : Desk.windows)
-        if (window.handle && window.procedure && window.bInvalid && IsInSight(window.handle)) {
+        if (window.handle && window.procedure && window.needsPaint && IsShown(window.handle) &&
+            Matches(filter, window.handle, WM_PAINT)) {
             *message = {window.handle, WM_PAINT, 0, 0, Desk.now, Desk.cursor};
-            return 1;
+            return true;
         }
-    return 0;
+    return false;
 }
 
 static DeskTimer* NextTimer() {
@@ -112,48 +138,82 @@ static DeskTimer* NextTimer() {
     return next == Desk.timers.end() ? nullptr : &*next;
 }
 
-static int TakeTimer(MSG* message) {
+static bool TakeTimer(MSG* message, const Filter& filter) {
     DeskTimer* timer = NextTimer();
-    if (!timer || timer->due > Desk.now)
-        return 0;
+    if (!timer || timer->due > Desk.now || !Matches(filter, timer->window, WM_TIMER))
+        return false;
     timer->due = Desk.now + timer->period;
     *message = {timer->window, WM_TIMER,   timer->id, reinterpret_cast<LPARAM>(timer->callback),
                 Desk.now,      Desk.cursor};
-    return 1;
+    return true;
 }
 
-// Nothing is left to do at this moment: the user acts, or time passes. 0: the time allowed is over.
-static int GoOn() {
+// Mouse input is not filtered by window: no caller needs it.
+static bool TakeNext(MSG* message, const Filter& filter) {
+    const bool takesInput = Matches(filter, filter.window, WM_MOUSEMOVE);
+    if (!TakePosted(message, filter) && !TakeQuit(message) && !(takesInput && TakeInput(message)) &&
+        !TakePaint(message, filter) && !TakeTimer(message, filter))
+        return false;
+    Desk.messageTime = message->time;
+    return true;
+}
+
+// With nothing left to do, runs the next script entry or moves the clock. False: `runUntil` is reached.
+static bool Advance() {
     if (!Desk.script.empty()) {
         const auto act = Desk.script.front();
         Desk.script.pop_front();
         act();
-        return 1;
+        return true;
     }
     const DeskTimer* timer = NextTimer();
-    if (timer && timer->due <= Desk.until) {
+    if (timer && timer->due <= Desk.runUntil) {
         Desk.now = std::max(Desk.now, timer->due);
-        return 1;
+        return true;
     }
-    Desk.now = std::max(Desk.now, Desk.until);
-    Desk.bRunDry = 1;
-    return 0;
+    Desk.now = std::max(Desk.now, Desk.runUntil);
+    Desk.timeIsUp = true;
+    return false;
 }
 
-BOOL GetMessageA(MSG* message, HWND, UINT, UINT) {
-    if (Fails("GetMessageA"))
+BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last) {
+    if (CallFails("GetMessageA"))
         return -1;
     *message = {};
     do {
-        if (TakePosted(message) || TakeQuit(message) || TakeInput(message) || TakePaint(message) ||
-            TakeTimer(message))
+        if (TakeNext(message, {window, first, last}))
             return message->message != WM_QUIT;
-    } while (GoOn());
+    } while (Advance());
     return FALSE;
 }
 
+// With PM_NOREMOVE it finds posted messages and WM_QUIT only.
+static bool FindNext(MSG* message, const Filter& filter) {
+    const std::deque<MSG> queue = Desk.queue;
+    const bool quitPosted = Desk.quitPosted;
+    const bool found = TakePosted(message, filter) || TakeQuit(message);
+    Desk.queue = queue;
+    Desk.quitPosted = quitPosted;
+    return found;
+}
+
+BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT flags) {
+    if (CallFails("PeekMessageA"))
+        return FALSE;
+    const Filter filter{window, first, last};
+    return flags & PM_REMOVE ? TakeNext(message, filter) : FindNext(message, filter);
+}
+
+LONG GetMessageTime() {
+    return CallFails("GetMessageTime") ? 0 : static_cast<LONG>(Desk.messageTime);
+}
+
+DWORD GetTickCount() {
+    return CallFails("GetTickCount") ? 0 : Desk.now;
+}
+
 BOOL TranslateMessage(const MSG*) {
-    Fails("TranslateMessage");
+    CallFails("TranslateMessage");
     return FALSE;
 }
 
@@ -163,36 +223,39 @@ LRESULT Dispatch(const MSG& message) {
         callback(message.hwnd, WM_TIMER, message.wParam, Desk.now);
         return 0;
     }
-    return CallProcedure(message.hwnd, message.message, message.wParam, message.lParam);
+    return CallWndProc(message.hwnd, message.message, message.wParam, message.lParam);
 }
 
 LRESULT DispatchMessageA(const MSG* message) {
-    return Fails("DispatchMessageA") ? 0 : Dispatch(*message);
+    return CallFails("DispatchMessageA") ? 0 : Dispatch(*message);
 }
 
-LRESULT DefaultAnswer(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    DeskWindow* row = Living(window);
-    if (!row)
+LRESULT DefaultProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    DeskWindow* record = LiveWindow(window);
+    if (!record)
         return 0;
     switch (message) {
     case WM_NCCREATE:
+    case WM_QUERYENDSESSION:
+    case WM_MOUSEACTIVATE: // MA_ACTIVATE
     case WM_ERASEBKGND: return 1;
-    case WM_CLOSE: EndWindow(window); return 0;
-    case WM_PAINT: row->bInvalid = row->bErase = 0; return 0;
-    case WM_SETTEXT: row->title = reinterpret_cast<LPCSTR>(lParam); return TRUE;
-    case WM_GETTEXT: return CopyText(row->title, reinterpret_cast<LPSTR>(lParam), static_cast<int>(wParam));
-    case WM_GETTEXTLENGTH: return static_cast<LRESULT>(row->title.size());
+    case WM_CLOSE: DestroyTree(window); return 0;
+    case WM_PAINT: record->needsPaint = record->needsErase = false; return 0;
+    case WM_SETTEXT: record->title = TextFrom(lParam); return TRUE;
+    case WM_GETTEXT:
+        return CopyText(record->title, reinterpret_cast<LPSTR>(lParam), static_cast<int>(wParam));
+    case WM_GETTEXTLENGTH: return static_cast<LRESULT>(ToWide(record->title).size());
     default: return 0;
     }
 }
 
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return Fails("DefWindowProcA") ? 0 : DefaultAnswer(window, message, wParam, lParam);
+    return CallFails("DefWindowProcA") ? 0 : DefaultProc(window, message, wParam, lParam);
 }
 
 UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC callback) {
-    constexpr UINT shortest = 10; // Windows knows no shorter period
-    if (Fails("SetTimer") || !Named(window))
+    constexpr UINT shortest = 10; // Windows raises shorter periods to this
+    if (CallFails("SetTimer") || !ResolveHandle(window))
         return 0;
     const DWORD period = std::max(milliseconds, shortest);
     std::erase_if(Desk.timers,
@@ -202,13 +265,13 @@ UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC callbac
 }
 
 BOOL KillTimer(HWND window, UINT_PTR id) {
-    if (Fails("KillTimer"))
+    if (CallFails("KillTimer"))
         return FALSE;
     return std::erase_if(Desk.timers, [=](const DeskTimer& timer) {
                return timer.window == window && timer.id == id;
            }) > 0;
 }
 
-void DropTimersOf(HWND window) {
+void RemoveTimers(HWND window) {
     std::erase_if(Desk.timers, [window](const DeskTimer& timer) { return timer.window == window; });
 }

@@ -1,5 +1,5 @@
-// The user's mouse. What it does waits as hardware input and becomes a message of the window under the
-// cursor, or of the one with the capture, when a thread asks for its next message.
+// Mouse input. It is queued as hardware input and becomes a message for the capture window or the window
+// under the cursor when a thread asks for its next message.
 #include "controls.h"
 
 #include <cstring>
@@ -9,7 +9,7 @@ namespace {
 struct MouseButton {
     int key;
     UINT pressed, released;
-    WPARAM held; // in wParam of every mouse message
+    WPARAM held; // MK_ flag in wParam of mouse messages
 };
 
 } // namespace
@@ -20,7 +20,7 @@ static const MouseButton Buttons[] = {
     {VK_MBUTTON, WM_MBUTTONDOWN, WM_MBUTTONUP, MK_MBUTTON},
 };
 
-static void Enter(UINT message) {
+static void QueueInput(UINT message) {
     DeskInput input{message, Desk.cursor, Desk.now, {}};
     std::memcpy(input.keys, Desk.keysNow, sizeof input.keys);
     Desk.inputs.push_back(input);
@@ -28,71 +28,57 @@ static void Enter(UINT message) {
 
 void MoveMouse(int x, int y) {
     Desk.cursor = {x, y};
-    Enter(WM_MOUSEMOVE);
+    QueueInput(WM_MOUSEMOVE);
 }
 
-void PressMouse(int button, int bDown) {
-    HoldKey(button, bDown);
+void PressMouse(int button, bool down) {
+    HoldKey(button, down);
     for (const MouseButton& row : Buttons)
         if (row.key == button)
-            Enter(bDown ? row.pressed : row.released);
+            QueueInput(down ? row.pressed : row.released);
 }
 
-POINT OnScreen(HWND window, int x, int y) {
-    const DeskWindow& row = RowOf(window);
-    const RECT frame = FrameOf(row);
-    return {row.place.left + frame.left + x, row.place.top + frame.top + y};
-}
-
-static int Holds(const RECT& rect, POINT point) {
-    return point.x >= rect.left && point.x < rect.right && point.y >= rect.top && point.y < rect.bottom;
-}
-
-static int IsUnder(const DeskWindow& window, POINT point, DWORD topmost) {
+static bool IsUnder(const DeskWindow& window, POINT point, DWORD topmost) {
     return (window.style & (WS_VISIBLE | WS_MINIMIZE)) == WS_VISIBLE &&
-           (window.exStyle & WS_EX_TOPMOST) == topmost && Holds(window.place, point);
+           (window.exStyle & WS_EX_TOPMOST) == topmost && Contains(window.rect, point);
 }
 
-// A topmost window lies over all others, whatever was raised last.
-static HWND WindowUnder(POINT point) {
+static HWND TopLevelAt(POINT point) {
     for (const DWORD topmost : {WS_EX_TOPMOST, DWORD{0}})
-        for (const HWND handle : Desk.order)
-            if (IsUnder(RowOf(handle), point, topmost))
+        for (const HWND handle : Desk.zOrder)
+            if (IsUnder(WindowOf(handle), point, topmost))
                 return handle;
     return nullptr;
 }
 
-// A frame is no client area: what happens on it is another message, which nobody here reads.
-static int IsOnClient(const DeskWindow& window, POINT point) {
-    const RECT frame = FrameOf(window);
-    const RECT& place = window.place;
-    return Holds({place.left + frame.left, place.top + frame.top, place.right - frame.right,
-                  place.bottom - frame.bottom},
-                 point);
+// Input on the frame becomes non-client messages, which are not supported.
+static bool IsOnClient(const DeskWindow& window, POINT point) {
+    const POINT origin = ToScreen(window.handle, 0, 0);
+    return Contains(OffsetBy(ClientRect(window), origin.x, origin.y), point);
 }
 
-// The child that takes the mouse at this point: a disabled one leaves it to what it stands in, and so does
-// one that only shows something.
-static const DeskWindow* Innermost(const DeskWindow& window, POINT point) {
+// The child that receives mouse input at this point. Disabled children and those that are transparent to the
+// mouse leave it to their parent.
+static const DeskWindow* ChildAt(const DeskWindow& window, POINT point) {
     for (const HWND handle : window.children) {
-        const DeskWindow& child = RowOf(handle);
-        if ((child.style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE && Holds(child.place, point) &&
-            !IsSeenThrough(child))
-            return Innermost(child, point);
+        const DeskWindow& child = WindowOf(handle);
+        if ((child.style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE && Contains(child.rect, point) &&
+            !IsTransparentToMouse(child))
+            return ChildAt(child, point);
     }
     return &window;
 }
 
-// Null: the input is not for this thread.
-static const DeskWindow* ReceiverOf(const DeskInput& input) {
+// Null: the input is not for this process.
+static const DeskWindow* TargetOf(const DeskInput& input) {
     if (Desk.capture)
-        return Living(Desk.capture);
-    const DeskWindow* window = Living(WindowUnder(input.at));
-    return window && window->procedure && IsOnClient(*window, input.at) ? Innermost(*window, input.at)
+        return LiveWindow(Desk.capture);
+    const DeskWindow* window = LiveWindow(TopLevelAt(input.at));
+    return window && window->procedure && IsOnClient(*window, input.at) ? ChildAt(*window, input.at)
                                                                         : nullptr;
 }
 
-static WPARAM HeldIn(const BYTE (&keys)[256]) {
+static WPARAM KeyFlags(const BYTE (&keys)[256]) {
     WPARAM held = 0;
     for (const MouseButton& row : Buttons)
         if (keys[row.key])
@@ -104,19 +90,58 @@ static WPARAM HeldIn(const BYTE (&keys)[256]) {
     return held;
 }
 
-int TakeInput(MSG* message) {
+static bool IsPress(UINT message) {
+    return message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN || message == WM_MBUTTONDOWN;
+}
+
+// An inactive window decides whether a press activates it, and whether it is delivered.
+static bool OfferActivation(HWND window, const DeskInput& input) {
+    const HWND root = RootOf(window);
+    if (Desk.capture || root == Desk.foreground || !IsPress(input.message))
+        return true;
+    constexpr int onClient = 1; // HTCLIENT
+    const LRESULT reply = CallWndProc(window, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(root),
+                                      MAKELPARAM(onClient, static_cast<int>(input.message)));
+    if (Desk.clicksActivate && LiveWindow(root) && reply != MA_NOACTIVATE && reply != MA_NOACTIVATEANDEAT)
+        Activate(root);
+    return LiveWindow(window) && reply != MA_ACTIVATEANDEAT && reply != MA_NOACTIVATEANDEAT;
+}
+
+bool TakeInput(MSG* message) {
     while (!Desk.inputs.empty()) {
         const DeskInput input = Desk.inputs.front();
         Desk.inputs.pop_front();
-        const DeskWindow* window = ReceiverOf(input);
-        if (!window)
+        const DeskWindow* window = TargetOf(input);
+        Desk.ownsLastInput = window != nullptr;
+        if (!window || !OfferActivation(window->handle, input))
             continue;
         std::memcpy(Desk.keysRead, input.keys, sizeof Desk.keysRead);
-        const POINT origin = OnScreen(window->handle, 0, 0);
-        *message = {window->handle,     input.message,
-                    HeldIn(input.keys), MAKELPARAM(input.at.x - origin.x, input.at.y - origin.y),
-                    input.time,         input.at};
-        return 1;
+        POINT client = input.at;
+        ToClient(window->handle, &client);
+        *message = {window->handle, input.message, KeyFlags(input.keys), MAKELPARAM(client.x, client.y),
+                    input.time,     input.at};
+        return true;
     }
-    return 0;
+    return false;
+}
+
+HWND WindowFromPoint(POINT point) {
+    if (CallFails("WindowFromPoint"))
+        return nullptr;
+    for (const HWND handle : Desk.zOrder)
+        if ((WindowOf(handle).style & WS_VISIBLE) && Contains(WindowOf(handle).rect, point))
+            return handle;
+    return nullptr;
+}
+
+// Hidden and disabled children count too. Returns the parent where there is no child.
+HWND ChildWindowFromPoint(HWND parent, POINT point) {
+    const DeskWindow* record = CallFails("ChildWindowFromPoint") ? nullptr : ResolveHandle(parent);
+    if (!record || !Contains(ClientRect(*record), point))
+        return nullptr;
+    const POINT at = ToScreen(parent, point.x, point.y);
+    for (const HWND child : record->children)
+        if (Contains(WindowOf(child).rect, at))
+            return child;
+    return parent;
 }

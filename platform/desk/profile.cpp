@@ -1,5 +1,5 @@
-// Private profile files, kept as text and searched line by line, as Windows does.
-#include "ground.h"
+// Private profile files, stored as text and searched line by line as Windows does.
+#include "internal.h"
 
 #include <algorithm>
 #include <string_view>
@@ -7,8 +7,8 @@
 namespace {
 
 struct Line {
-    std::size_t start; // in the file's text
-    std::size_t end;   // behind the last character, before the line's end
+    std::size_t start; // offset in the text
+    std::size_t end;   // after the last character, without the line break
 };
 
 struct Entry {
@@ -31,8 +31,8 @@ static std::size_t NextLine(const std::string& text, std::size_t start) {
     return end == std::string::npos ? text.size() : end + 1;
 }
 
-// A carriage return that ends no line is one.
-static int IsBlank(char letter) {
+// A carriage return inside a line is blank.
+static bool IsBlank(char letter) {
     return letter == ' ' || letter == '\t' || letter == '\r';
 }
 
@@ -44,8 +44,8 @@ static std::string_view Trimmed(const std::string& text, std::size_t from, std::
     return std::string_view(text).substr(from, to - from);
 }
 
-// Case does not count. Lines can be long: nothing is copied.
-static int IsSame(std::string_view text, std::string_view name) {
+// Case-insensitive. Compares in place because lines can be long.
+static bool IsSame(std::string_view text, std::string_view name) {
     const auto lower = [](char letter) {
         return letter >= 'A' && letter <= 'Z' ? letter + ('a' - 'A') : letter;
     };
@@ -56,7 +56,7 @@ static bool IsHeading(const std::string& text, const Line& line) {
     return Trimmed(text, line.start, line.end).starts_with('[');
 }
 
-// Where the lines of a section begin, or npos. The first section of that name counts.
+// Offset of the first line after the heading, or npos. The first section of that name counts.
 static std::size_t SectionStart(const std::string& text, const std::string& section) {
     const std::string heading = "[" + section + "]";
     for (std::size_t at = 0; at < text.size(); at = NextLine(text, at)) {
@@ -67,7 +67,7 @@ static std::size_t SectionStart(const std::string& text, const std::string& sect
     return std::string::npos;
 }
 
-// Where the section that begins at `at` ends: behind its last line that is not blank.
+// Offset after the last non-blank line of the section that begins at `at`.
 static std::size_t SectionEnd(const std::string& text, std::size_t at) {
     std::size_t end = at;
     for (; at < text.size(); at = NextLine(text, at)) {
@@ -80,8 +80,8 @@ static std::size_t SectionEnd(const std::string& text, std::size_t at) {
     return end;
 }
 
-// Quotes round the whole value are not part of it.
-static std::string_view Unquoted(std::string_view value) {
+// Quotes around the whole value are not part of it.
+static std::string_view WithoutQuotes(std::string_view value) {
     const bool quoted =
         value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
     return quoted ? value.substr(1, value.size() - 2) : value;
@@ -96,46 +96,46 @@ static bool FindEntry(const std::string& text, const std::string& section, const
         const std::size_t equals = std::min(text.find('=', line.start), line.end);
         if (equals == line.end || !IsSame(Trimmed(text, line.start, equals), key))
             continue;
-        *found = {line, std::string(Unquoted(Trimmed(text, equals + 1, line.end)))};
+        *found = {line, std::string(WithoutQuotes(Trimmed(text, equals + 1, line.end)))};
         return true;
     }
-    return false; // there is no such section, too
+    return false; // also without such a section
 }
 
-static bool Stored(LPCSTR section, LPCSTR key, LPCSTR file, Entry* found) {
-    const auto content = Desk.files.find(LowerCase(file));
+static bool FindStored(LPCSTR section, LPCSTR key, LPCSTR file, Entry* found) {
+    const auto content = Desk.files.find(FileKey(file));
     return content != Desk.files.end() && FindEntry(content->second, section, key, found);
 }
 
 DWORD GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR absent, LPSTR text, DWORD size,
                                LPCSTR file) {
     Entry entry;
-    if (Fails("GetPrivateProfileStringA") || !Stored(section, key, file, &entry))
+    if (CallFails("GetPrivateProfileStringA") || !FindStored(section, key, file, &entry))
         entry.value = absent;
     return static_cast<DWORD>(CopyText(entry.value, text, static_cast<int>(size)));
 }
 
-// Digits behind an optional sign; a number past 32 bits wraps.
+// Digits after an optional sign; numbers above 32 bits wrap around.
 static UINT NumberIn(const std::string& value) {
     const bool negative = !value.empty() && value[0] == '-';
-    const bool bSigned = negative || value.starts_with('+');
+    const bool isSigned = negative || value.starts_with('+');
     UINT number = 0;
-    for (std::size_t at = bSigned; at < value.size() && value[at] >= '0' && value[at] <= '9'; ++at)
+    for (std::size_t at = isSigned; at < value.size() && value[at] >= '0' && value[at] <= '9'; ++at)
         number = number * 10 + static_cast<UINT>(value[at] - '0');
     return negative ? 0 - number : number;
 }
 
 UINT GetPrivateProfileIntA(LPCSTR section, LPCSTR key, int absent, LPCSTR file) {
     Entry entry;
-    if (Fails("GetPrivateProfileIntA") || !Stored(section, key, file, &entry) || entry.value.empty())
+    if (CallFails("GetPrivateProfileIntA") || !FindStored(section, key, file, &entry) || entry.value.empty())
         return static_cast<UINT>(absent);
     return NumberIn(entry.value);
 }
 
 BOOL WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file) {
-    if (Fails("WritePrivateProfileStringA") || Desk.protectedFiles.contains(LowerCase(file)))
+    if (CallFails("WritePrivateProfileStringA") || Desk.protectedFiles.contains(FileKey(file)))
         return FALSE;
-    std::string& content = Desk.files[LowerCase(file)];
+    std::string& content = Desk.files[FileKey(file)];
     const std::string line = std::string(key) + "=" + text;
     Entry entry;
     if (FindEntry(content, section, key, &entry)) {

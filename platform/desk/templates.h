@@ -1,10 +1,10 @@
-// The templates of the project's dialogs, as its resource script has them.
+// The dialog templates of the program's resource script.
 #pragma once
 
 #include "desk.h"
 
-// Places are in dialog units: x, y, width, height.
-struct DeskUnits {
+// In dialog units.
+struct DialogRect {
     int x, y, width, height;
 };
 
@@ -13,16 +13,16 @@ struct ControlTemplate {
     std::string text;
     int id;
     DWORD style, exStyle;
-    DeskUnits place;
+    DialogRect rect;
 };
 
 struct DialogTemplate {
     std::string title;
     DWORD style = 0, exStyle = 0;
-    DeskUnits place{};
+    DialogRect rect{};
     std::vector<ControlTemplate> controls;
 };
 
-// Null if the script has none of that number. The script is read at the first call; what it cannot
-// understand in it ends the program.
-const DialogTemplate* TemplateOf(int id);
+// Null if the script has no dialog with that number. The first call parses the script and aborts on anything
+// it does not support. Numbers may be names that a header included with `#include "..."` defines.
+const DialogTemplate* FindTemplate(int id);

@@ -1,50 +1,52 @@
-// What a user does with controls, for tests.
+// User actions on controls, for tests.
 #include "controls.h"
 
 #include <algorithm>
 
-void GoToControl(HWND control) {
-    if (IsUsable(control))
-        GoTo(control);
+void FocusControl(HWND control) {
+    if (!IsUsable(control))
+        return;
+    Desk.ownsLastInput = true;
+    FocusWindow(control);
 }
 
 void ClickControl(HWND button) {
     if (!IsUsable(button))
         return;
-    GoTo(button);
-    PressButton(RowOf(button));
+    FocusControl(button);
+    PressButton(WindowOf(button));
 }
 
-void TypeInto(HWND edit, const char* text) {
+void TypeText(HWND edit, const char* text) {
     if (!IsUsable(edit))
         return;
-    GoTo(edit);
-    const DeskWindow& row = RowOf(edit);
-    if (row.style & ES_READONLY)
+    FocusControl(edit);
+    const DeskWindow& window = WindowOf(edit);
+    if (window.style & ES_READONLY)
         return;
     std::string typed = text;
-    if (row.style & ES_NUMBER)
+    if (window.style & ES_NUMBER)
         std::erase_if(typed, [](char letter) { return letter < '0' || letter > '9'; });
-    CallProcedure(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(typed.c_str()));
+    CallWndProc(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(typed.c_str()));
 }
 
 static const struct {
-    WNDPROC kind;
-    void (*choose)(DeskWindow& control, int row);
-} Choices[] = {
-    {ListBoxProc,  ChooseInListBox },
-    {ComboBoxProc, ChooseInComboBox},
-    {TabProc,      ChooseTab       },
-    {ListViewProc, ChooseInListView},
+    WNDPROC procedure;
+    void (*select)(DeskWindow& control, int index);
+} Selectors[] = {
+    {ListBoxProc, SelectInListBox},
+    {ComboBoxProc, SelectInComboBox},
+    {TabProc, SelectTab},
+    {ListViewProc, SelectInListView},
 };
 
-void ChooseRow(HWND control, int row) {
+void SelectItem(HWND control, int index) {
     if (!IsUsable(control))
         return;
-    GoTo(control);
-    for (const auto& choice : Choices)
-        if (choice.kind == RowOf(control).procedure)
-            choice.choose(RowOf(control), row);
+    FocusControl(control);
+    for (const auto& selector : Selectors)
+        if (selector.procedure == WindowOf(control).procedure)
+            selector.select(WindowOf(control), index);
 }
 
 void PressKey(int key) {

@@ -1,4 +1,4 @@
-// The common controls that Quorl uses: list view, tab control, trackbar.
+// Common controls: list view, tab control, trackbar.
 #pragma once
 
 #include "windows.h"

@@ -1,4 +1,4 @@
-// The common dialogs that Quorl uses.
+// Common dialogs.
 #pragma once
 
 #include "windows.h"

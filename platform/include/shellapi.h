@@ -1,4 +1,4 @@
-// The shell's calls that Quorl makes.
+// Notification icons.
 #pragma once
 
 #include "windows.h"
@@ -16,6 +16,7 @@ struct NOTIFYICONDATAA {
 constexpr DWORD NOTIFYICONDATAA_V1_SIZE = offsetof(NOTIFYICONDATAA, szTip) + 64;
 
 constexpr DWORD NIM_ADD = 0;
+constexpr DWORD NIM_MODIFY = 1;
 constexpr DWORD NIM_DELETE = 2;
 
 constexpr UINT NIF_MESSAGE = 1;

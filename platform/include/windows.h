@@ -1,4 +1,4 @@
-// The Windows calls that Quorl makes, declared for a desktop held in memory (see desk/desk.h).
+// Declares the Windows calls Quorl uses, implemented by the in-memory desktop (see desk/desk.h).
 #pragma once
 
 #include "win/types.h"

@@ -1,18 +1,17 @@
-// The 123 actions: everything that the user can command, with its bindings and its setting.
+// The actions: what is constant about each, and what the user can change.
 #pragma once
 
+#include "actions/action_ids.h"
 #include "core/platform.h"
 
-using ActionId = int; // a row number, 0 to 122
+#include <climits>
 
-constexpr int NUM_ACTIONS = 123;
-
-// Where a row is offered.
+// Where an action is offered.
 constexpr DWORD ACTION_KEY = 128;   // may be bound to a key and placed in the menu
 constexpr DWORD ACTION_MOUSE = 256; // may be bound to a mouse combination on the map
-constexpr DWORD ACTION_OFF = 512;   // nowhere; it still runs, as from a binding in the settings file
+constexpr DWORD ACTION_OFF = 512;   // nowhere; it still runs, for example from a binding in the settings file
 
-// Parts of a combination, the same in rows, arguments and the settings file.
+// Parts of a combination, the same in tables, arguments and the settings file.
 constexpr int KEY_SHIFT = 1;
 constexpr int KEY_ALT = 2;
 constexpr int KEY_CTRL = 4;
@@ -22,7 +21,51 @@ constexpr int MBUTTON = 32;
 constexpr int KEY_WIN = 64;
 
 constexpr int UNBOUND = -1;
+constexpr int NO_ACTION = -1; // where a number of an action is expected
 
+struct ActionPoint {
+    int x, y; // client coordinates of the map, in pixels
+};
+
+constexpr int NO_REGION = INT_MIN; // outside the range of id - FIRST_REGION_ID
+
+// What a handler is called with.
+struct ActionCall {
+    HWND window; // what the action repaints, or uses as owner
+    int id;
+    int argument;      // from the action's definition
+    ActionPoint point; // where the mouse was pressed; (0, 0) for a key or the menu
+    int region;        // index of the region to jump to, or NO_REGION
+};
+
+struct KeyBinding {
+    int mods; // sum of KEY_ flags, or UNBOUND
+    int vk;   // virtual key
+};
+
+struct MouseBinding {
+    int mods;   // sum of KEY_ flags, or UNBOUND
+    int button; // a button flag; other numbers never match a press
+};
+
+constexpr KeyBinding NO_KEY = {UNBOUND, UNBOUND};
+constexpr MouseBinding NO_MOUSE = {UNBOUND, UNBOUND};
+
+// Everything constant about an action.
+struct ActionDef {
+    ActionId id;
+    DWORD flags;                            // where it is offered if the system has what it needs
+    int start;                              // its value before any settings are loaded
+    int (*handler)(const ActionCall& call); // null: not implemented. The result is the action's own.
+    int argument;                           // what distinguishes actions that share a handler
+    const char* text;
+    KeyBinding key = NO_KEY; // default bindings
+    MouseBinding mouse = NO_MOUSE;
+};
+
+extern const ActionDef ActionDefs[NUM_ACTIONS];
+
+// What changes at run time.
 struct ActionRow {
     int id;
     DWORD flags;
@@ -31,37 +74,17 @@ struct ActionRow {
     int mouse_btn;    // a button flag, or UNBOUND
     int key_mods;     // sum of KEY_ flags, or UNBOUND
     int vk;           // virtual key of the hotkey, or UNBOUND
-    int value;        // the row's setting: what a toggle flips and the menu shows as a check mark
-    char text[32];    // scratch for the printable form of a binding
+    int value;        // the action's setting: what a toggle flips and the menu shows as a check mark
+    char text[32];    // buffer for the text of a binding
 };
 
-// Rows 0 to 122, and a closing row that no loop reaches.
+// One row for each action, and a last row that no loop reads.
 extern ActionRow ActionTable[NUM_ACTIONS + 1];
 
-// Rows that other code names: settings that it reads, or rows that it answers for.
-enum NamedRow : ActionId {
-    ROW_REGION = 3,
-    ROW_CENTER_ON_ACTIVE = 21,
-    ROW_DRAG_TOOLWIN = 38,
-    ROW_DRAG_WINDOW = 39,
-    ROW_SHRINK_WIDTH = 42,
-    ROW_EXPAND_WIDTH = 43,
-    ROW_SHRINK_HEIGHT = 44,
-    ROW_EXPAND_HEIGHT = 45,
-    ROW_TOOLTIP = 70,
-    ROW_LOAD_SETTINGS = 71,
-    ROW_SAVE_SETTINGS = 72,
-    ROW_SNAP = 73,
-    ROW_SHOW_TOOLWIN = 77,
-    ROW_KEEP_ACTIVE_IN_VIEW = 79,
-    ROW_RESTORE_MAXIMIZED = 82,
-    ROW_LOCK_WORK_STATION = 84,
-    ROW_FOLLOW_MOUSE = 85,
-    ROW_QUICK_REDRAW = 89,
-    ROW_SUPPRESS_WHEN_DRAGGING = 90,
-    ROW_SUPPRESS_FOLLOW = 91,
-    ROW_SHIFT_SUPPRESS = 114,
-    ROW_XWIN_MOUSE = 115,
-    ROW_TRANSPARENCY = 116,
-    ROW_IGNORE_TOOLWINS = 122,
-};
+// Fills the table with the start values and default bindings. Registers nothing.
+void FillActionTable();
+
+// Whether the action's setting is on.
+inline bool IsOn(ActionId id) {
+    return ActionTable[id].value != 0;
+}

@@ -1,22 +1,25 @@
-// Bindings of rows: recording and clearing them, and registering the global hotkeys.
+// Bindings of actions: registering hotkeys, and clearing hotkeys and mouse combinations.
 #pragma once
 
 #include "actions/action_table.h"
 
-// Binds a row. `kind` with ACTION_MOUSE stores a mouse combination (`key` is a sum of button flags); any
-// other kind registers a hotkey on MainWnd and stores what was registered. The caller clears an older binding
-// first. 1 if stored; 0 if `mods` or `key` is negative, silently, or if the platform refuses, which the user
-// is told.
-int SetActionKey(HWND window, ActionId row, DWORD kind, int mods, int key);
+// Registers a hotkey for the action on MainWnd and records it. `key` is a value from KeyNames or the settings
+// file. Clear an older hotkey first. False, with the action unchanged, if `mods` or `key` is negative, or if
+// Windows refuses, which a message box reports.
+bool SetActionKey(int id, int mods, int key);
 
-// Clears the kinds of binding in the mask `kinds` (ACTION_KEY, ACTION_MOUSE). Always 1.
-int ClearActionKey(HWND window, ActionId row, DWORD kinds);
+// Registers the hotkey that the table holds for the action. RegisterRecordedKey is for bindings from the
+// settings file: a refused one stays recorded for the next save. RegisterDefaultKey is for defaults: a
+// refused one becomes unbound.
+void RegisterRecordedKey(int id);
+void RegisterDefaultKey(int id);
 
-void ClearAllActionKeys(HWND window);
+// Clears the kinds of binding in the mask `kinds` (ACTION_KEY, ACTION_MOUSE) and releases the hotkey.
+void ClearActionKey(int id, DWORD kinds);
 
-// Pure but for the keyboard's layout: the virtual key for a key value as rows and lists hold it, with the
-// shift state of VkKeyScanA in the high byte, or -1. `key` is overwritten with the value that was looked up.
-int VirtualKey(int* key);
+// Clears all hotkeys and mouse combinations and releases the hotkeys.
+void ClearAllActionKeys();
 
-// Pure: KEY_ flags as RegisterHotKey wants them; others are dropped.
-UINT HotkeyModifiers(int mods);
+// The virtual key for a key value, with the shift state of VkKeyScanA in the high byte; -1 if the keyboard
+// layout lacks the character.
+int VirtualKey(int key);

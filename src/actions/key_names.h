@@ -8,5 +8,5 @@ struct KeyName {
 
 constexpr int NUM_KEY_NAMES = 66;
 
-// Closed by a row whose two fields are both -1; its name is no text.
+// The last row marks the end: vk is -1, and name is not a valid pointer.
 extern const KeyName KeyNames[NUM_KEY_NAMES + 1];

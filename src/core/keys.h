@@ -1,10 +1,14 @@
-// Which keys and buttons the user holds.
+// The keys and buttons that are down.
 #pragma once
 
 #include "core/platform.h"
 
-// The state of the moment: for timers and news from outside, which come without an input message of our own.
-// (GetKeyState is out of date on a thread whose windows do not have the focus.)
-inline int IsHeld(int key) {
+// The current state: for timers and messages from the hook library, which come without an input message of
+// our own. GetKeyState is out of date in a thread whose windows do not have the focus.
+inline bool IsHeld(int key) {
     return GetAsyncKeyState(key) < 0;
+}
+
+inline bool IsAnyButtonHeld() {
+    return IsHeld(VK_LBUTTON) || IsHeld(VK_MBUTTON) || IsHeld(VK_RBUTTON);
 }

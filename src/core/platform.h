@@ -1,4 +1,4 @@
-// Windows, as every file of Quorl includes it.
+// The Windows headers; every file includes them through this one.
 #pragma once
 
 #ifndef NOMINMAX

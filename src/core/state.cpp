@@ -4,14 +4,12 @@
 RECT ScreenRect;
 RECT Quorl;
 RECT VDesk;
-OptionsRecord Options;
 
 HWND MainWnd;
-HWND TipWnd;
 HINSTANCE AppInstance;
 HBRUSH BackBrush;
 HICON TrayImage;
-int bQuitting;
+bool bQuitting;
 
 decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;
 decltype(&LockWorkStation) pLockWorkStation;

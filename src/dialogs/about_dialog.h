@@ -3,5 +3,4 @@
 
 #include "core/platform.h"
 
-// For template 107.
 INT_PTR CALLBACK AboutDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);

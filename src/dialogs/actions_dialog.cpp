@@ -1,4 +1,3 @@
-// The dialog in which the user binds actions to keys and to mouse combinations on the map.
 #include "dialogs/actions_dialog.h"
 
 #include "actions/hotkeys.h"
@@ -7,27 +6,11 @@
 #include "dialogs/binding_text.h"
 #include "dialogs/controls.h"
 #include "dialogs/registry.h"
+#include "resources/control_ids.h"
 
 #include <algorithm>
 
 namespace {
-
-enum ControlId {
-    ID_SHIFT = 1028,
-    ID_ALT = 1030,
-    ID_CTRL = 1031,
-    ID_RIGHT = 1033,
-    ID_LEFT = 1034,
-    ID_MIDDLE = 1035,
-    ID_WIN = 1036,
-    ID_KEYS = 1038,
-    ID_BINDING_GROUP = 1049,
-    ID_TABS = 1050,
-    ID_LIST = 1051,
-    ID_CLEAR = 1052,
-    ID_APPLY = 1053,
-    ID_WARNING = 1069,
-};
 
 struct FlagControl {
     int id;
@@ -36,60 +19,56 @@ struct FlagControl {
 
 struct TabControl {
     int id;
-    int bKeyboard; // on show on the keyboard tab, else on the mouse tab
+    bool bKeyboard; // visible on the keyboard tab, else on the mouse tab
 };
 
 struct ListColumn {
-    int width; // pixels, on a display that is not scaled
+    int width; // pixels at 96 DPI
     const char* title;
 };
 
 struct NotificationRow {
     UINT code;
-    void (*does)(HWND dialog, NMHDR* notification);
+    void (*handler)(HWND dialog, NMHDR* notification);
 };
 
 } // namespace
 
 static const FlagControl Modifiers[] = {
-    {ID_SHIFT, KEY_SHIFT},
-    {ID_CTRL,  KEY_CTRL },
-    {ID_ALT,   KEY_ALT  },
-    {ID_WIN,   KEY_WIN  },
+    {IDC_ACTIONS_SHIFT, KEY_SHIFT},
+    {IDC_ACTIONS_CTRL, KEY_CTRL},
+    {IDC_ACTIONS_ALT, KEY_ALT},
+    {IDC_ACTIONS_WIN, KEY_WIN},
 };
 
-// Where more than one is checked, as a file edited by hand can have it, the last one counts.
+// If several are checked, which an edited settings file can cause, the last one counts.
 static const FlagControl Buttons[] = {
-    {ID_LEFT,   LBUTTON},
-    {ID_MIDDLE, MBUTTON},
-    {ID_RIGHT,  RBUTTON},
+    {IDC_ACTIONS_LEFT, LBUTTON},
+    {IDC_ACTIONS_MIDDLE, MBUTTON},
+    {IDC_ACTIONS_RIGHT, RBUTTON},
 };
 
 static const TabControl TabControls[] = {
-    {ID_MIDDLE,  0},
-    {ID_LEFT,    0},
-    {ID_RIGHT,   0},
-    {ID_WIN,     1},
-    {ID_KEYS,    1},
-    {ID_WARNING, 1},
+    {IDC_ACTIONS_MIDDLE, false}, {IDC_ACTIONS_LEFT, false}, {IDC_ACTIONS_RIGHT, false},
+    {IDC_ACTIONS_WIN, true},     {IDC_ACTIONS_KEYS, true},  {IDC_ACTIONS_WARNING, true},
 };
 
 static const char* const TabTitles[] = {"Keyboard Actions", "Mouse Actions"};
 
-static const int NOT_SCALED = 96; // pixels an inch
+static const int DEFAULT_DPI = 96;
 
 static const ListColumn Columns[] = {
-    {120, "ActionKeys" },
+    {120, "ActionKeys"},
     {250, "Description"},
 };
 
-// Windows only reads these texts, though its records want to write to them.
+// Windows only reads these texts, though the records are declared writable.
 static LPSTR ReadOnly(const char* text) {
     return const_cast<LPSTR>(text);
 }
 
 static int CurrentTab(HWND dialog) {
-    return static_cast<int>(SendDlgItemMessageA(dialog, ID_TABS, TCM_GETCURSEL, 0, 0));
+    return static_cast<int>(SendDlgItemMessageA(dialog, IDC_ACTIONS_TABS, TCM_GETCURSEL, 0, 0));
 }
 
 static DWORD FlagOfTab(int tab) {
@@ -97,20 +76,20 @@ static DWORD FlagOfTab(int tab) {
 }
 
 static int SelectedItem(HWND dialog) {
-    return static_cast<int>(SendDlgItemMessageA(dialog, ID_LIST, LVM_GETSELECTIONMARK, 0, 0));
+    return static_cast<int>(SendDlgItemMessageA(dialog, IDC_ACTIONS_LIST, LVM_GETSELECTIONMARK, 0, 0));
 }
 
-static void ShowControlsOfTab(HWND dialog, int bKeyboard) {
+static void ShowControlsOfTab(HWND dialog, bool bKeyboard) {
     for (const TabControl& control : TabControls)
         ShowWindow(GetDlgItem(dialog, control.id), control.bKeyboard == bKeyboard ? SW_SHOW : SW_HIDE);
-    SetDlgItemTextA(dialog, ID_BINDING_GROUP, bKeyboard ? "Keyboard" : "Mouse");
+    SetDlgItemTextA(dialog, IDC_ACTIONS_GROUP, bKeyboard ? "Keyboard" : "Mouse");
 }
 
-// The list owns no data: it only counts its items, and asks for their texts when it paints. Some systems look
-// at their number for the scroll bar only when it is told as such.
-static void FillActionList(HWND dialog, int bKeyboard) {
-    ShowControlsOfTab(dialog, bKeyboard != 0);
-    const HWND list = GetDlgItem(dialog, ID_LIST);
+// The list does not store data: it only counts its items and requests their texts when it paints. Some
+// systems update the scroll bar only on LVM_SETITEMCOUNT.
+static void FillActionList(HWND dialog, bool bKeyboard) {
+    ShowControlsOfTab(dialog, bKeyboard);
+    const HWND list = GetDlgItem(dialog, IDC_ACTIONS_LIST);
     const int count = NumListItems(bKeyboard ? ACTION_KEY : ACTION_MOUSE);
     SendMessageA(list, LVM_DELETEALLITEMS, 0, 0);
     LVITEMA item{};
@@ -121,24 +100,23 @@ static void FillActionList(HWND dialog, int bKeyboard) {
     SendMessageA(list, LVM_SETITEMCOUNT, static_cast<WPARAM>(count), 0);
 }
 
-// A beep for each key whose number the list does not give back as it was given.
-static int FillKeyCombo(HWND dialog) {
-    const HWND keys = GetDlgItem(dialog, ID_KEYS);
+// Beeps for each key whose number the list does not store.
+static void FillKeyCombo(HWND dialog) {
+    const HWND keys = GetDlgItem(dialog, IDC_ACTIONS_KEYS);
     SendMessageA(keys, CB_RESETCONTENT, 0, 0);
     for (const KeyName* key = KeyNames; key->vk >= 0; ++key) {
         const LRESULT entry =
             SendMessageA(keys, CB_INSERTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(key->name));
         if (entry < 0) {
             MessageBeep(0);
-            return 0;
+            return;
         }
-        const WPARAM place = static_cast<WPARAM>(entry);
-        if (SendMessageA(keys, CB_SETITEMDATA, place, key->vk) == CB_ERR ||
-            SendMessageA(keys, CB_GETITEMDATA, place, 0) != key->vk)
+        const WPARAM position = static_cast<WPARAM>(entry);
+        if (SendMessageA(keys, CB_SETITEMDATA, position, key->vk) == CB_ERR ||
+            SendMessageA(keys, CB_GETITEMDATA, position, 0) != key->vk)
             MessageBeep(0);
     }
     SendMessageA(keys, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(KeyNames[0].name));
-    return 1;
 }
 
 template <int COUNT>
@@ -150,29 +128,29 @@ static void CheckFlags(HWND dialog, const FlagControl (&controls)[COUNT], int fl
 static void ShowButtons(HWND dialog, int flags) {
     CheckFlags(dialog, Buttons, flags);
     if (flags < 0 || !(flags & (LBUTTON | MBUTTON | RBUTTON)))
-        KeepTabStop(GetDlgItem(dialog, ID_LEFT));
+        KeepTabStop(GetDlgItem(dialog, IDC_ACTIONS_LEFT));
 }
 
-// A key that the list does not offer leaves its choice as it was.
+// If the list does not offer the key, its selection stays.
 static void ShowKey(HWND dialog, int vk) {
     LRESULT entry = -1;
     if (vk > 0) {
-        char text[KEY_TEXT_ROOM];
+        char text[KEY_TEXT_SIZE];
         KeyText(text, vk);
-        entry = SendDlgItemMessageA(dialog, ID_KEYS, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+        entry = SendDlgItemMessageA(dialog, IDC_ACTIONS_KEYS, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                     reinterpret_cast<LPARAM>(text));
         if (entry < 0) {
             MessageBeep(0);
             return;
         }
     }
-    SendDlgItemMessageA(dialog, ID_KEYS, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
+    SendDlgItemMessageA(dialog, IDC_ACTIONS_KEYS, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
 }
 
-static void ShowRowBinding(HWND dialog, int tab, const NMLISTVIEW& change) {
+static void ShowBinding(HWND dialog, int tab, const NMLISTVIEW& change) {
     if (!(change.uNewState & LVIS_SELECTED))
         return;
-    const ActionId row = RowOfListItem(change.iItem, FlagOfTab(tab));
+    const int row = ActionAtItem(change.iItem, FlagOfTab(tab));
     if (row < 0)
         return;
     const ActionRow& action = ActionTable[row];
@@ -191,20 +169,21 @@ static void BindMouse(HWND dialog, ActionRow& action, int mods) {
             action.mouse_btn = button.flag;
 }
 
-// A new hotkey works at once. If the platform refuses it, the row stands unbound: the old one is gone.
-static void BindKey(HWND dialog, ActionId row, int mods) {
-    const LRESULT entry = SendDlgItemMessageA(dialog, ID_KEYS, CB_GETCURSEL, 0, 0);
-    const LRESULT key =
-        entry < 0 ? 0 : SendDlgItemMessageA(dialog, ID_KEYS, CB_GETITEMDATA, static_cast<WPARAM>(entry), 0);
+// Takes effect at once. If Windows refuses the key, the action is unbound: the old one is released.
+static void BindKey(HWND dialog, int row, int mods) {
+    const LRESULT entry = SendDlgItemMessageA(dialog, IDC_ACTIONS_KEYS, CB_GETCURSEL, 0, 0);
+    const LRESULT key = entry < 0 ? 0
+                                  : SendDlgItemMessageA(dialog, IDC_ACTIONS_KEYS, CB_GETITEMDATA,
+                                                        static_cast<WPARAM>(entry), 0);
     if (key == 0) {
         MessageBeep(0);
         return;
     }
-    ClearActionKey(dialog, row, ACTION_KEY);
-    SetActionKey(dialog, row, ACTION_KEY, mods, static_cast<int>(key));
+    ClearActionKey(row, ACTION_KEY);
+    SetActionKey(row, mods, static_cast<int>(key));
 }
 
-static void ApplyToRow(HWND dialog, int tab, ActionId row) {
+static void ApplyBinding(HWND dialog, int tab, int row) {
     int mods = 0;
     for (const FlagControl& modifier : Modifiers)
         if (IsDlgButtonChecked(dialog, modifier.id))
@@ -215,51 +194,51 @@ static void ApplyToRow(HWND dialog, int tab, ActionId row) {
         BindKey(dialog, row, mods);
 }
 
-static void ClearRow(HWND dialog, int tab, ActionId row) {
-    ClearActionKey(dialog, row, FlagOfTab(tab));
+static void ClearBinding(HWND, int tab, int action) {
+    ClearActionKey(action, FlagOfTab(tab));
 }
 
-// Changes the selected row and has its binding read anew. Without one, a beep says that nothing was done.
-static void ChangeSelectedRow(HWND dialog, void (*change)(HWND, int, ActionId)) {
+// Changes the selected action and redraws its item. If none is selected, it beeps.
+static void ChangeSelectedAction(HWND dialog, void (*change)(HWND, int, int)) {
     const int tab = CurrentTab(dialog);
     const int item = SelectedItem(dialog);
-    const ActionId row = RowOfListItem(item, FlagOfTab(tab));
+    const int row = ActionAtItem(item, FlagOfTab(tab));
     if (row < 0) {
         MessageBeep(0);
         return;
     }
     change(dialog, tab, row);
-    SendDlgItemMessageA(dialog, ID_LIST, LVM_REDRAWITEMS, static_cast<WPARAM>(item), item);
+    SendDlgItemMessageA(dialog, IDC_ACTIONS_LIST, LVM_REDRAWITEMS, static_cast<WPARAM>(item), item);
 }
 
 static void OnApply(HWND dialog) {
-    ChangeSelectedRow(dialog, ApplyToRow);
+    ChangeSelectedAction(dialog, ApplyBinding);
 }
 
 static void OnClear(HWND dialog) {
-    ChangeSelectedRow(dialog, ClearRow);
+    ChangeSelectedAction(dialog, ClearBinding);
 }
 
 static void OnClose(HWND dialog) {
-    CloseDialog(dialog, DIALOG_ACTIONS, 0);
+    CloseDialog(dialog);
 }
 
 static const CommandRow Commands[] = {
-    {IDOK,     OnClose},
+    {IDOK, OnClose},
     {IDCANCEL, OnClose},
-    {ID_APPLY, OnApply},
-    {ID_CLEAR, OnClear},
+    {IDC_ACTIONS_APPLY, OnApply},
+    {IDC_ACTIONS_CLEAR, OnClear},
 };
 
-// It comes before the tab changes: of two tabs, the one that is left says which one is entered.
+// Sent before the change, so CurrentTab is the tab being left; with two tabs, that determines the new one.
 static void OnTabChanging(HWND dialog, NMHDR*) {
-    FillActionList(dialog, CurrentTab(dialog));
+    FillActionList(dialog, CurrentTab(dialog) != 0);
 }
 
 static void OnActionListText(HWND dialog, NMHDR* notification) {
     LVITEMA& item = reinterpret_cast<NMLVDISPINFOA*>(notification)->item;
     const int tab = CurrentTab(dialog);
-    const ActionId row = RowOfListItem(item.iItem, FlagOfTab(tab));
+    const int row = ActionAtItem(item.iItem, FlagOfTab(tab));
     if (row < 0 || !(item.mask & LVIF_TEXT))
         return;
     ActionRow& action = ActionTable[row];
@@ -270,62 +249,61 @@ static void OnActionListText(HWND dialog, NMHDR* notification) {
 }
 
 static void OnItemChanged(HWND dialog, NMHDR* notification) {
-    ShowRowBinding(dialog, CurrentTab(dialog), *reinterpret_cast<const NMLISTVIEW*>(notification));
+    ShowBinding(dialog, CurrentTab(dialog), *reinterpret_cast<const NMLISTVIEW*>(notification));
 }
 
 static const NotificationRow Notifications[] = {
     {LVN_GETDISPINFOA, OnActionListText},
-    {LVN_ITEMCHANGED,  OnItemChanged   },
-    {TCN_SELCHANGING,  OnTabChanging   },
+    {LVN_ITEMCHANGED, OnItemChanged},
+    {TCN_SELCHANGING, OnTabChanging},
 };
 
 static void OnNotify(HWND dialog, NMHDR* notification) {
     for (const NotificationRow& row : Notifications)
         if (row.code == notification->code)
-            row.does(dialog, notification);
+            row.handler(dialog, notification);
 }
 
 static void InsertTabs(HWND tabs) {
     SendMessageA(tabs, TCM_DELETEALLITEMS, 0, 0);
-    WPARAM place = 0;
+    WPARAM position = 0;
     for (const char* title : TabTitles) {
         TCITEMA tab{};
         tab.mask = TCIF_TEXT;
         tab.pszText = ReadOnly(title);
-        SendMessageA(tabs, TCM_INSERTITEMA, place++, reinterpret_cast<LPARAM>(&tab));
+        SendMessageA(tabs, TCM_INSERTITEMA, position++, reinterpret_cast<LPARAM>(&tab));
     }
     SendMessageA(tabs, TCM_SETCURSEL, 0, 0);
 }
 
-static int PixelsPerInch(HWND window) {
+static int Dpi(HWND window) {
     const HDC context = GetDC(window);
     const int pixels = GetDeviceCaps(context, LOGPIXELSX);
     ReleaseDC(window, context);
-    return pixels ? pixels : NOT_SCALED;
+    return pixels ? pixels : DEFAULT_DPI;
 }
 
-// On a scaled display the columns grow with the texts, which would be cut off.
+// On a scaled display the columns grow with the texts.
 static void InsertColumns(HWND list) {
-    const int inch = PixelsPerInch(list);
-    WPARAM place = 0;
+    const int dpi = Dpi(list);
+    WPARAM position = 0;
     for (const ListColumn& row : Columns) {
         LVCOLUMNA column{};
         column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT;
         column.fmt = LVCFMT_LEFT;
-        column.cx = Scaled(row.width, inch, NOT_SCALED);
+        column.cx = Scale(row.width, dpi, DEFAULT_DPI);
         column.pszText = ReadOnly(row.title);
-        SendMessageA(list, LVM_INSERTCOLUMNA, place++, reinterpret_cast<LPARAM>(&column));
+        SendMessageA(list, LVM_INSERTCOLUMNA, position++, reinterpret_cast<LPARAM>(&column));
     }
 }
 
 static void OnInit(HWND dialog) {
-    const HWND list = GetDlgItem(dialog, ID_LIST);
-    DialogHandles[KEYS_ACTIONS] = dialog;
+    const HWND list = GetDlgItem(dialog, IDC_ACTIONS_LIST);
     SendMessageA(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
-    InsertTabs(GetDlgItem(dialog, ID_TABS));
+    InsertTabs(GetDlgItem(dialog, IDC_ACTIONS_TABS));
     InsertColumns(list);
     FillKeyCombo(dialog);
-    FillActionList(dialog, 1);
+    FillActionList(dialog, true);
     ShowWindow(dialog, SW_SHOW);
 }
 
@@ -333,7 +311,7 @@ INT_PTR CALLBACK ActionsDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM
     switch (message) {
     case WM_INITDIALOG: OnInit(dialog); return TRUE;
     case WM_COMMAND: return RunCommand(Commands, dialog, wParam);
-    case WM_NOTIFY: // 0 also lets a tab change
+    case WM_NOTIFY: // the result 0 also allows the tab to change
         OnNotify(dialog, reinterpret_cast<NMHDR*>(lParam));
         return 0;
     default: return 0;

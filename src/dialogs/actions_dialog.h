@@ -3,5 +3,5 @@
 
 #include "core/platform.h"
 
-// The procedure of template 113. Apply and Clear change the row that is selected at once; OK only closes.
+// Apply and Clear change the selected action at once; OK only closes the dialog.
 INT_PTR CALLBACK ActionsDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);

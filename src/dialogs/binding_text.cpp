@@ -1,4 +1,3 @@
-// Which rows the lists of the Actions dialog hold, and how their bindings read there.
 #include "dialogs/binding_text.h"
 
 #include <cstdio>
@@ -19,9 +18,9 @@ struct NamedKey {
 
 static const FlagText ModifierTexts[] = {
     {KEY_SHIFT, "S-"},
-    {KEY_CTRL,  "C-"},
-    {KEY_ALT,   "A-"},
-    {KEY_WIN,   "W-"},
+    {KEY_CTRL, "C-"},
+    {KEY_ALT, "A-"},
+    {KEY_WIN, "W-"},
 };
 
 static const FlagText ButtonTexts[] = {
@@ -31,33 +30,29 @@ static const FlagText ButtonTexts[] = {
 };
 
 static const NamedKey NamedKeys[] = {
-    {VK_SPACE, "Space"},
-    {VK_LEFT,  "Left" },
-    {VK_UP,    "Up"   },
-    {VK_RIGHT, "Right"},
-    {VK_DOWN,  "Down" },
+    {VK_SPACE, "Space"}, {VK_LEFT, "Left"}, {VK_UP, "Up"}, {VK_RIGHT, "Right"}, {VK_DOWN, "Down"},
 };
 
-static int IsOffered(ActionId row, DWORD flag) {
+static bool IsOffered(int row, DWORD flag) {
     return ActionTable[row].flags != ACTION_OFF && (ActionTable[row].flags & flag);
 }
 
-ActionId RowOfListItem(int item, DWORD flag) {
+int ActionAtItem(int item, DWORD flag) {
     int count = 0;
-    for (ActionId row = 0; row < NUM_ACTIONS; ++row)
+    for (int row = 0; row < NUM_ACTIONS; ++row)
         if (IsOffered(row, flag) && count++ == item)
             return row;
-    return -1;
+    return NO_ACTION;
 }
 
 int NumListItems(DWORD flag) {
     int count = 0;
-    for (ActionId row = 0; row < NUM_ACTIONS; ++row)
+    for (int row = 0; row < NUM_ACTIONS; ++row)
         count += IsOffered(row, flag);
     return count;
 }
 
-void KeyText(char (&text)[KEY_TEXT_ROOM], int vk) {
+void KeyText(char (&text)[KEY_TEXT_SIZE], int vk) {
     if (vk >= VK_F1 && vk <= VK_F12) {
         std::snprintf(text, sizeof text, "F%d", vk - VK_F1 + 1);
         return;
@@ -71,8 +66,8 @@ void KeyText(char (&text)[KEY_TEXT_ROOM], int vk) {
     std::snprintf(text, sizeof text, "%c", vk);
 }
 
-// Appends to a text of `length` characters; gives its new length. All prefixes and buttons are 14 characters
-// together: there is always room.
+// Appends to a text of `length` characters and returns the new length. All prefixes and buttons together are
+// 14 characters, so they always fit.
 template <int COUNT>
 static int AppendFlags(char (&text)[sizeof ActionRow::text], int length, const FlagText (&rows)[COUNT],
                        int flags) {
@@ -88,7 +83,7 @@ const char* HotkeyText(ActionRow& row) {
         std::snprintf(row.text, sizeof row.text, "<hotkey undefined>");
         return row.text;
     }
-    char key[KEY_TEXT_ROOM] = "";
+    char key[KEY_TEXT_SIZE] = "";
     if (row.vk >= 0)
         KeyText(key, row.vk);
     row.text[0] = 0;

@@ -1,10 +1,9 @@
-// What dialogs share for dealing with their controls.
 #include "dialogs/controls.h"
 
 void AddListRow(HWND listBox, const char* text, LPARAM data) {
-    const LRESULT place = SendMessageA(listBox, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-    if (place >= 0)
-        SendMessageA(listBox, LB_SETITEMDATA, static_cast<WPARAM>(place), data);
+    const LRESULT position = SendMessageA(listBox, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+    if (position >= 0)
+        SendMessageA(listBox, LB_SETITEMDATA, static_cast<WPARAM>(position), data);
 }
 
 LRESULT SelectedData(HWND dialog, int listBox) {

@@ -1,33 +1,33 @@
-// What dialogs share for dealing with their controls.
+// Helpers for the controls of dialogs.
 #pragma once
 
 #include "core/platform.h"
 
 struct CommandRow {
     int id; // of the control
-    void (*does)(HWND dialog);
+    void (*handler)(HWND dialog);
 };
 
-// Runs the row of the control that sent WM_COMMAND, whatever has happened to it. TRUE if it has a row.
+// Runs the handler of the control that sent WM_COMMAND, whatever its notification. TRUE if it has one.
 template <int COUNT>
 INT_PTR RunCommand(const CommandRow (&rows)[COUNT], HWND dialog, WPARAM wParam) {
     for (const CommandRow& row : rows) {
         if (row.id != LOWORD(wParam))
             continue;
-        row.does(dialog);
+        row.handler(dialog);
         return TRUE;
     }
     return FALSE;
 }
 
-// Adds a row to a list box, with a number of the program's as its item data; in its sorted place, if the list
-// sorts. A text that the list box refuses is left out of it.
+// Adds a text with its item data to a list box, sorted if the list box sorts. Nothing happens if the list box
+// refuses it.
 void AddListRow(HWND listBox, const char* text, LPARAM data);
 
-// The item data of the row that is selected in a list box of the dialog; LB_ERR if there is none.
+// The item data of the selected row of a list box; LB_ERR if none is selected.
 LRESULT SelectedData(HWND dialog, int listBox);
 
-// Lets Tab find a radio button of a group in which none is checked: clearing one takes it out of Tab's way.
+// Makes a radio button reachable by Tab. Unchecking removes WS_TABSTOP, so needed if none is checked.
 inline void KeepTabStop(HWND radio) {
     SetWindowLongPtrA(radio, GWL_STYLE, GetWindowLongPtrA(radio, GWL_STYLE) | WS_TABSTOP);
 }

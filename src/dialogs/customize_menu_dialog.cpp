@@ -1,4 +1,3 @@
-// The dialog in which the user composes the popup menu.
 #include "dialogs/customize_menu_dialog.h"
 
 #include "actions/dispatch.h"
@@ -6,39 +5,22 @@
 #include "dialogs/controls.h"
 #include "dialogs/registry.h"
 #include "menus/menu_list.h"
+#include "resources/control_ids.h"
 
 #include <algorithm>
 #include <iterator>
 
-namespace {
+static const int SEPARATOR_DATA =
+    -2; // entry of a separator that this dialog inserts, and item data of every separator
+static const int NO_SELECTION = -1;
 
-enum ControlId {
-    ID_INTO_MENU = 3,
-    ID_OUT_OF_MENU = 4,
-    ID_INSERT_LINE = 5,
-    ID_TEST = 10,
-    ID_MENU_LIST = 1061,
-    ID_ACTION_LIST = 1062,
-    ID_UP = 1065,
-    ID_DOWN = 1066,
-};
-
-} // namespace
-
-static const int ICON_DOWN = 121;
-static const int ICON_UP = 122;
-
-static const int LINE = -2; // entry of a line that this dialog inserts, and number of every line it shows
-static const int NOTHING = -1;
-static const ActionId ROW_OPTIONS = 54; // the way back to this dialog
-
-// The menu as it stood when the dialog opened.
+// The menu when the dialog opened.
 static int MenuBackup[MAX_MENU_ENTRIES];
 static int MenuBackupCount;
 
 static HICON UpIcon, DownIcon; // null while the dialog is closed
 
-static int IsAvailable(ActionId row) {
+static bool IsAvailable(int row) {
     return (ActionTable[row].flags & ACTION_KEY) && FindMenuEntry(row) < 0;
 }
 
@@ -46,64 +28,60 @@ static int Selection(HWND dialog, int list) {
     return static_cast<int>(SendDlgItemMessageA(dialog, list, LB_GETCURSEL, 0, 0));
 }
 
-static void Select(HWND dialog, int list, int place) {
-    SendDlgItemMessageA(dialog, list, LB_SETCURSEL, static_cast<WPARAM>(place), 0);
+static void Select(HWND dialog, int list, int position) {
+    SendDlgItemMessageA(dialog, list, LB_SETCURSEL, static_cast<WPARAM>(position), 0);
 }
 
-// The number that the selected row of the list carries; NOTHING when none is selected.
+// The item data of the selected row; NO_SELECTION if none is selected.
 static int SelectedNumber(HWND dialog, int list) {
     return static_cast<int>(SelectedData(dialog, list));
 }
 
-// The menu's own row is not offered: it would open the menu that it stands in.
+// ACTION_SHOW_MENU is not offered: it would open the menu that contains it.
 static void AddAvailableActions(HWND list) {
-    for (ActionId row = 1; row < NUM_ACTIONS; ++row)
+    for (int row = ACTION_SHOW_MENU + 1; row < NUM_ACTIONS; ++row)
         if (IsAvailable(row))
             AddListRow(list, ActionTable[row].desc, row);
 }
 
-static int NumberOf(int entry) {
-    return entry > 0 ? entry : LINE;
+static int ItemDataOf(int entry) {
+    return entry > 0 ? entry : SEPARATOR_DATA;
 }
 
 static void AddMenuEntries(HWND list) {
-    for (int place = 0; place < quorl_menu_count; ++place) {
-        const int number = NumberOf(MenuList[place]);
-        AddListRow(list, number == LINE ? "<---------------->" : ActionTable[number].desc, number);
+    for (int position = 0; position < quorl_menu_count; ++position) {
+        const int number = ItemDataOf(MenuList[position]);
+        AddListRow(list, number == SEPARATOR_DATA ? "<---------------->" : ActionTable[number].desc, number);
     }
 }
 
-// The list box paints once, not after each of its up to 500 rows, which takes seconds.
-static int FillMenuListBox(HWND dialog, int id) {
+// Paint once: painting after each of up to 500 rows takes seconds.
+static void FillMenuListBox(HWND dialog, int id) {
     const HWND list = GetDlgItem(dialog, id);
-    if (!list)
-        return 0;
     SendMessageA(list, WM_SETREDRAW, FALSE, 0);
     SendMessageA(list, LB_RESETCONTENT, 0, 0);
-    if (id == ID_ACTION_LIST)
+    if (id == IDC_MENU_ACTIONS)
         AddAvailableActions(list);
     else
         AddMenuEntries(list);
     SendMessageA(list, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list, nullptr, TRUE);
-    return 1;
 }
 
 static void FillBoth(HWND dialog) {
-    FillMenuListBox(dialog, ID_ACTION_LIST);
-    FillMenuListBox(dialog, ID_MENU_LIST);
+    FillMenuListBox(dialog, IDC_MENU_ACTIONS);
+    FillMenuListBox(dialog, IDC_MENU_LIST);
 }
 
-// Loading the settings may have put another menu under the open dialog. The user gets to see that one before
-// the selected place in it changes.
-static int ShowsOtherMenu(HWND dialog) {
-    const int place = Selection(dialog, ID_MENU_LIST);
-    const int number = SelectedNumber(dialog, ID_MENU_LIST);
-    if (place < 0 || (place < quorl_menu_count && NumberOf(MenuList[place]) == number))
-        return 0;
+// Loading the settings while the dialog is open can replace the menu. Show the new one before changing it.
+static bool RefreshIfReplaced(HWND dialog) {
+    const int position = Selection(dialog, IDC_MENU_LIST);
+    const int number = SelectedNumber(dialog, IDC_MENU_LIST);
+    if (position < 0 || (position < quorl_menu_count && ItemDataOf(MenuList[position]) == number))
+        return false;
     MessageBeep(0);
     FillBoth(dialog);
-    return 1;
+    return true;
 }
 
 static void BackUpMenu() {
@@ -112,53 +90,53 @@ static void BackUpMenu() {
 }
 
 static void RestoreMenu() {
-    quorl_menu_count = MenuBackupCount;
-    std::copy(std::begin(MenuBackup), std::end(MenuBackup), MenuList);
+    SetMenuEntries(MenuBackup, MAX_MENU_ENTRIES);
+    SetMenuCount(MenuBackupCount);
 }
 
-static void OnIntoMenu(HWND dialog) {
-    const int row = SelectedNumber(dialog, ID_ACTION_LIST);
-    if (row == NOTHING)
+static void OnAdd(HWND dialog) {
+    const int row = SelectedNumber(dialog, IDC_MENU_ACTIONS);
+    if (row == NO_SELECTION)
         return;
     if (FindMenuEntry(row) < 0)
-        AppendMenuEntry(row);
+        InsertMenuEntry(quorl_menu_count, row);
     FillBoth(dialog);
-    Select(dialog, ID_MENU_LIST, quorl_menu_count - 1);
+    Select(dialog, IDC_MENU_LIST, quorl_menu_count - 1);
 }
 
-static void OnOutOfMenu(HWND dialog) {
-    const int entry = SelectedNumber(dialog, ID_MENU_LIST);
-    if (entry == NOTHING || entry == ROW_OPTIONS) {
+static void OnRemove(HWND dialog) {
+    const int entry = SelectedNumber(dialog, IDC_MENU_LIST);
+    if (entry == NO_SELECTION || entry == ACTION_OPTIONS) {
         MessageBeep(0);
         return;
     }
-    if (ShowsOtherMenu(dialog))
+    if (RefreshIfReplaced(dialog))
         return;
-    RemoveMenuEntry(entry, Selection(dialog, ID_MENU_LIST));
+    RemoveMenuEntry(entry, Selection(dialog, IDC_MENU_LIST));
     FillBoth(dialog);
-    Select(dialog, ID_MENU_LIST, FindMenuEntry(entry));
+    Select(dialog, IDC_MENU_LIST, FindMenuEntry(entry));
 }
 
-// The row that was selected stays so: it has moved down, by one, also in a full list that takes no line.
+// The selection moves down by one with its entry, even if the list was full and nothing was inserted.
 static void OnInsertLine(HWND dialog) {
-    const int place = Selection(dialog, ID_MENU_LIST);
-    if (place < 0 || ShowsOtherMenu(dialog))
+    const int position = Selection(dialog, IDC_MENU_LIST);
+    if (position < 0 || RefreshIfReplaced(dialog))
         return;
-    InsertMenuEntry(place, LINE);
-    FillMenuListBox(dialog, ID_MENU_LIST);
-    Select(dialog, ID_MENU_LIST, place + 1);
+    InsertMenuEntry(position, SEPARATOR_DATA);
+    FillMenuListBox(dialog, IDC_MENU_LIST);
+    Select(dialog, IDC_MENU_LIST, position + 1);
 }
 
 static void MoveEntry(HWND dialog, int delta) {
-    const int place = Selection(dialog, ID_MENU_LIST);
-    if (ShowsOtherMenu(dialog))
+    const int position = Selection(dialog, IDC_MENU_LIST);
+    if (RefreshIfReplaced(dialog))
         return;
-    if (!SwapMenuEntries(place, delta)) {
+    if (!SwapMenuEntries(position, delta)) {
         MessageBeep(0);
         return;
     }
-    FillMenuListBox(dialog, ID_MENU_LIST);
-    Select(dialog, ID_MENU_LIST, place + delta);
+    FillMenuListBox(dialog, IDC_MENU_LIST);
+    Select(dialog, IDC_MENU_LIST, position + delta);
 }
 
 static void OnUp(HWND dialog) {
@@ -169,31 +147,29 @@ static void OnDown(HWND dialog) {
     MoveEntry(dialog, 1);
 }
 
-// What the action does may close this dialog, so it comes last.
+// The action may close this dialog, so it comes last.
 static void OnTest(HWND dialog) {
-    int row = SelectedNumber(dialog, ID_ACTION_LIST);
-    if (row == NOTHING)
-        row = SelectedNumber(dialog, ID_MENU_LIST);
-    if (row == NOTHING)
+    int row = SelectedNumber(dialog, IDC_MENU_ACTIONS);
+    if (row == NO_SELECTION)
+        row = SelectedNumber(dialog, IDC_MENU_LIST);
+    if (row == NO_SELECTION)
         MessageBeep(0);
     else
-        DoAction(MainWnd, row, nullptr);
+        DoAction(MainWnd, row);
 }
 
-// Only one of the lists holds a selection.
+// Only one of the two lists has a selection.
 static void OnMenuList(HWND dialog) {
-    Select(dialog, ID_ACTION_LIST, NOTHING);
+    Select(dialog, IDC_MENU_ACTIONS, NO_SELECTION);
 }
 
 static void OnActionList(HWND dialog) {
-    Select(dialog, ID_MENU_LIST, NOTHING);
+    Select(dialog, IDC_MENU_LIST, NO_SELECTION);
 }
 
 static void OnOk(HWND dialog) {
-    DeleteObject(UpIcon);
-    DeleteObject(DownIcon);
     UpIcon = DownIcon = nullptr;
-    CloseDialog(dialog, DIALOG_CUSTOMIZE_MENU, 0);
+    CloseDialog(dialog);
 }
 
 static void OnCancel(HWND dialog) {
@@ -202,33 +178,26 @@ static void OnCancel(HWND dialog) {
 }
 
 static const CommandRow Commands[] = {
-    {ID_INTO_MENU,   OnIntoMenu  },
-    {ID_OUT_OF_MENU, OnOutOfMenu },
-    {ID_INSERT_LINE, OnInsertLine},
-    {ID_UP,          OnUp        },
-    {ID_DOWN,        OnDown      },
-    {ID_TEST,        OnTest      },
-    {ID_MENU_LIST,   OnMenuList  },
-    {ID_ACTION_LIST, OnActionList},
-    {IDOK,           OnOk        },
-    {IDCANCEL,       OnCancel    },
+    {IDC_MENU_ADD, OnAdd},       {IDC_MENU_REMOVE, OnRemove},      {IDC_MENU_INSERT_LINE, OnInsertLine},
+    {IDC_MENU_UP, OnUp},         {IDC_MENU_DOWN, OnDown},          {IDC_MENU_TEST, OnTest},
+    {IDC_MENU_LIST, OnMenuList}, {IDC_MENU_ACTIONS, OnActionList}, {IDOK, OnOk},
+    {IDCANCEL, OnCancel},
 };
 
 static void ShowIcons(HWND dialog) {
     const HINSTANCE instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(dialog, GWLP_HINSTANCE));
-    UpIcon = LoadIconA(instance, MAKEINTRESOURCEA(ICON_UP));
+    UpIcon = LoadIconA(instance, MAKEINTRESOURCEA(IDI_ARROW_UP));
     if (!UpIcon)
         MessageBoxA(nullptr, "FAILED ICONUP", "fuck", MB_OK);
-    DownIcon = LoadIconA(instance, MAKEINTRESOURCEA(ICON_DOWN));
-    SendDlgItemMessageA(dialog, ID_UP, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(UpIcon));
-    SendDlgItemMessageA(dialog, ID_DOWN, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(DownIcon));
+    DownIcon = LoadIconA(instance, MAKEINTRESOURCEA(IDI_ARROW_DOWN));
+    SendDlgItemMessageA(dialog, IDC_MENU_UP, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(UpIcon));
+    SendDlgItemMessageA(dialog, IDC_MENU_DOWN, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(DownIcon));
 }
 
 static void OnInit(HWND dialog) {
     BackUpMenu();
     FillBoth(dialog);
     ShowWindow(dialog, SW_SHOW);
-    DialogHandles[KEYS_CUSTOMIZE_MENU] = dialog;
     ShowIcons(dialog);
 }
 

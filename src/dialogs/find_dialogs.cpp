@@ -1,16 +1,16 @@
-// The dialogs that find a window or a region by its name; choosing a row of the list acts at once.
+// The dialogs that find a window or a region by its name.
 #include "dialogs/find_dialogs.h"
 
-#include "core/foreground.h"
 #include "dialogs/controls.h"
 #include "dialogs/registry.h"
 #include "regions/region_table.h"
+#include "resources/control_ids.h"
 #include "scroll/follow.h"
 #include "scroll/scroll_view.h"
-#include "scroll/window_table.h"
+#include "windows/other_window.h"
+#include "windows/window_table.h"
 
-static const int ID_LIST = 1041;
-static const int FROM_DIALOG = 0; // to ScrollView: no row of the action table asked
+static const int NO_CALLER = 0; // to ScrollView: no action
 
 BOOL CALLBACK AddWindowToList(HWND window, LPARAM listBox) {
     if (!IsManagedWindow(window))
@@ -22,22 +22,21 @@ BOOL CALLBACK AddWindowToList(HWND window, LPARAM listBox) {
 }
 
 static void OnInitWindows(HWND dialog) {
-    EnumWindows(AddWindowToList, reinterpret_cast<LPARAM>(GetDlgItem(dialog, ID_LIST)));
+    EnumWindows(AddWindowToList, reinterpret_cast<LPARAM>(GetDlgItem(dialog, IDC_FIND_LIST)));
     ShowWindow(dialog, SW_SHOW);
-    DialogHandles[KEYS_FIND_WINDOW] = dialog;
 }
 
-// A window of another program has the foreground only once its thread has taken it, which may be later than
-// this: the view goes to the window itself. One that hangs or is gone is not gone to.
+// GetForegroundWindow can return the new window only once its thread has processed the change, so scroll to
+// the window itself. A window that is hung or gone is ignored.
 static void GoToWindow(HWND window) {
     if (!IsAlive(window))
         return;
-    GiveForeground(window);
+    ActivateWindow(window);
     CenterOnWindow(window, window);
 }
 
 static void OnSelectWindow(HWND dialog) {
-    const LRESULT data = SelectedData(dialog, ID_LIST);
+    const LRESULT data = SelectedData(dialog, IDC_FIND_LIST);
     if (data && data != LB_ERR)
         GoToWindow(reinterpret_cast<HWND>(data));
 }
@@ -45,23 +44,22 @@ static void OnSelectWindow(HWND dialog) {
 static void OnInitRegions(HWND dialog) {
     ShowWindow(dialog, SW_SHOW);
     SetWindowTextA(dialog, "Find Region...");
-    DialogHandles[KEYS_FIND_REGION] = dialog;
     for (int row = 0; row < num_regions; ++row)
-        AddListRow(GetDlgItem(dialog, ID_LIST), RegionTable[row].name, row);
+        AddListRow(GetDlgItem(dialog, IDC_FIND_LIST), RegionTable[row].name, row);
 }
 
-// A region that has been unmarked meanwhile leads to what its row holds now, as its hotkey does.
+// If the region was unmarked meanwhile, go to what its index holds now, as its hotkey does.
 static void OnSelectRegion(HWND dialog) {
-    const LRESULT row = SelectedData(dialog, ID_LIST);
+    const LRESULT row = SelectedData(dialog, IDC_FIND_LIST);
     if (row != LB_ERR)
-        ScrollView(dialog, RegionTable[row].left, RegionTable[row].top, SV_ABSOLUTE, FROM_DIALOG);
+        ScrollView(dialog, RegionTable[row].left, RegionTable[row].top, SV_ABSOLUTE, NO_CALLER);
 }
 
-// What the two have in common, but for what choosing a row does.
+// Common to both dialogs, except for what a selection does.
 static void OnCommand(HWND dialog, WPARAM command, void (*OnSelect)(HWND)) {
     if (LOWORD(command) == IDOK)
-        CloseDialog(dialog, DIALOG_FIND, 0);
-    else if (LOWORD(command) == ID_LIST && HIWORD(command) == LBN_SELCHANGE)
+        CloseDialog(dialog);
+    else if (LOWORD(command) == IDC_FIND_LIST && HIWORD(command) == LBN_SELCHANGE)
         OnSelect(dialog);
 }
 

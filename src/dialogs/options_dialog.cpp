@@ -1,14 +1,14 @@
-// The Options dialog: controls to settings and back.
+// The Options dialog.
 #include "dialogs/options_dialog.h"
 
-#include "core/arithmetic.h"
+#include "core/rect.h"
 #include "core/state.h"
-#include "dialogs/actions_dialog.h"
 #include "dialogs/controls.h"
-#include "dialogs/customize_menu_dialog.h"
 #include "dialogs/options_rules.h"
 #include "dialogs/registry.h"
 #include "dialogs/spinner.h"
+#include "resources/control_ids.h"
+#include "scroll/desktop_size.h"
 #include "scroll/gather.h"
 #include "scroll/shift.h"
 
@@ -16,35 +16,7 @@
 
 namespace {
 
-// The controls, by their number in the template; the spinners are made at run time.
-enum OptionsControl {
-    ACTIONS_BUTTON = 3,
-    HEIGHT_EDIT = 1000,
-    WIDTH_EDIT,
-    BORDER_EDIT,
-    DELAY_TIME_EDIT,
-    MAXSCROLL_EDIT = 1007,
-    MINSCROLL_EDIT,
-    MOUSESCROLL_EDIT,
-    HEIGHT_MORE = 1022,
-    HEIGHT_LESS,
-    WIDTH_MORE,
-    WIDTH_LESS,
-    MENUS_BUTTON = 1064,
-    BY_MAXSCROLL = 1073,
-    BY_MINSCROLL,
-    BY_MOUSESCROLL,
-    BY_SCREEN,
-    MOUSE_NOTE,
-    AFTER_TIME,
-    AT_ONCE,
-    AFTER_LEFT_CLICK,
-    AFTER_RIGHT_CLICK = 1082,
-    HEIGHT_SPINNER = 54321,
-    WIDTH_SPINNER,
-};
-
-// An edit box for a length of the desktop, with what counts it in whole screens.
+// An edit box for the width or height of the desktop, and the spinner that counts it in screens.
 struct SizeControls {
     int edit, spinner;
     int (*screen)();
@@ -57,34 +29,36 @@ struct NumberControl {
 
 } // namespace
 
-static const SizeControls Height = {HEIGHT_EDIT, HEIGHT_SPINNER, ScreenH};
-static const SizeControls Width = {WIDTH_EDIT, WIDTH_SPINNER, ScreenW};
+static const SizeControls HeightControls = {IDC_OPTIONS_HEIGHT, IDC_OPTIONS_HEIGHT_SPINNER, ScreenH};
+static const SizeControls WidthControls = {IDC_OPTIONS_WIDTH, IDC_OPTIONS_WIDTH_SPINNER, ScreenW};
 
 static const NumberControl NumberControls[] = {
-    {HEIGHT_EDIT,      &OptionNumbers::height     },
-    {WIDTH_EDIT,       &OptionNumbers::width      },
-    {BORDER_EDIT,      &OptionNumbers::border     },
-    {MAXSCROLL_EDIT,   &OptionNumbers::maxscroll  },
-    {MINSCROLL_EDIT,   &OptionNumbers::minscroll  },
-    {MOUSESCROLL_EDIT, &OptionNumbers::mousescroll},
+    {IDC_OPTIONS_HEIGHT, &OptionNumbers::height},
+    {IDC_OPTIONS_WIDTH, &OptionNumbers::width},
+    {IDC_OPTIONS_BORDER, &OptionNumbers::border},
+    {IDC_OPTIONS_MAXSCROLL, &OptionNumbers::maxscroll},
+    {IDC_OPTIONS_MINSCROLL, &OptionNumbers::minscroll},
+    {IDC_OPTIONS_MOUSESCROLL, &OptionNumbers::mousescroll},
 };
 
-// In the order of the values that they stand for, from 0.
-static const int TypeRadios[] = {BY_MINSCROLL, BY_MAXSCROLL, BY_MOUSESCROLL, BY_SCREEN};
-static const int DelayRadios[] = {AT_ONCE, AFTER_LEFT_CLICK, AFTER_RIGHT_CLICK, AFTER_TIME};
-static const int DELAY_OF_A_TIME = 3;
+// In the order of EdgeDistance and EdgeDelay.
+static const int TypeRadios[] = {IDC_OPTIONS_BY_MIN, IDC_OPTIONS_BY_MAX, IDC_OPTIONS_BY_MOUSE,
+                                 IDC_OPTIONS_BY_SCREEN};
+static const int DelayRadios[] = {IDC_OPTIONS_AT_ONCE, IDC_OPTIONS_LEFT_CLICK, IDC_OPTIONS_RIGHT_CLICK,
+                                  IDC_OPTIONS_AFTER_TIME};
 
-// Of no use without the hook library.
+// Disabled without the hook library.
 static const int MouseControls[] = {
-    MOUSESCROLL_EDIT, BY_MAXSCROLL,     BY_MINSCROLL,      BY_MOUSESCROLL, BY_SCREEN,
-    AT_ONCE,          AFTER_LEFT_CLICK, AFTER_RIGHT_CLICK, AFTER_TIME,     DELAY_TIME_EDIT,
+    IDC_OPTIONS_MOUSESCROLL, IDC_OPTIONS_BY_MAX,     IDC_OPTIONS_BY_MIN,     IDC_OPTIONS_BY_MOUSE,
+    IDC_OPTIONS_BY_SCREEN,   IDC_OPTIONS_AT_ONCE,    IDC_OPTIONS_LEFT_CLICK, IDC_OPTIONS_RIGHT_CLICK,
+    IDC_OPTIONS_AFTER_TIME,  IDC_OPTIONS_DELAY_TIME,
 };
 
 static const SIZE SPINNER_SIZE = {15, 21}; // pixels
 static const UINT SPINNER_INTERVAL = 250;  // milliseconds
 
-// 2147483648 and more come out negative; an empty box gives 0.
-static int NumberIn(HWND dialog, int edit) {
+// 2147483648 and more become negative; an empty box is 0.
+static int ReadNumber(HWND dialog, int edit) {
     return static_cast<int>(GetDlgItemInt(dialog, edit, nullptr, FALSE));
 }
 
@@ -97,7 +71,7 @@ static void Enable(HWND dialog, int control, int bEnabled) {
 }
 
 static void ShowNumbers(HWND dialog) {
-    const OptionNumbers now = {Quorl.bottom,      Quorl.right,       Options.border - 1,
+    const OptionNumbers now = {Quorl.bottom,      Quorl.right,       ShownBorder(Options.border),
                                Options.maxscroll, Options.minscroll, Options.mousescroll};
     for (const NumberControl& control : NumberControls)
         ShowNumber(dialog, control.edit, now.*control.number);
@@ -106,22 +80,22 @@ static void ShowNumbers(HWND dialog) {
 static OptionNumbers NumbersShown(HWND dialog) {
     OptionNumbers shown{};
     for (const NumberControl& control : NumberControls)
-        shown.*control.number = NumberIn(dialog, control.edit);
+        shown.*control.number = ReadNumber(dialog, control.edit);
     return shown;
 }
 
-// A value that no radio stands for checks none. Then, and when a hidden one is checked, Tab finds `first`,
-// the topmost.
+// A value without a button checks none. If none is visibly checked, makes `first`, the topmost button,
+// reachable by Tab.
 template <std::size_t count>
 static void CheckRadio(HWND dialog, const int (&radios)[count], int value, int first) {
     const int radio = value >= 0 && value < static_cast<int>(count) ? radios[value] : 0;
     if (radio)
         CheckDlgButton(dialog, radio, BST_CHECKED);
-    if (!radio || radio == AFTER_RIGHT_CLICK)
+    if (!radio || radio == IDC_OPTIONS_RIGHT_CLICK)
         KeepTabStop(GetDlgItem(dialog, first));
 }
 
-// With none checked the value stays.
+// If none is checked, the value stays.
 template <std::size_t count>
 static void ReadRadios(HWND dialog, const int (&radios)[count], int* value) {
     for (int radio = 0; radio < static_cast<int>(count); ++radio)
@@ -139,133 +113,134 @@ static void ClearRadios(HWND dialog) {
 static void ShowNoMouseOptions(HWND dialog) {
     for (const int control : MouseControls)
         Enable(dialog, control, 0);
-    SetDlgItemTextA(dialog, MOUSE_NOTE,
+    SetDlgItemTextA(dialog, IDC_OPTIONS_MOUSE_NOTE,
                     "Mouse scroll options are disabled because quorl.dll is not present or failed to load.");
 }
 
 static void ShowMouseOptions(HWND dialog) {
-    SetDlgItemTextA(dialog, MOUSE_NOTE,
+    SetDlgItemTextA(dialog, IDC_OPTIONS_MOUSE_NOTE,
                     "When mouse scroll actions are used, these items determine how to scroll.");
-    ShowNumber(dialog, DELAY_TIME_EDIT, Options.mousescroll_delay_time);
-    CheckRadio(dialog, DelayRadios, Options.mousescroll_delay, AT_ONCE);
-    Enable(dialog, DELAY_TIME_EDIT, Options.mousescroll_delay == DELAY_OF_A_TIME);
-    CheckRadio(dialog, TypeRadios, Options.mousescroll_type, BY_MAXSCROLL);
+    ShowNumber(dialog, IDC_OPTIONS_DELAY_TIME, Options.mousescroll_delay_time);
+    CheckRadio(dialog, DelayRadios, Options.mousescroll_delay, IDC_OPTIONS_AT_ONCE);
+    Enable(dialog, IDC_OPTIONS_DELAY_TIME, Options.mousescroll_delay == EDGE_AFTER_DELAY);
+    CheckRadio(dialog, TypeRadios, Options.mousescroll_type, IDC_OPTIONS_BY_MAX);
 }
 
 static void ReadMouseOptions(HWND dialog) {
     ReadRadios(dialog, TypeRadios, &Options.mousescroll_type);
     ReadRadios(dialog, DelayRadios, &Options.mousescroll_delay);
-    Options.mousescroll_delay_time = NumberIn(dialog, DELAY_TIME_EDIT);
+    Options.mousescroll_delay_time = ReadNumber(dialog, IDC_OPTIONS_DELAY_TIME);
 }
 
-// Against the right side of the edit box, wherever fonts and DPI have put that.
+// At the right side of the edit box, whose position depends on fonts and DPI.
 static void AddSpinner(HWND dialog, const SizeControls& size, int pixels) {
     RECT edit{};
     GetWindowRect(GetDlgItem(dialog, size.edit), &edit);
     POINT corner = {edit.left, edit.top};
     ScreenToClient(dialog, &corner);
-    const HWND spinner = CreateSpinner(dialog, corner.x + edit.right - edit.left, corner.y, SPINNER_SIZE.cx,
-                                       SPINNER_SIZE.cy, size.spinner, 0);
-    SetSpinnerValue(spinner, Quotient(pixels, size.screen()));
-    SetSpinnerInterval(spinner, SPINNER_INTERVAL);
+    const LONG left = corner.x + Width(edit);
+    const HWND spinner = CreateSpinner(
+        dialog, {left, corner.y, left + SPINNER_SIZE.cx, corner.y + SPINNER_SIZE.cy}, size.spinner);
+    if (SpinnerState* const state = StateOfSpinner(spinner)) {
+        state->value = Quotient(pixels, size.screen());
+        state->interval = SPINNER_INTERVAL;
+    }
 }
 
 static void OnOptionsInit(HWND dialog) {
-    DialogHandles[KEYS_OPTIONS] = dialog;
     ClearRadios(dialog);
     if (Options.hook_present)
         ShowMouseOptions(dialog);
     else
         ShowNoMouseOptions(dialog);
     ShowNumbers(dialog);
-    AddSpinner(dialog, Height, Quorl.bottom);
-    AddSpinner(dialog, Width, Quorl.right);
+    AddSpinner(dialog, HeightControls, Quorl.bottom);
+    AddSpinner(dialog, WidthControls, Quorl.right);
     ShowWindow(dialog, SW_SHOW);
 }
 
-// Holds the edit box within the limits and has the spinner count what stands there.
+// Clamps the number in the edit box and sets the spinner to it.
 static void LimitSize(HWND dialog, const SizeControls& size) {
     SpinnerState* const state = StateOfSpinner(GetDlgItem(dialog, size.spinner));
     if (!state)
         return;
-    const int shown = NumberIn(dialog, size.edit);
-    const int limited = LimitedSize(shown);
+    const int shown = ReadNumber(dialog, size.edit);
+    const int limited = ClampSize(shown);
     if (limited != shown)
         ShowNumber(dialog, size.edit, limited);
     state->value = Quotient(limited, size.screen());
 }
 
 static void OnSpinnerStep(HWND dialog, WPARAM id, const SpinnerState* state) {
-    for (const SizeControls& size : {Height, Width}) {
+    for (const SizeControls& size : {HeightControls, WidthControls}) {
         if (id != static_cast<WPARAM>(size.spinner))
             continue;
-        ShowNumber(dialog, size.edit, state->value * size.screen());
+        ShowNumber(dialog, size.edit, Wrap(1LL * state->value * size.screen()));
         LimitSize(dialog, size);
     }
 }
 
-static void StepSize(HWND dialog, const SizeControls& size, int step) {
-    ShowNumber(dialog, size.edit, SizeByScreens(NumberIn(dialog, size.edit), size.screen(), step));
+static void ShowSteppedSize(HWND dialog, const SizeControls& size, int step) {
+    ShowNumber(dialog, size.edit, StepSize(ReadNumber(dialog, size.edit), size.screen(), step));
 }
 
-static void TakeNumbers(const OptionNumbers& taken) {
-    Quorl.bottom = taken.height;
-    Quorl.right = taken.width;
-    Options.border = taken.border;
-    Options.maxscroll = taken.maxscroll;
-    Options.minscroll = taken.minscroll;
-    Options.mousescroll = taken.mousescroll;
+static void StoreNumbers(const OptionNumbers& accepted) {
+    SetDesktopSize(accepted.width, accepted.height);
+    Options.border = accepted.border;
+    Options.maxscroll = accepted.maxscroll;
+    Options.minscroll = accepted.minscroll;
+    Options.mousescroll = accepted.mousescroll;
 }
 
-// What stood on a part of the desktop that is gone is folded back; every window is then held inside. The view
-// stays: the next scroll brings it back.
+// If the desktop shrinks, windows fold back onto the screen, and all are clamped to the desktop. The view
+// stays: the next scroll clamps it.
 static void OnAccept(HWND dialog, int) {
     const RECT before = Quorl;
-    TakeNumbers(AcceptedNumbers(NumbersShown(dialog), ScreenW(), ScreenH(), Options.minscroll));
+    StoreNumbers(AcceptNumbers(NumbersShown(dialog), ScreenW(), ScreenH(), Options.minscroll));
     if (Options.hook_present)
-        ReadMouseOptions(dialog); // a box of the folding leaves the user free to close this dialog
+        ReadMouseOptions(dialog); // first: a box during the folding lets the user close this dialog
     if (Quorl.right < before.right || Quorl.bottom < before.bottom)
         GatherWindows();
     Repaint(MainWnd);
     ShiftWindows(0, 0);
-    CloseDialog(dialog, DIALOG_OPTIONS, IDOK);
+    CloseDialog(dialog);
 }
 
 static void OnCancel(HWND dialog, int) {
-    CloseDialog(dialog, DIALOG_OPTIONS, IDCANCEL);
+    CloseDialog(dialog);
 }
 
 static void OnOpenActions(HWND dialog, int) {
-    OpenDialog(dialog, DIALOG_ACTIONS, ActionsDlgProc);
+    OpenDialog(dialog, DIALOG_ACTIONS);
 }
 
 static void OnOpenMenus(HWND dialog, int) {
-    OpenDialog(dialog, DIALOG_CUSTOMIZE_MENU, CustomizeMenuDlgProc);
+    OpenDialog(dialog, DIALOG_CUSTOMIZE_MENU);
 }
 
 static void OnLimitHeight(HWND dialog, int) {
-    LimitSize(dialog, Height);
+    LimitSize(dialog, HeightControls);
 }
 
 static void OnLimitWidth(HWND dialog, int) {
-    LimitSize(dialog, Width);
+    LimitSize(dialog, WidthControls);
 }
 
 static void OnStepHeight(HWND dialog, int step) {
-    StepSize(dialog, Height, step);
+    ShowSteppedSize(dialog, HeightControls, step);
 }
 
 static void OnStepWidth(HWND dialog, int step) {
-    StepSize(dialog, Width, step);
+    ShowSteppedSize(dialog, WidthControls, step);
 }
 
 static void OnEnableDelayTime(HWND dialog, int bEnabled) {
-    Enable(dialog, DELAY_TIME_EDIT, bEnabled);
+    Enable(dialog, IDC_OPTIONS_DELAY_TIME, bEnabled);
 }
 
-// A click leaves the check of a hidden radio alone, and that would win over the user's choice.
+// A click does not clear the hidden radio button, which would override the user's choice.
 static void OnChooseDelay(HWND dialog, int bTime) {
-    CheckDlgButton(dialog, AFTER_RIGHT_CLICK, BST_UNCHECKED);
+    CheckDlgButton(dialog, IDC_OPTIONS_RIGHT_CLICK, BST_UNCHECKED);
     OnEnableDelayTime(dialog, bTime);
 }
 
@@ -273,8 +248,8 @@ namespace {
 
 struct OptionsCommand {
     int id, code;
-    void (*does)(HWND dialog, int with);
-    int with;
+    void (*handler)(HWND dialog, int argument);
+    int argument;
 };
 
 } // namespace
@@ -282,26 +257,26 @@ struct OptionsCommand {
 static const int ANY_CODE = -1;
 
 static const OptionsCommand Commands[] = {
-    {IDOK,              ANY_CODE,     OnAccept,          0 },
-    {IDCANCEL,          ANY_CODE,     OnCancel,          0 },
-    {ACTIONS_BUTTON,    ANY_CODE,     OnOpenActions,     0 },
-    {MENUS_BUTTON,      ANY_CODE,     OnOpenMenus,       0 },
-    {HEIGHT_EDIT,       EN_KILLFOCUS, OnLimitHeight,     0 },
-    {WIDTH_EDIT,        EN_KILLFOCUS, OnLimitWidth,      0 },
-    {HEIGHT_MORE,       ANY_CODE,     OnStepHeight,      1 },
-    {HEIGHT_LESS,       ANY_CODE,     OnStepHeight,      -1},
-    {WIDTH_MORE,        ANY_CODE,     OnStepWidth,       1 },
-    {WIDTH_LESS,        ANY_CODE,     OnStepWidth,       -1},
-    {AFTER_TIME,        ANY_CODE,     OnChooseDelay,     1 },
-    {AT_ONCE,           ANY_CODE,     OnChooseDelay,     0 },
-    {AFTER_LEFT_CLICK,  ANY_CODE,     OnChooseDelay,     0 },
-    {AFTER_RIGHT_CLICK, ANY_CODE,     OnEnableDelayTime, 0 },
+    {IDOK, ANY_CODE, OnAccept, 0},
+    {IDCANCEL, ANY_CODE, OnCancel, 0},
+    {IDC_OPTIONS_ACTIONS, ANY_CODE, OnOpenActions, 0},
+    {IDC_OPTIONS_MENUS, ANY_CODE, OnOpenMenus, 0},
+    {IDC_OPTIONS_HEIGHT, EN_KILLFOCUS, OnLimitHeight, 0},
+    {IDC_OPTIONS_WIDTH, EN_KILLFOCUS, OnLimitWidth, 0},
+    {IDC_OPTIONS_HEIGHT_MORE, ANY_CODE, OnStepHeight, 1},
+    {IDC_OPTIONS_HEIGHT_LESS, ANY_CODE, OnStepHeight, -1},
+    {IDC_OPTIONS_WIDTH_MORE, ANY_CODE, OnStepWidth, 1},
+    {IDC_OPTIONS_WIDTH_LESS, ANY_CODE, OnStepWidth, -1},
+    {IDC_OPTIONS_AFTER_TIME, ANY_CODE, OnChooseDelay, 1},
+    {IDC_OPTIONS_AT_ONCE, ANY_CODE, OnChooseDelay, 0},
+    {IDC_OPTIONS_LEFT_CLICK, ANY_CODE, OnChooseDelay, 0},
+    {IDC_OPTIONS_RIGHT_CLICK, ANY_CODE, OnEnableDelayTime, 0},
 };
 
 static void OnOptionsCommand(HWND dialog, int id, int code) {
     for (const OptionsCommand& row : Commands)
         if (row.id == id && (row.code == ANY_CODE || row.code == code)) {
-            row.does(dialog, row.with);
+            row.handler(dialog, row.argument);
             return;
         }
 }
@@ -314,9 +289,4 @@ INT_PTR CALLBACK OptionsDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM
     default: break;
     }
     return 0;
-}
-
-int OpenOptionsDialog(HWND window) {
-    OpenDialog(window, DIALOG_OPTIONS, OptionsDlgProc);
-    return 1;
 }

@@ -1,4 +1,4 @@
-// The rules of the Options dialog.
+// What the Options dialog makes of the numbers typed into it.
 #include "dialogs/options_rules.h"
 
 #include "core/arithmetic.h"
@@ -6,28 +6,28 @@
 
 #include <algorithm>
 
-static const int MOST_SHOWN_BORDER = 10;
-
-int LimitedSize(int shown) {
+int ClampSize(int shown) {
     return std::clamp(shown, 0, LARGEST_DESKTOP);
 }
 
-int SizeByScreens(int shown, int screen, int step) {
+int StepSize(int shown, int screen, int step) {
     const int screens = std::max(1, Quotient(shown, screen) + step);
-    return std::min(screens * screen, LARGEST_DESKTOP);
+    return static_cast<int>(std::min(1LL * screens * screen, 0LL + LARGEST_DESKTOP));
 }
 
-static int LimitedStep(int shown) {
-    return std::clamp(shown, 1, LARGEST_DESKTOP);
+static const int BORDER_OFFSET = 1; // the border is this much more than the dialog shows
+
+int ShownBorder(int border) {
+    return border - BORDER_OFFSET;
 }
 
-OptionNumbers AcceptedNumbers(const OptionNumbers& shown, int screen_w, int screen_h, int minscroll) {
-    OptionNumbers taken{};
-    taken.height = std::max(shown.height, screen_h);
-    taken.width = std::max(shown.width, screen_w);
-    taken.border = std::clamp(shown.border, 1, MOST_SHOWN_BORDER) + 1;
-    taken.maxscroll = std::max(LimitedStep(shown.maxscroll), minscroll);
-    taken.minscroll = std::min(LimitedStep(shown.minscroll), taken.maxscroll);
-    taken.mousescroll = LimitedStep(shown.mousescroll);
-    return taken;
+OptionNumbers AcceptNumbers(const OptionNumbers& shown, int screenW, int screenH, int minscroll) {
+    OptionNumbers accepted{};
+    accepted.height = std::max(shown.height, screenH);
+    accepted.width = std::max(shown.width, screenW);
+    accepted.border = ClampOption(OPTION_BORDER, shown.border) + BORDER_OFFSET;
+    accepted.maxscroll = std::max(ClampOption(OPTION_MAXSCROLL, shown.maxscroll), minscroll);
+    accepted.minscroll = std::min(ClampOption(OPTION_MINSCROLL, shown.minscroll), accepted.maxscroll);
+    accepted.mousescroll = ClampOption(OPTION_MOUSESCROLL, shown.mousescroll);
+    return accepted;
 }

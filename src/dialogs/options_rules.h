@@ -1,13 +1,12 @@
-// What the Options dialog makes of the numbers that are typed into it. All of it is pure, in int32, and
-// defined for every input; the numbers are pixels.
+// What the Options dialog makes of the numbers typed into it. All of it is pure; the numbers are pixels.
 #pragma once
 
-// Of a desktop's width or height as typed: 0 to LARGEST_DESKTOP.
-int LimitedSize(int shown);
+// A desktop's width or height as typed, clamped to 0 to LARGEST_DESKTOP.
+int ClampSize(int shown);
 
-// One screen more (`step` 1) or less (-1), whole screens of `screen` each: at least one, at most
-// LARGEST_DESKTOP, which need not be a multiple. What stands over a whole screen goes first.
-int SizeByScreens(int shown, int screen, int step);
+// The size after adding (`step` 1) or removing (-1) one screen: a multiple of the screen, at least one, but
+// at most LARGEST_DESKTOP. Rounds down first.
+int StepSize(int shown, int screen, int step);
 
 // What the edit boxes show. The border is shown as one less than it is.
 struct OptionNumbers {
@@ -15,7 +14,9 @@ struct OptionNumbers {
     int border, maxscroll, minscroll, mousescroll;
 };
 
-// What OK takes over for what is shown: at least one screen each way, steps from 1 to LARGEST_DESKTOP.
-// `minscroll` is the one in force, which the new `maxscroll` must not fall below; the new `minscroll` then
-// gives way to that. The border is the real one here.
-OptionNumbers AcceptedNumbers(const OptionNumbers& shown, int screen_w, int screen_h, int minscroll);
+// The border as the dialog shows it.
+int ShownBorder(int border);
+
+// What OK stores, border included. The desktop is at least one screen; maxscroll is at least the old
+// `minscroll`, and the new minscroll is at most maxscroll.
+OptionNumbers AcceptNumbers(const OptionNumbers& shown, int screenW, int screenH, int minscroll);

@@ -1,54 +1,44 @@
-// The dialogs that are open: each template once, all of them modeless.
+// The open dialogs: each template at most once, all of them modeless.
 #pragma once
 
-#include "core/platform.h"
+#include "actions/action_table.h"
 
-// Templates, by their number in the program's resources.
-enum DialogId {
-    DIALOG_OPTIONS = 101,
-    DIALOG_HELP = 106,
-    DIALOG_ABOUT = 107,
-    DIALOG_NAME_REGION = 108,
-    DIALOG_RESIZE_WINDOWS = 111,
-    DIALOG_ACTIONS = 113,
-    DIALOG_CUSTOMIZE_MENU = 116,
-    DIALOG_FIND = 117, // of windows or of regions: only one of the two is open at a time
-    DIALOG_TRANSPARENCY = 120,
+enum DialogId : int {
+    DIALOG_ABOUT,
+    DIALOG_HELP,
+    DIALOG_OPTIONS,
+    DIALOG_ACTIONS,
+    DIALOG_RESIZE_WINDOWS,
+    DIALOG_NAME_REGION,
+    DIALOG_CUSTOMIZE_MENU,
+    DIALOG_FIND_WINDOW,
+    DIALOG_FIND_REGION,
+    DIALOG_TRANSPARENCY,
+    NUM_DIALOGS
 };
 
-struct DialogSlot {
-    HWND handle; // null: closed
-    int resource_id;
+// Everything constant about a dialog.
+struct DialogDef {
+    DialogId id;
+    int resource_id; // of its template
+    bool bKeyboard;  // whether Tab, Enter and Escape work in it
+    DLGPROC procedure;
 };
 
-constexpr int NUM_DIALOGS = 10;
+extern const DialogDef DialogDefs[NUM_DIALOGS];
 
-// Closed by a row with number -1 that no search reaches.
-extern DialogSlot DialogSlots[NUM_DIALOGS + 1];
+extern HWND DialogHandles[NUM_DIALOGS]; // null: closed
 
-// Who is offered the keys that move and press inside a dialog. A dialog that takes them writes its own entry
-// when it opens; CloseDialog clears it.
-enum KeyboardEntry {
-    KEYS_ABOUT,
-    KEYS_HELP,
-    KEYS_OPTIONS,
-    KEYS_ACTIONS,
-    KEYS_NAME_REGION = 5,
-    KEYS_CUSTOMIZE_MENU,
-    KEYS_FIND_WINDOW,
-    KEYS_FIND_REGION,
-};
+// Opens the dialog, owned by `parent`. If one with the same template is open, moves it near the middle of the
+// screen and raises it instead, unchanged. False if it cannot be created.
+bool OpenDialog(HWND parent, DialogId id);
 
-extern HWND DialogHandles[NUM_DIALOGS];
+// Handler: opens the dialog whose DialogId is the argument. 1 if it is open.
+int OpenDialogAction(const ActionCall& call);
 
-// Opens the dialog, or raises it near the middle of the screen as it stands, with what was typed. `parent`
-// owns it. 1 if it is open then; 0 for a number without a slot or a template that cannot be created.
-int OpenDialog(HWND parent, int resource_id, DLGPROC procedure);
+// Closes a dialog and destroys its window; dialogs that it owns stay open. Call it last in a handler. Does
+// nothing if the window is not an open dialog.
+void CloseDialog(HWND dialog);
 
-// Ends the dialog and destroys its window; dialogs that it owns stay open. To be called by the dialog itself,
-// which has nothing left to do then. 0 if that window is not the one open: it beeps for a number without a
-// slot.
-int CloseDialog(HWND dialog, int resource_id, INT_PTR result);
-
-// 1 if a dialog took the message, which then goes nowhere else.
-int IsOpenDialogMessage(MSG* message);
+// Offers the message to the open dialogs with keyboard handling. True if one processed it.
+bool IsOpenDialogMessage(MSG* message);

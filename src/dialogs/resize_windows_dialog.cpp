@@ -1,59 +1,51 @@
-// The dialog that sets a window's size by numbers.
 #include "dialogs/resize_windows_dialog.h"
 
+#include "core/rect.h"
 #include "core/state.h"
 #include "dialogs/controls.h"
 #include "dialogs/find_dialogs.h"
 #include "dialogs/registry.h"
-#include "scroll/shift.h"
+#include "resources/control_ids.h"
+#include "windows/other_window.h"
 
 #include <cstdio>
-
-// Apply has the number that other dialogs give to Cancel.
-static const int ID_APPLY = 2;
-static const int ID_HEIGHT = 1000;
-static const int ID_WIDTH = 1001;
-static const int ID_LIST = 1041;
-static const int ID_DESKTOP = 1043;
-static const int ID_OK = 1044;
 
 static HWND ResizeTarget;
 
 static void OnInit(HWND dialog) {
     char size[32];
-    std::snprintf(size, sizeof size, "%dx%d", static_cast<int>(Quorl.right - Quorl.left),
-                  static_cast<int>(Quorl.bottom - Quorl.top));
-    SetDlgItemTextA(dialog, ID_DESKTOP, size);
-    EnumWindows(AddWindowToList, reinterpret_cast<LPARAM>(GetDlgItem(dialog, ID_LIST)));
+    std::snprintf(size, sizeof size, "%dx%d", Width(Quorl), Height(Quorl));
+    SetDlgItemTextA(dialog, IDC_RESIZE_DESKTOP, size);
+    EnumWindows(AddWindowToList, reinterpret_cast<LPARAM>(GetDlgItem(dialog, IDC_RESIZE_LIST)));
     ShowWindow(dialog, SW_SHOW);
 }
 
 static void OnSelect(HWND dialog) {
-    const LRESULT data = SelectedData(dialog, ID_LIST);
+    const LRESULT data = SelectedData(dialog, IDC_RESIZE_LIST);
     if (data == LB_ERR)
         return;
     ResizeTarget = reinterpret_cast<HWND>(data);
-    RECT place{};
-    if (!GetWindowRect(ResizeTarget, &place))
+    RECT rect{};
+    if (!GetOtherWindowRect(ResizeTarget, &rect))
         return;
-    SetDlgItemInt(dialog, ID_WIDTH, static_cast<UINT>(place.right - place.left), FALSE);
-    SetDlgItemInt(dialog, ID_HEIGHT, static_cast<UINT>(place.bottom - place.top), FALSE);
+    SetDlgItemInt(dialog, IDC_RESIZE_WIDTH, static_cast<UINT>(Width(rect)), FALSE);
+    SetDlgItemInt(dialog, IDC_RESIZE_HEIGHT, static_cast<UINT>(Height(rect)), FALSE);
 }
 
 static void OnApply(HWND dialog) {
-    RECT place{};
-    if (!ResizeTarget || !GetWindowRect(ResizeTarget, &place) || !IsAlive(ResizeTarget))
+    RECT rect{};
+    if (!ResizeTarget || !GetOtherWindowRect(ResizeTarget, &rect))
         return;
-    const int width = static_cast<int>(GetDlgItemInt(dialog, ID_WIDTH, nullptr, FALSE));
-    const int height = static_cast<int>(GetDlgItemInt(dialog, ID_HEIGHT, nullptr, FALSE));
-    MoveWindow(ResizeTarget, place.left, place.top, width, height, TRUE);
+    const int width = static_cast<int>(GetDlgItemInt(dialog, IDC_RESIZE_WIDTH, nullptr, FALSE));
+    const int height = static_cast<int>(GetDlgItemInt(dialog, IDC_RESIZE_HEIGHT, nullptr, FALSE));
+    MoveIfAlive(ResizeTarget, {rect.left, rect.top, width, height});
 }
 
 static void OnCommand(HWND dialog, int id, int notification) {
     switch (id) {
-    case ID_APPLY: OnApply(dialog); break;
-    case ID_OK: CloseDialog(dialog, DIALOG_RESIZE_WINDOWS, 0); break;
-    case ID_LIST:
+    case IDC_RESIZE_APPLY: OnApply(dialog); break;
+    case IDC_RESIZE_OK: CloseDialog(dialog); break;
+    case IDC_RESIZE_LIST:
         if (notification == LBN_SELCHANGE)
             OnSelect(dialog);
         break;

@@ -3,6 +3,6 @@
 
 #include "core/platform.h"
 
-// For template 111. The window chosen last stays the one to resize when the dialog closes and opens again.
-// One that is gone or does not answer keeps its size.
+// The selected window stays selected when the dialog is closed and opened again. A window that is gone or
+// does not respond keeps its size.
 INT_PTR CALLBACK ResizeWindowsDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);

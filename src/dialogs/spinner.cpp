@@ -1,7 +1,6 @@
-// The spinner: its class, its steps and its picture.
 #include "dialogs/spinner.h"
 
-#include "core/coordinates.h"
+#include "core/rect.h"
 #include "core/state.h"
 
 #include <new>
@@ -10,7 +9,18 @@ static const UINT START_INTERVAL = 500; // milliseconds
 static const int START_MAX = 100;
 static const int WINDOW_BYTES = 32;
 
-SpinnerShapes ShapesOfSpinner(int width, int height) {
+namespace {
+
+// What is drawn, in client pixels. If the height is odd, the row between the buttons is not drawn.
+struct SpinnerShapes {
+    RECT up, down;
+    POINT up_arrow[4], down_arrow[4];
+};
+
+} // namespace
+
+// Pure: the shapes for a client area of this size, in pixels.
+static SpinnerShapes ShapesOfSpinner(int width, int height) {
     const int half = height / 2;
     const int below = half + height % 2;
     const int upper = half - height % 2;
@@ -19,67 +29,42 @@ SpinnerShapes ShapesOfSpinner(int width, int height) {
     const int tip_right = width / 2 + width % 2;
     const int foot_left = width / 3;
     const int foot_right = width * 2 / 3;
-    return {
-        {0,                                 0,     width, half  },
-        {0,                                 below, width, height},
-        {{tip_left, upper / 3},
-         {foot_left, upper * 2 / 3},
-         {foot_right, upper * 2 / 3},
-         {tip_right, upper / 3}                                 },
-        {{tip_left, below + lower * 2 / 3},
-         {foot_left, below + lower / 3},
-         {foot_right, below + lower / 3},
-         {tip_right, below + lower * 2 / 3}                     }
-    };
+    return {{0, 0, width, half},
+            {0, below, width, height},
+            {{tip_left, upper / 3},
+             {foot_left, upper * 2 / 3},
+             {foot_right, upper * 2 / 3},
+             {tip_right, upper / 3}},
+            {{tip_left, below + lower * 2 / 3},
+             {foot_left, below + lower / 3},
+             {foot_right, below + lower / 3},
+             {tip_right, below + lower * 2 / 3}}};
 }
 
 SpinnerState* StateOfSpinner(HWND spinner) {
     return reinterpret_cast<SpinnerState*>(GetWindowLongPtrA(spinner, GWLP_USERDATA));
 }
 
-int SetSpinnerValue(HWND spinner, int value) {
-    SpinnerState* const state = StateOfSpinner(spinner);
-    if (state)
-        state->value = value;
-    return state != nullptr;
-}
-
-int SetSpinnerInterval(HWND spinner, UINT milliseconds) {
-    SpinnerState* const state = StateOfSpinner(spinner);
-    if (state)
-        state->interval = milliseconds;
-    return state != nullptr;
-}
-
-int SetSpinnerFlags(HWND spinner, int flags) {
-    SpinnerState* const state = StateOfSpinner(spinner);
-    if (state)
-        state->flags = flags;
-    return state != nullptr;
-}
-
-static void TellParent(HWND spinner, UINT_PTR id, SpinnerState& state) {
+static void NotifyParent(HWND spinner, UINT_PTR id, SpinnerState& state) {
     SendMessageA(GetParent(spinner), WM_NOTIFY, id, reinterpret_cast<LPARAM>(&state));
 }
 
-// The state is asked for anew after each word to the parent, which may have destroyed the spinner.
+// The parent may destroy the spinner while it is notified, so get the state again after that.
 static void Step(HWND spinner, UINT_PTR id) {
     SpinnerState* state = StateOfSpinner(spinner);
     if (state && state->flags & SPINNER_DOWN_HELD) {
         state->value = state->value < 1 ? 0 : state->value - 1;
-        TellParent(spinner, id, *state);
+        NotifyParent(spinner, id, *state);
         state = StateOfSpinner(spinner);
     }
     if (state && state->flags & SPINNER_UP_HELD) {
         state->value = state->value < state->max ? state->value + 1 : state->max;
-        TellParent(spinner, id, *state);
+        NotifyParent(spinner, id, *state);
     }
 }
 
 static void CALLBACK SpinnerTick(HWND spinner, UINT, UINT_PTR id, DWORD) {
-    const SpinnerState* const state = StateOfSpinner(spinner);
-    if (state && !state->paused)
-        Step(spinner, id);
+    Step(spinner, id);
 }
 
 static UINT_PTR IdOf(HWND spinner) {
@@ -101,7 +86,7 @@ static void OnSpinnerPress(HWND spinner, int y) {
     Repaint(spinner);
 }
 
-static void LetGo(HWND spinner, SpinnerState& state) {
+static void ReleaseButtons(HWND spinner, SpinnerState& state) {
     state.flags &= ~(SPINNER_UP_HELD | SPINNER_DOWN_HELD);
     KillTimer(spinner, IdOf(spinner));
 }
@@ -110,18 +95,17 @@ static void OnSpinnerRelease(HWND spinner) {
     SpinnerState* const state = StateOfSpinner(spinner);
     if (!state)
         return;
-    LetGo(spinner, *state);
+    ReleaseButtons(spinner, *state);
     ReleaseCapture();
     Repaint(spinner);
 }
 
-// Another window took the mouse, as a box that comes up does: the release will not come here. After a release
-// nothing is held any more.
+// Another window took the capture, for example a message box: the release of the button will not arrive here.
 static void OnSpinnerCaptureLost(HWND spinner) {
     SpinnerState* const state = StateOfSpinner(spinner);
     if (!state || !state->flags)
         return;
-    LetGo(spinner, *state);
+    ReleaseButtons(spinner, *state);
     Repaint(spinner);
 }
 
@@ -148,8 +132,8 @@ static void PaintSpinner(HWND spinner) {
     EndPaint(spinner, &paint);
 }
 
-static int OnSpinnerCreate(HWND spinner) {
-    auto* const state = new (std::nothrow) SpinnerState{0, START_INTERVAL, 0, START_MAX, 0, 0};
+static bool OnSpinnerCreate(HWND spinner) {
+    auto* const state = new (std::nothrow) SpinnerState{0, START_INTERVAL, START_MAX, 0};
     SetWindowLongPtrA(spinner, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(state));
     return state != nullptr;
 }
@@ -164,7 +148,7 @@ static LRESULT CALLBACK SpinnerWndProc(HWND window, UINT message, WPARAM wParam,
     case WM_CREATE: return OnSpinnerCreate(window) ? 0 : -1;
     case WM_DESTROY: OnSpinnerDestroy(window); return 0;
     case WM_PAINT: PaintSpinner(window); return 0;
-    case WM_LBUTTONDOWN: OnSpinnerPress(window, PointOf(lParam).y); return 0;
+    case WM_LBUTTONDOWN: OnSpinnerPress(window, MousePosition(lParam).y); return 0;
     case WM_LBUTTONUP: OnSpinnerRelease(window); return 0;
     case WM_CAPTURECHANGED: OnSpinnerCaptureLost(window); return 0;
     case WM_RBUTTONDOWN:
@@ -173,12 +157,12 @@ static LRESULT CALLBACK SpinnerWndProc(HWND window, UINT message, WPARAM wParam,
     }
 }
 
-// Once, by the first spinner.
-static int HasSpinnerClass(HINSTANCE instance) {
+// Registers the class for the first spinner.
+static bool HasSpinnerClass(HINSTANCE instance) {
     WNDCLASSEXA description{};
     description.cbSize = sizeof description;
     if (GetClassInfoExA(instance, SPINNER_CLASS, &description))
-        return 1;
+        return true;
     description = {};
     description.cbSize = sizeof description;
     description.style = CS_OWNDC;
@@ -191,16 +175,14 @@ static int HasSpinnerClass(HINSTANCE instance) {
     return RegisterClassExA(&description) != 0;
 }
 
-HWND CreateSpinner(HWND parent, int x, int y, int width, int height, int id, int flags) {
+HWND CreateSpinner(HWND parent, const RECT& rect, int id) {
     const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(parent, GWLP_HINSTANCE));
     if (!HasSpinnerClass(instance))
         return nullptr;
-    const HWND spinner =
-        CreateWindowExA(0, SPINNER_CLASS, SPINNER_CLASS, WS_CHILD | WS_VISIBLE, x, y, width, height, parent,
-                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
-    if (spinner)
-        SetSpinnerFlags(spinner, flags);
-    else
+    const HWND spinner = CreateWindowExA(
+        0, SPINNER_CLASS, SPINNER_CLASS, WS_CHILD | WS_VISIBLE, rect.left, rect.top, Width(rect),
+        Height(rect), parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
+    if (!spinner)
         MessageBeep(0);
     return spinner;
 }

@@ -1,26 +1,25 @@
-// The dialog that sets the opacity of the Toolwin, live.
+// The dialog that sets the opacity of the map, live.
 #include "dialogs/transparency_dialog.h"
 
 #include "core/state.h"
 #include "dialogs/registry.h"
-
-static const int ID_SLIDER = 1079;
-static const int LEAST_ALPHA = 10; // below it the user would lose sight of the Toolwin
-static const int MOST_ALPHA = 255;
+#include "resources/control_ids.h"
 
 static void OnInit(HWND dialog) {
     if (!pSetLayeredWindowAttributes) {
         MessageBoxA(dialog, "Transparency cannot be done on this OS.", "Blame Microsoft!", MB_OK);
         return;
     }
-    SendDlgItemMessageA(dialog, ID_SLIDER, TBM_SETRANGE, TRUE, MAKELPARAM(LEAST_ALPHA, MOST_ALPHA));
-    SendDlgItemMessageA(dialog, ID_SLIDER, TBM_SETPOS, TRUE, static_cast<BYTE>(Options.alpha));
+    const OptionDef& limits = OptionDefs[OPTION_ALPHA];
+    SendDlgItemMessageA(dialog, IDC_TRANSPARENCY_SLIDER, TBM_SETRANGE, TRUE,
+                        MAKELPARAM(limits.userMin, limits.userMax));
+    SendDlgItemMessageA(dialog, IDC_TRANSPARENCY_SLIDER, TBM_SETPOS, TRUE, static_cast<BYTE>(Options.alpha));
     ShowWindow(dialog, SW_SHOW);
 }
 
 static void ApplySlider(HWND dialog) {
-    const LRESULT alpha = SendDlgItemMessageA(dialog, ID_SLIDER, TBM_GETPOS, 0, 0);
-    Options.alpha = static_cast<DWORD>(alpha);
+    const LRESULT alpha = SendDlgItemMessageA(dialog, IDC_TRANSPARENCY_SLIDER, TBM_GETPOS, 0, 0);
+    Options.alpha = static_cast<int>(alpha);
     if (pSetLayeredWindowAttributes)
         pSetLayeredWindowAttributes(MainWnd, 0, static_cast<BYTE>(alpha), LWA_ALPHA);
 }
@@ -29,7 +28,7 @@ static void OnCommand(HWND dialog, int id) {
     if (id != IDOK)
         return;
     ApplySlider(dialog);
-    CloseDialog(dialog, DIALOG_TRANSPARENCY, 0);
+    CloseDialog(dialog);
 }
 
 INT_PTR CALLBACK TransparencyDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {

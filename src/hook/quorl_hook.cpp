@@ -1,100 +1,102 @@
-// Watches the mouse over all programs and posts what it does to the main window.
+// Watches the mouse with a low-level hook and posts its messages to the map.
 //
-// The whole system's input waits for a low-level hook, so the hook has a thread of its own that never waits
-// for anything but news: posting returns at once however busy the main window is. Messages are not sent,
-// because the main window would have to take them in the midst of whatever it is doing with other windows.
+// All input of the system waits for a low-level hook, so it has a thread of its own that waits for nothing
+// but messages. Posting returns at once, however busy the map is. Sending would make the map handle the
+// message in the middle of moving windows.
 #include "hook/quorl_hook.h"
 
-#include "mouse/hook_mouse.h"
+#include "hook/hook_message.h"
 
-static const UINT NEWS = WM_APP;    // to the watching thread itself; wParam: the number of a mouse message
-static const WPARAM MARK = 0;       // no mouse message: the end of the news that waited
-static const DWORD PATIENCE = 2000; // milliseconds for the watching to begin or to end
+static const UINT HOOK_EVENT = WM_APP;   // to the watcher thread; wParam: the number of a mouse message
+static const WPARAM END_MARK = 0;        // in HOOK_MOUSE_MESSAGE: the end of the messages queued before
+static const DWORD START_TIMEOUT = 2000; // milliseconds for the thread to start or to stop
 
-// Milliseconds, more than the five seconds after which Windows calls a window hung: a window that is not has
-// taken a move that was posted so long ago.
-static const DWORD LONG_WAIT = 6000;
+// Milliseconds, more than the five seconds after which Windows considers a window hung: a window that is not
+// hung has removed a move posted this long ago.
+static const DWORD MOVE_TIMEOUT = 6000;
 
 static HWND MainWindow;
-static HMODULE Self;   // a reference of the watcher's own: its code stays for as long as it may run
-static HANDLE Watcher; // the thread; null: never begun, or ended by SetMouseHook(0)
+static HMODULE Self;   // the watcher's own reference: keeps its code loaded while it runs
+static HANDLE Watcher; // the thread; null if it was not started, or ended by SetMouseHook(0)
 static HANDLE Started; // event: the hooks are set
-static HANDLE Stop;    // event: the watching shall end
+static HANDLE Stop;    // event: the thread must end
 
-static volatile LONG MoveQueued; // when the move in the main window's queue was posted; 0: there is none
+static volatile LONG MoveQueued; // when the move in the map's queue was posted; 0 if there is none
 
-// Runs before the cursor has moved: who reported from here would be answered with the old place. So the
-// thread tells itself, and passes the news on from its loop.
+// Called before the cursor moves, so GetCursorPos would return the old position. Queue the event to this
+// thread and forward it from its loop.
 static LRESULT CALLBACK OnMouse(int code, WPARAM message, LPARAM details) {
     if (code == HC_ACTION)
-        PostThreadMessageA(GetCurrentThreadId(), NEWS, message, 0);
+        PostThreadMessageA(GetCurrentThreadId(), HOOK_EVENT, message, 0);
     return CallNextHookEx(nullptr, code, message, details);
 }
 
-// Runs on the main window's thread, whenever that takes a message out of its queue.
-static LRESULT CALLBACK OnTaken(int code, WPARAM bRemoved, LPARAM details) {
-    const MSG& taken = *reinterpret_cast<const MSG*>(details);
-    if (code == HC_ACTION && (bRemoved & PM_REMOVE) && taken.message == HOOK_MOUSE_MESSAGE &&
-        taken.wParam == WM_MOUSEMOVE)
+// Called on the map's thread when it retrieves a message from its queue.
+static LRESULT CALLBACK OnMessageRetrieved(int code, WPARAM bRemoved, LPARAM details) {
+    const MSG& retrieved = *reinterpret_cast<const MSG*>(details);
+    if (code == HC_ACTION && (bRemoved & PM_REMOVE) && retrieved.message == HOOK_MOUSE_MESSAGE &&
+        retrieved.wParam == WM_MOUSEMOVE)
         InterlockedExchange(&MoveQueued, 0);
     return CallNextHookEx(nullptr, code, bRemoved, details);
 }
 
-// The newest hook is asked first.
+// The hook installed last is called first.
 static HHOOK HookQueueOf(HWND window) {
-    return SetWindowsHookExA(WH_GETMESSAGE, OnTaken, nullptr, GetWindowThreadProcessId(window, nullptr));
+    return SetWindowsHookExA(WH_GETMESSAGE, OnMessageRetrieved, nullptr,
+                             GetWindowThreadProcessId(window, nullptr));
 }
 
-static LONG TimeOfNow() {
+static LONG Now() {
     return static_cast<LONG>(GetTickCount() | 1); // never 0
 }
 
-// A newer hook of someone else that does not pass on what it sees has kept from us that the move was taken.
-static int HasMissedTheTaking(HWND window) {
+// A hook installed after ours that does not call CallNextHookEx can hide the removal from us.
+static bool HasMissedRemoval(HWND window) {
     const LONG posted = MoveQueued;
-    return posted && static_cast<DWORD>(TimeOfNow() - posted) > LONG_WAIT && !IsHungAppWindow(window);
+    return posted && static_cast<DWORD>(Now()) - static_cast<DWORD>(posted) > MOVE_TIMEOUT &&
+           !IsHungAppWindow(window);
 }
 
-static void PassMoveOn(HWND window) {
-    if (InterlockedCompareExchange(&MoveQueued, TimeOfNow(), 0) == 0 &&
+static void ForwardMove(HWND window) {
+    if (InterlockedCompareExchange(&MoveQueued, Now(), 0) == 0 &&
         !PostMessageA(window, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0))
         InterlockedExchange(&MoveQueued, 0);
 }
 
-// 0: the window is gone.
-static int PassOn(HWND window, WPARAM message) {
+// False if the window is gone.
+static bool Forward(HWND window, WPARAM message) {
     if (message == WM_MOUSEMOVE)
-        PassMoveOn(window);
+        ForwardMove(window);
     else if (message != WM_MOUSEWHEEL && message != WM_MOUSEHWHEEL)
         PostMessageA(window, HOOK_MOUSE_MESSAGE, message, 0);
-    return IsWindow(window);
+    return IsWindow(window) != 0;
 }
 
-static int PassOnAll(HWND window) {
+static bool ForwardAll(HWND window) {
     MSG message;
     while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
-        if (message.message == NEWS && !PassOn(window, message.wParam))
-            return 0;
-    return 1;
+        if (message.message == HOOK_EVENT && !Forward(window, message.wParam))
+            return false;
+    return true;
 }
 
 static void WatchUntilStopped(HWND window, HHOOK* queue) {
     while (MsgWaitForMultipleObjects(1, &Stop, FALSE, INFINITE, QS_ALLINPUT) == WAIT_OBJECT_0 + 1) {
-        if (HasMissedTheTaking(window)) {
+        if (HasMissedRemoval(window)) {
             UnhookWindowsHookEx(*queue);
             *queue = HookQueueOf(window);
             InterlockedExchange(&MoveQueued, 0);
         }
-        if (!PassOnAll(window))
+        if (!ForwardAll(window))
             return;
     }
 }
 
-// Windows takes the hooks back by itself when the thread that set them dies.
+// Windows removes the hooks itself when the thread that installed them ends.
 static void Watch(HWND window) {
     HHOOK queue = HookQueueOf(window);
     const HHOOK mouse = SetWindowsHookExA(WH_MOUSE_LL, OnMouse, Self, 0);
-    PassOnAll(window); // Wine asks a hook only once its thread has looked for messages
+    ForwardAll(window); // Wine calls a hook only after its thread has looked for messages
     SetEvent(Started);
     if (queue && mouse)
         WatchUntilStopped(window, &queue);
@@ -107,21 +109,21 @@ static DWORD WINAPI WatcherMain(void* window) {
     return 0;
 }
 
-static int HasEnded(DWORD milliseconds) {
+static bool HasEnded(DWORD milliseconds) {
     return !Watcher || WaitForSingleObject(Watcher, milliseconds) == WAIT_OBJECT_0;
 }
 
-static void Forget(HANDLE& handle) {
+static void CloseAndClear(HANDLE& handle) {
     if (handle)
         CloseHandle(handle);
     handle = nullptr;
 }
 
-// To be called once the watcher has ended, however it did: what it held goes.
-static void ForgetWatcher() {
-    Forget(Watcher);
-    Forget(Started);
-    Forget(Stop);
+// Releases what the thread held, once it has ended.
+static void ReleaseWatcher() {
+    CloseAndClear(Watcher);
+    CloseAndClear(Started);
+    CloseAndClear(Stop);
     if (Self)
         FreeLibrary(Self); // not the last reference: the caller has its own
     Self = nullptr;
@@ -134,27 +136,26 @@ static void StartWatcher() {
     Watcher = CreateThread(nullptr, 0, WatcherMain, MainWindow, 0, nullptr);
     if (!Watcher)
         return;
-    SetThreadPriority(Watcher, THREAD_PRIORITY_HIGHEST); // all programs' input waits for it
+    SetThreadPriority(Watcher, THREAD_PRIORITY_HIGHEST); // the input of all programs waits for it
     const HANDLE either[] = {Started, Watcher};
-    WaitForMultipleObjects(2, either, FALSE, PATIENCE);
+    WaitForMultipleObjects(2, either, FALSE, START_TIMEOUT);
 }
 
-// A move of an earlier watching may wait still, and nobody saw whether it was taken. The waiting news goes
-// round once, and the moves are left out.
+// An earlier watcher's move may still be queued. Repost the queued messages without moves.
 static void DropWaitingMoves(HWND window) {
-    MSG news;
-    if (!PostMessageA(window, HOOK_MOUSE_MESSAGE, MARK, 0))
+    MSG queued;
+    if (!PostMessageA(window, HOOK_MOUSE_MESSAGE, END_MARK, 0))
         return;
-    while (PeekMessageA(&news, window, HOOK_MOUSE_MESSAGE, HOOK_MOUSE_MESSAGE, PM_REMOVE) &&
-           news.wParam != MARK)
-        if (news.wParam != WM_MOUSEMOVE)
-            PostMessageA(window, HOOK_MOUSE_MESSAGE, news.wParam, news.lParam);
+    while (PeekMessageA(&queued, window, HOOK_MOUSE_MESSAGE, HOOK_MOUSE_MESSAGE, PM_REMOVE) &&
+           queued.wParam != END_MARK)
+        if (queued.wParam != WM_MOUSEMOVE)
+            PostMessageA(window, HOOK_MOUSE_MESSAGE, queued.wParam, queued.lParam);
 }
 
 static void BeginWatching() {
     if (!HasEnded(0))
         return;
-    ForgetWatcher(); // one that died
+    ReleaseWatcher(); // a thread that ended by itself
     if (!IsWindow(MainWindow))
         return;
     DropWaitingMoves(MainWindow);
@@ -164,13 +165,13 @@ static void BeginWatching() {
     StartWatcher();
 }
 
-// A thread that begins or ends needs the loader, so under the loader's lock this waits in vain: hence the
-// limit. The watcher then ends later, and its reference stays until it is seen to have.
+// Starting and ending a thread takes the loader lock. A caller that holds it would wait forever, hence the
+// timeout. The thread then ends later; the next call releases it.
 static void EndWatching() {
     if (Stop)
         SetEvent(Stop);
-    if (HasEnded(PATIENCE))
-        ForgetWatcher();
+    if (HasEnded(START_TIMEOUT))
+        ReleaseWatcher();
 }
 
 void SaveSharedData(HWND window) {

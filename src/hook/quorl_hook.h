@@ -1,19 +1,17 @@
-// The companion library's two doors. A program finds them by name, and calls them on the thread of its
-// window while it has the library loaded.
+// Exports of the companion library. Look them up by name; call them on the window's thread.
 #pragma once
 
 #include "core/platform.h"
 
 extern "C" {
 
-// The window, of the calling process, that shall have the news. Counts at once: what is watched already is
-// told to this window from now on, or to nobody if it is none.
+// Sets the window of the calling process that receives the mouse messages. Takes effect at once: if the hook
+// is active, it reports to the new window, or stops if `window` is not a window.
 void SaveSharedData(HWND window);
 
-// 1: from now on the window gets HOOK_MOUSE_MESSAGE, posted, for every mouse message but the wheel's,
-// wherever the mouse is. At most one move lies in its queue, since the cursor's place is what counts and that
-// is asked for when the move is handled; clicks are never left out. 0: no more news is posted; back when the
-// watching has ended. Asking for what is so already, or without a window, does nothing. A window that is gone
-// ends the watching; it begins anew by asking again.
+// 1: posts HOOK_MOUSE_MESSAGE to the window for every mouse message except the wheel's, wherever the mouse
+// is. At most one move is in the window's queue, because the cursor's position is read when it is handled;
+// clicks are never dropped. 0: stops, and returns when the hook is removed. Does nothing if that is the state
+// already, or without a window. If the window is destroyed, the hook ends; calling with 1 starts it again.
 void SetMouseHook(int bWatch);
 }

@@ -1,42 +1,44 @@
-// The popup menu: the actions that the user put into it, and the regions.
 #include "menus/action_menu.h"
 
-#include "core/foreground.h"
-#include "core/state.h"
+#include "actions/dispatch.h"
 #include "menus/menu_list.h"
 #include "regions/region_table.h"
-#include "toolwin/tip.h"
+#include "status/status_strip.h"
+#include "windows/other_window.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <string_view>
 
-static const int LAST_KEY = 9; // of the keys 0 to 9 of the regions
+static constexpr int MENU_TEXT_SIZE = 80; // bytes: twice a region's name, its number, the terminator
+static const int LAST_KEY = 9;            // regions 0 to 9 have a key in the menu
 
-// The menu only reads its texts, though its record wants to write to them.
+// Windows only reads the text, though the record is declared writable.
 static LPSTR MenuText(const char* text) {
     return const_cast<LPSTR>(text);
 }
 
-void RegionEntryText(char (&text)[MENU_TEXT_ROOM], int region, const char* name) {
-    const int bKey = region <= LAST_KEY;
+// Pure: the text of a region's entry. The first ten have the access keys 0 to 9, later ones 0. An "&" in the
+// name is shown as such.
+static void RegionEntryText(char (&text)[MENU_TEXT_SIZE], int region, const char* name) {
+    const bool bKey = region <= LAST_KEY;
     int length = std::snprintf(text, sizeof text, "&%d ", bKey ? region : 0);
-    for (const char letter : std::string_view(name).substr(0, REGION_NAME_ROOM - 1)) {
+    for (const char letter : std::string_view(name).substr(0, REGION_NAME_SIZE - 1)) {
         if (letter == '&')
-            text[length++] = '&'; // a single one would vanish and underline the next letter
+            text[length++] = '&'; // a single one would underline the next letter instead
         text[length++] = letter;
     }
     text[length] = 0;
 }
 
-static MENUITEMINFOA ActionItem(ActionId row) {
+static MENUITEMINFOA ActionItem(int id) {
     MENUITEMINFOA item{};
     item.cbSize = sizeof item;
     item.fMask = MIIM_STATE | MIIM_ID | MIIM_TYPE;
     item.fType = MFT_STRING;
-    item.fState = ActionTable[row].value ? MFS_CHECKED : 0;
-    item.wID = static_cast<UINT>(row);
-    item.dwTypeData = MenuText(ActionTable[row].desc);
+    item.fState = ActionTable[id].value ? MFS_CHECKED : 0;
+    item.wID = static_cast<UINT>(id);
+    item.dwTypeData = MenuText(ActionTable[id].desc);
     return item;
 }
 
@@ -49,7 +51,7 @@ static MENUITEMINFOA SeparatorItem() {
     return item;
 }
 
-// A number past the last row names nothing and shows as nothing.
+// Skips numbers that are not actions.
 static void InsertEntries(HMENU menu) {
     for (int position = 0; position < quorl_menu_count; ++position) {
         const int entry = MenuList[position];
@@ -61,9 +63,9 @@ static void InsertEntries(HMENU menu) {
     }
 }
 
-// One entry is missing if that fails.
+// If it fails, one entry is missing.
 static void InsertRegion(HMENU menu, int region) {
-    char text[MENU_TEXT_ROOM];
+    char text[MENU_TEXT_SIZE];
     RegionEntryText(text, region, RegionTable[region].name);
     MENUITEMINFOA item{};
     item.cbSize = sizeof item;
@@ -74,7 +76,7 @@ static void InsertRegion(HMENU menu, int region) {
     InsertMenuItemA(menu, static_cast<UINT>(region), TRUE, &item);
 }
 
-// Hangs the regions below all entries. The menu that holds them; null when there are none.
+// Appends the submenu of regions and returns it; null if there are none.
 static HMENU InsertRegions(HMENU menu) {
     const HMENU regions = num_regions > 0 ? CreatePopupMenu() : nullptr;
     if (!regions)
@@ -91,7 +93,8 @@ static HMENU InsertRegions(HMENU menu) {
     return regions;
 }
 
-UINT BuildActionMenu(HWND window) {
+// The chosen id; 0 if nothing was chosen.
+static int TrackActionMenu(HWND window) {
     POINT at{};
     GetCursorPos(&at);
     const HMENU menu = CreatePopupMenu();
@@ -101,16 +104,16 @@ UINT BuildActionMenu(HWND window) {
     const HMENU regions = InsertRegions(menu);
     const int choice = TrackPopupMenuEx(menu, TPM_RETURNCMD | TPM_RIGHTBUTTON, at.x, at.y, window, nullptr);
     if (regions)
-        DestroyMenu(regions); // on its own, since hanging it into the menu may have failed
+        DestroyMenu(regions); // separately, because inserting it into the menu may have failed
     DestroyMenu(menu);
-    return static_cast<UINT>(choice);
+    return choice;
 }
 
 int ShowActionMenu(HWND window) {
-    GiveForeground(window);
-    HideTip(TipWnd); // no strip shall cover the menu
-    const UINT choice = BuildActionMenu(window);
-    return choice ? DoAction(window, static_cast<int>(choice), nullptr) : 0;
+    ActivateWindow(window);
+    HideTip(); // the strip must not cover the menu
+    const int choice = TrackActionMenu(window);
+    return choice ? DoAction(window, choice) : 0;
 }
 
 int DisplayMenu(const ActionCall& call) {

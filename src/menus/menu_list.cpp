@@ -1,5 +1,7 @@
-// The list that says what the popup menu holds and in what order.
+// The list that defines the popup menu.
 #include "menus/menu_list.h"
+
+#include "actions/action_ids.h"
 
 #include <algorithm>
 #include <iterator>
@@ -8,15 +10,27 @@
 int MenuList[MAX_MENU_ENTRIES];
 int quorl_menu_count;
 
-static constexpr int DefaultMenu[] = {54, 55, 74, 77, 49, MENU_SEPARATOR, 56, 57, MENU_SEPARATOR, 59};
+static constexpr int DefaultMenu[] = {
+    ACTION_OPTIONS, ACTION_DEFINE_ACTIONS, ACTION_CUSTOMIZE_MENU, ACTION_SHOW_TOOLWIN, ACTION_MARK_REGION,
+    MENU_SEPARATOR, ACTION_HELP,           ACTION_ABOUT,          MENU_SEPARATOR,      ACTION_EXIT,
+};
 
-static int IsInList(int position) {
+static bool IsInList(int position) {
     return position >= 0 && position < quorl_menu_count;
 }
 
 void SetDefaultMenu() {
-    std::copy(std::begin(DefaultMenu), std::end(DefaultMenu), MenuList);
-    quorl_menu_count = static_cast<int>(std::size(DefaultMenu));
+    constexpr int count = static_cast<int>(std::size(DefaultMenu));
+    SetMenuEntries(DefaultMenu, count);
+    SetMenuCount(count);
+}
+
+void SetMenuEntries(const int* entries, int count) {
+    std::copy(entries, entries + count, MenuList);
+}
+
+void SetMenuCount(int count) {
+    quorl_menu_count = std::clamp(count, 0, MAX_MENU_ENTRIES);
 }
 
 int FindMenuEntry(int entry) {
@@ -25,34 +39,28 @@ int FindMenuEntry(int entry) {
     return found == end ? -1 : static_cast<int>(found - MenuList);
 }
 
-int InsertMenuEntry(int position, int entry) {
+void InsertMenuEntry(int position, int entry) {
     if (quorl_menu_count >= MAX_MENU_ENTRIES)
-        return 0;
+        return;
     if (!IsInList(position))
         position = quorl_menu_count;
     std::copy_backward(MenuList + position, MenuList + quorl_menu_count, MenuList + quorl_menu_count + 1);
     MenuList[position] = entry;
     ++quorl_menu_count;
-    return 1;
 }
 
-int AppendMenuEntry(int entry) {
-    return InsertMenuEntry(-1, entry);
-}
-
-int RemoveMenuEntry(int entry, int position) {
+void RemoveMenuEntry(int entry, int position) {
     if (entry >= 0)
         position = FindMenuEntry(entry);
     if (!IsInList(position))
-        return 0;
+        return;
     std::copy(MenuList + position + 1, MenuList + quorl_menu_count, MenuList + position);
     --quorl_menu_count;
-    return 1;
 }
 
-int SwapMenuEntries(int position, int delta) {
+bool SwapMenuEntries(int position, int delta) {
     if (!IsInList(position) || !IsInList(position + delta))
-        return 0;
+        return false;
     std::swap(MenuList[position], MenuList[position + delta]);
-    return 1;
+    return true;
 }

@@ -1,31 +1,32 @@
-// The list that says what the popup menu holds and in what order. The menu reads it each time it opens.
+// The list that defines the contents and order of the popup menu. The menu reads it each time it opens.
 #pragma once
 
-#include "core/platform.h"
-
 constexpr int MAX_MENU_ENTRIES = 500;
-constexpr int MENU_SEPARATOR = -1; // in the start list; any other negative number is a separator too
+constexpr int MENU_SEPARATOR = -1; // in the default list; any other negative number is a separator too
 
-// An entry of 0 or more is an ActionId, a negative one a separator line. Entries behind the count have no
-// meaning. The count lies between 0 and MAX_MENU_ENTRIES: whoever sets it holds it there.
+// An entry of 0 or more is an action, a negative one a separator. Entries from the count on have no meaning.
 extern int MenuList[MAX_MENU_ENTRIES];
-extern int quorl_menu_count;
+extern int quorl_menu_count; // from 0 to MAX_MENU_ENTRIES
 
-// The list that a new user finds.
+// Sets the default menu.
 void SetDefaultMenu();
+
+// Replaces the first `count` entries; the others and the number of entries in use stay.
+void SetMenuEntries(const int* entries, int count);
+
+// Sets the number of entries in use, at most MAX_MENU_ENTRIES.
+void SetMenuCount(int count);
 
 // The position of the first entry equal to `entry`, or -1.
 int FindMenuEntry(int entry);
 
-// Puts `entry` before the one at `position`; a negative position, or one past the end, appends. 0 when the
-// list is full, which changes nothing; else 1.
-int InsertMenuEntry(int position, int entry);
+// Inserts an entry before `position`; a negative position, or one past the end, appends. Nothing happens if
+// the list is full.
+void InsertMenuEntry(int position, int entry);
 
-int AppendMenuEntry(int entry);
+// Removes an entry: an action (0 or more) at its first position, a separator at `position`, as separators are
+// all alike. Nothing happens if there is no such entry.
+void RemoveMenuEntry(int entry, int position);
 
-// Takes out one entry: an action (0 or more) wherever it first stands, a separator by its `position`, since
-// lines have no identity of their own. 1, or 0 when there is no such entry.
-int RemoveMenuEntry(int entry, int position);
-
-// Exchanges the entries at `position` and `position` + `delta`. 0 when one of them lies outside the list.
-int SwapMenuEntries(int position, int delta);
+// Swaps the entries at `position` and `position` + `delta`. False if one of them is outside the list.
+bool SwapMenuEntries(int position, int delta);

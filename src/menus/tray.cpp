@@ -1,4 +1,3 @@
-// The icon in the notification area.
 #include "menus/tray.h"
 
 #include "core/state.h"
@@ -9,8 +8,8 @@
 
 static const UINT TRAY_ICON_ID = 1125;
 
-// The short form of the record, which every shell knows: its tip has 64 characters.
-int TrayIcon(HWND window, DWORD operation) {
+// The short form of the record, which every version of the shell accepts: its tip has 64 characters.
+void TrayIcon(HWND window, DWORD operation) {
     NOTIFYICONDATAA data{};
     data.cbSize = NOTIFYICONDATAA_V1_SIZE;
     data.hWnd = window;
@@ -19,13 +18,13 @@ int TrayIcon(HWND window, DWORD operation) {
     data.uCallbackMessage = TRAY_MESSAGE;
     data.hIcon = TrayImage;
     std::strcpy(data.szTip, "Quorl");
-    return Shell_NotifyIconA(operation, &data);
+    Shell_NotifyIconA(operation, &data);
 }
 
-LRESULT OnTrayMessage(HWND window, WPARAM, LPARAM lParam) {
+LRESULT OnTrayMessage(HWND window, LPARAM lParam) {
     switch (lParam) {
     case WM_RBUTTONDOWN: return ShowActionMenu(window);
-    case WM_LBUTTONDBLCLK: ToggleToolwin(window); return 0;
+    case WM_LBUTTONDBLCLK: ToggleToolwin({}); return 0;
     default: return 0;
     }
 }

@@ -1,105 +1,82 @@
-// Dragging a window by its box on the map: the box follows the cursor, and the window its box.
 #include "mouse/drag_window.h"
 
-#include "core/arithmetic.h"
-#include "core/coordinates.h"
+#include "core/rect.h"
 #include "core/state.h"
-#include "scroll/shift.h"
-#include "scroll/window_table.h"
-#include "toolwin/tip.h"
+#include "status/status_strip.h"
+#include "toolwin/map_coordinates.h"
+#include "windows/other_window.h"
+#include "windows/window_table.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
 struct DragRecord {
-    int dragging;     // 1 from the first step on a window; outlives the release of the button
-    HWND window;      // what is dragged, or was; may be gone
-    ActionPoint prev; // map coordinates of the last step
+    bool bDragging; // from the first step on a window; survives the release of the button
+    HWND window;    // the dragged window, also after the drag; may be gone
+    int x, y;       // map coordinates of the last step
 };
 
 } // namespace
 
 static DragRecord DragState;
 
-static int WithoutSign(int value) {
-    return value < 0 ? 0 - value : value;
+static bool IsBetween(long long value, long long first, long long last) {
+    return std::abs(value) >= std::abs(first) && std::abs(value) <= std::abs(last);
 }
 
-static int IsBetween(int value, int least, int most) {
-    return WithoutSign(value) >= WithoutSign(least) && WithoutSign(value) <= WithoutSign(most);
-}
-
-int HoldsDesktopPoint(const RECT& window, int x, int y) {
+// Desktop pixels, edges included. A part of the window outside the desktop's left or top edge does not count.
+static bool ContainsDesktopPoint(const RECT& window, int x, int y) {
     return IsBetween(x, std::max<int>(window.left, 0), window.right) &&
            IsBetween(y, std::max<int>(window.top, 0), window.bottom);
 }
 
-// The live rectangle counts: the table's is as old as its last refresh.
-static int StandsAt(HWND window, int x, int y) {
-    RECT place{};
-    if (!GetWindowRect(window, &place))
-        return 0;
-    return HoldsDesktopPoint(
-        {place.left + VDesk.left, place.top + VDesk.top, place.right + VDesk.left, place.bottom + VDesk.top},
-        x, y);
-}
-
+// Reads the current rectangle: that in the table is as old as the last refresh.
 HWND WindowAtDesktopPoint(int x, int y) {
-    for (int row = 0; row < num_windows; ++row) {
-        const HWND window = WindowTable[row].hwnd;
-        if (StandsAt(window, x, y) && IsManagedWindow(window))
+    for (int i = 0; i < num_windows; ++i) {
+        const HWND window = WindowTable[i].hwnd;
+        RECT rect{};
+        if (GetOtherWindowRect(window, &rect) &&
+            ContainsDesktopPoint(Offset(rect, VDesk.left, VDesk.top), x, y) && IsManagedWindow(window))
             return window;
     }
     return nullptr;
 }
 
 static void MoveByCursor(HWND target, int x, int y) {
-    RECT place{};
-    RECT map{};
-    GetClientRect(MainWnd, &map);
-    const int dx = Scaled(x - DragState.prev.x, Quorl.right, map.right);
-    const int dy = Scaled(y - DragState.prev.y, Quorl.bottom, map.bottom);
-    DragState.prev = {x, y};
-    if (!GetWindowRect(target, &place) || !IsAlive(target))
-        return; // it went this moment, or hangs
-    // Past the desktop's far edges nothing would manage it any more, and the end not bring it back.
-    MoveWindow(target, std::min(place.left + dx, Quorl.right), std::min(place.top + dy, Quorl.bottom),
-               place.right - place.left, place.bottom - place.top, TRUE);
+    const POINT by = MapToDesktopDistance(Wrap(0LL + x - DragState.x), Wrap(0LL + y - DragState.y));
+    DragState.x = x;
+    DragState.y = y;
+    RECT rect{};
+    if (!GetOtherWindowRect(target, &rect))
+        return;
+    // Beyond the desktop's far edges the window would no longer be managed, and exit would not bring it back.
+    const RECT moved = Offset(rect, by.x, by.y);
+    MoveIfAlive(target, {std::min(moved.left, Quorl.right), std::min(moved.top, Quorl.bottom), Width(rect),
+                         Height(rect)});
 }
 
-static void StartDrag(HWND target, int x, int y) {
-    DragState = {
-        1, target, {x, y}
-    };
-    if (!IsAlive(target))
-        return; // it would not move either, and raising it could wait for as long as it hangs
-    SetForegroundWindow(target);
-    SetFocus(target);
-    SetActiveWindow(target);
-}
-
-void DragWindowOnMap(HWND target, int x, int y) {
+static void DragWindowOnMap(HWND target, int x, int y) {
     if (!target) {
-        DragState.dragging = 0;
+        DragState.bDragging = false;
         return;
     }
-    if (DragState.dragging && DragState.window != target) {
-        DragState.dragging = 0;
-        DragState.window = nullptr;
+    if (DragState.bDragging && DragState.window != target) {
+        DragState = {false, nullptr, DragState.x, DragState.y};
         return;
     }
-    if (DragState.dragging)
+    if (DragState.bDragging) {
         MoveByCursor(target, x, y);
-    else
-        StartDrag(target, x, y);
-    Tell("DRAG: %d  PREV: %d, %d  CUR: %d, %d", DragState.dragging, DragState.prev.x, DragState.prev.y, x, y);
+    } else {
+        DragState = {true, target, x, y};
+        FocusOtherWindow(target);
+    }
+    ShowTip("DRAG: %d  PREV: %d, %d  CUR: %d, %d", DragState.bDragging, DragState.x, DragState.y, x, y);
 }
 
-int DragStep(HWND window, int x, int y) {
-    ActionPoint point{x, y};
-    MapToDesktop(&point);
-    DragWindowOnMap(WindowAtDesktopPoint(point.x, point.y), x, y);
+void DragStep(HWND window, int x, int y) {
+    const ActionPoint desktop = MapToDesktop({x, y});
+    DragWindowOnMap(WindowAtDesktopPoint(desktop.x, desktop.y), x, y);
     Repaint(window);
-    return 1;
 }

@@ -1,21 +1,18 @@
-// Scrolling at the screen's edge.
 #include "mouse/edge_scroll.h"
 
 #include "actions/action_table.h"
-#include "core/directions.h"
+#include "core/arithmetic.h"
 #include "core/keys.h"
 #include "core/state.h"
+#include "core/steps.h"
 #include "scroll/scroll_view.h"
 
 static const UINT_PTR DELAY_TIMER = 2002;
-static const int INSET = 3; // borders between the far edge and the cursor's landing place
+static const int INSET = 3; // the cursor lands this many borders inside the opposite edge
 
-// Options.mousescroll_delay; any other number scrolls at once
-enum EdgeDelay { ON_LEFT_CLICK = 1, ON_RIGHT_CLICK = 2, AFTER_A_TIME = 3 };
-
-static int edge_primed; // 1 after the first call
-static int edge_busy;   // 1 while a call is at work
-static int edge_dir;    // the edge that the last complete test found
+static bool edge_primed; // after the first call
+static bool edge_busy;   // during a call
+static int edge_dir;     // the edge that the last complete test found
 
 namespace {
 
@@ -30,104 +27,84 @@ struct PendingRecord {
 
 static PendingRecord PendingScroll;
 
-static SIZE EdgeAmount(const OptionsRecord& options, int screenW, int screenH) {
+static SIZE ScrollSize(const OptionsRecord& options, int screenW, int screenH) {
     switch (options.mousescroll_type) {
-    case 0: return {options.minscroll, options.minscroll};
-    case 1: return {options.maxscroll, options.maxscroll};
-    case 2: return {options.mousescroll, options.mousescroll};
-    case 3: return {screenW, screenH};
+    case EDGE_BY_MIN: return {options.minscroll, options.minscroll};
+    case EDGE_BY_MAX: return {options.maxscroll, options.maxscroll};
+    case EDGE_BY_MOUSESCROLL: return {options.mousescroll, options.mousescroll};
+    case EDGE_BY_SCREEN: return {screenW, screenH};
     default: return {10, 10};
     }
 }
 
-EdgeStep EdgeStepAt(POINT cursor, const OptionsRecord& options, const RECT& vdesk, int screenW, int screenH) {
-    const int border = options.border;
-    const int inset = INSET * border;
-    const SIZE by = EdgeAmount(options, screenW, screenH);
+static int EdgeAt(POINT cursor, int border, int screenW, int screenH) {
     if (cursor.x > screenW - border)
-        return {
-            DIR_RIGHT, {vdesk.left + by.cx,      vdesk.top},
-             {inset - by.cx + screenW, cursor.y }
-        };
+        return DIR_RIGHT;
     if (cursor.x < border)
-        return {
-            DIR_LEFT, {vdesk.left - by.cx, vdesk.top},
-             {by.cx - inset,      cursor.y }
-        };
+        return DIR_LEFT;
     if (cursor.y > screenH - border)
-        return {
-            DIR_DOWN, {vdesk.left, vdesk.top + by.cy      },
-             {cursor.x,   inset - by.cy + screenH}
-        };
-    if (cursor.y < border)
-        return {
-            DIR_UP, {vdesk.left, vdesk.top - by.cy},
-             {cursor.x,   by.cy - inset    }
-        };
-    return {
-        DIR_NONE, {vdesk.left, vdesk.top},
-         cursor
-    };
+        return DIR_DOWN;
+    return cursor.y < border ? DIR_UP : DIR_NONE;
 }
 
-int IsStillAtEdge(POINT cursor, int dir, int border, int screenW, int screenH) {
+EdgeStep EdgeStepAt(POINT cursor, const OptionsRecord& options, const RECT& vdesk, int screenW, int screenH) {
+    const int inset = INSET * options.border;
+    const SIZE by = ScrollSize(options, screenW, screenH);
+    EdgeStep step{EdgeAt(cursor, options.border, screenW, screenH), {vdesk.left, vdesk.top}, cursor};
+    switch (step.dir) {
+    case DIR_RIGHT:
+        step.view.x = Wrap(0LL + vdesk.left + by.cx);
+        step.landing.x = inset - by.cx + screenW;
+        break;
+    case DIR_LEFT:
+        step.view.x = Wrap(0LL + vdesk.left - by.cx);
+        step.landing.x = by.cx - inset;
+        break;
+    case DIR_DOWN:
+        step.view.y = Wrap(0LL + vdesk.top + by.cy);
+        step.landing.y = inset - by.cy + screenH;
+        break;
+    case DIR_UP:
+        step.view.y = Wrap(0LL + vdesk.top - by.cy);
+        step.landing.y = by.cy - inset;
+        break;
+    default: break;
+    }
+    return step;
+}
+
+bool IsStillAtEdge(POINT cursor, int dir, int border, int screenW, int screenH) {
     switch (dir) {
     case DIR_UP: return cursor.y <= border;
     case DIR_DOWN: return cursor.y >= screenH - border;
     case DIR_LEFT: return cursor.x <= border;
     case DIR_RIGHT: return cursor.x >= screenW - border;
-    default: return 0;
+    default: return false;
     }
 }
 
-static int ScrollsNow(int delay, int cause) {
+static bool ScrollsNow(int delay, EdgeCause cause) {
     switch (delay) {
-    case ON_LEFT_CLICK: return cause == CAUSE_LEFT_CLICK;
-    case ON_RIGHT_CLICK: return cause == CAUSE_RIGHT_CLICK;
-    case AFTER_A_TIME: return 0;
-    default: return 1;
+    case EDGE_ON_LEFT_CLICK: return cause == CAUSE_LEFT_CLICK;
+    case EDGE_ON_RIGHT_CLICK: return cause == CAUSE_RIGHT_CLICK;
+    case EDGE_AFTER_DELAY: return false;
+    default: return true;
     }
 }
 
-// While Shift steers the jump, the left key alone asks for it.
-static int MayJump() {
-    if (!ActionTable[ROW_SHIFT_SUPPRESS].value)
-        return 1;
+// If Shift controls the cursor's jump, only the left Shift key allows it.
+static bool MayJump() {
+    if (!IsOn(ACTION_SHIFT_SUPPRESS))
+        return true;
     return !IsHeld(VK_RSHIFT) && IsHeld(VK_LSHIFT);
 }
 
-static int ScrollTo(HWND window, POINT view) {
-    return ScrollView(window, view.x, view.y, SV_ABSOLUTE, ROW_FOLLOW_MOUSE);
+static bool ScrollTo(HWND window, POINT view) {
+    return ScrollView(window, view.x, view.y, SV_ABSOLUTE, ACTION_FOLLOW_MOUSE);
 }
 
-static void ScrollAtEdge(HWND window, const EdgeStep& step, int cause) {
-    if (Options.mousescroll_delay == AFTER_A_TIME)
-        StartDelayedScroll(window, &step.view, &step.landing);
-    if (!ScrollsNow(Options.mousescroll_delay, cause))
-        return;
-    if (ScrollTo(window, step.view) && MayJump())
-        SetCursorPos(step.landing.x, step.landing.y);
-    Repaint(window);
-}
-
-int EdgeScroll(HWND window, const POINT* cursor, int cause) {
-    if (!edge_primed) {
-        edge_primed = 1;
-        return 0;
-    }
-    if (edge_busy)
-        return 0;
-    edge_busy = 1;
-    const EdgeStep step = EdgeStepAt(*cursor, Options, VDesk, ScreenW(), ScreenH());
-    edge_dir = step.dir;
-    if (step.dir)
-        ScrollAtEdge(window, step, cause);
-    edge_busy = 0;
-    return step.dir != DIR_NONE;
-}
-
-// The view is the one that was asked for when the wait began; the edge is the one that the mouse was seen at
-// last. A cursor that slides along to another edge meanwhile scrolls the old way.
+// The target is that of the time when the delay started, but the edge is the latest one. If the cursor has
+// moved to another edge, the view still scrolls in the first direction.
 static void CALLBACK DelayedScrollTimer(HWND window, UINT, UINT_PTR, DWORD) {
     POINT cursor{};
     if (GetCursorPos(&cursor) && IsStillAtEdge(cursor, edge_dir, Options.border, ScreenW(), ScreenH()) &&
@@ -138,14 +115,37 @@ static void CALLBACK DelayedScrollTimer(HWND window, UINT, UINT_PTR, DWORD) {
     PendingScroll.timer = 0;
 }
 
-int StartDelayedScroll(HWND window, const POINT* view, const POINT* landing) {
+static void StartDelayedScroll(HWND window, const EdgeStep& step) {
     if (PendingScroll.timer)
-        return 0;
-    PendingScroll.view = *view;
-    PendingScroll.landing = *landing;
-    PendingScroll.timer =
-        SetTimer(window, DELAY_TIMER, static_cast<UINT>(Options.mousescroll_delay_time), DelayedScrollTimer);
+        return;
+    const UINT delay = static_cast<UINT>(Options.mousescroll_delay_time);
+    PendingScroll = {SetTimer(window, DELAY_TIMER, delay, DelayedScrollTimer), step.view, step.landing};
     if (!PendingScroll.timer)
         MessageBeep(0);
-    return PendingScroll.timer != 0;
+}
+
+static void ScrollAtEdge(HWND window, const EdgeStep& step, EdgeCause cause) {
+    if (Options.mousescroll_delay == EDGE_AFTER_DELAY)
+        StartDelayedScroll(window, step);
+    if (!ScrollsNow(Options.mousescroll_delay, cause))
+        return;
+    if (ScrollTo(window, step.view) && MayJump())
+        SetCursorPos(step.landing.x, step.landing.y);
+    Repaint(window);
+}
+
+bool EdgeScroll(HWND window, POINT cursor, EdgeCause cause) {
+    if (!edge_primed) {
+        edge_primed = true;
+        return false;
+    }
+    if (edge_busy)
+        return false;
+    edge_busy = true;
+    const EdgeStep step = EdgeStepAt(cursor, Options, VDesk, ScreenW(), ScreenH());
+    edge_dir = step.dir;
+    if (step.dir)
+        ScrollAtEdge(window, step, cause);
+    edge_busy = false;
+    return step.dir != DIR_NONE;
 }

@@ -1,21 +1,16 @@
-// News of the mouse from wherever it is.
 #include "mouse/hook_mouse.h"
 
 #include "actions/action_table.h"
-#include "core/coordinates.h"
-#include "core/foreground.h"
 #include "core/keys.h"
 #include "core/state.h"
 #include "mouse/edge_scroll.h"
-#include "toolwin/tip.h"
+#include "scroll/desktop_size.h"
+#include "status/status_strip.h"
+#include "windows/other_window.h"
 
 static const int TITLE_LIMIT = 1000;
 
-static int IsOn(ActionId row) {
-    return ActionTable[row].value != 0;
-}
-
-// Along the owners of dialogs and pop-ups too, up to the program's own window.
+// Follows the owners of dialogs and pop-ups, up to the program's main window.
 static HWND Outermost(HWND window) {
     while (const HWND parent = GetParent(window))
         window = parent;
@@ -23,7 +18,7 @@ static HWND Outermost(HWND window) {
 }
 
 // Focus follows the mouse. A window without a title is left alone.
-static void FocusUnder(POINT cursor) {
+static void ActivateWindowUnder(POINT cursor) {
     const HWND under = WindowFromPoint(cursor);
     if (under == GetForegroundWindow())
         return;
@@ -34,29 +29,29 @@ static void FocusUnder(POINT cursor) {
         MessageBeep(0);
         return;
     }
-    Tell("%s", title);
-    GiveForeground(window);
+    ShowTip("%s", title);
+    ActivateWindow(window);
 }
 
-static int OnMove(HWND window, POINT cursor, int cause) {
-    MeasureScreen(); // a change of display is noticed here
-    const int bEdge = IsOn(ROW_FOLLOW_MOUSE);
-    if (bEdge && !(IsOn(ROW_SUPPRESS_WHEN_DRAGGING) && (IsHeld(VK_LBUTTON) || IsHeld(VK_RBUTTON))))
-        EdgeScroll(window, &cursor, cause);
-    if (IsOn(ROW_QUICK_REDRAW) && (IsHeld(VK_LBUTTON) || IsHeld(VK_MBUTTON) || IsHeld(VK_RBUTTON)))
+static int OnMove(HWND window, POINT cursor, EdgeCause cause) {
+    MeasureScreen(); // notices a change of display
+    if (IsOn(ACTION_FOLLOW_MOUSE) &&
+        !(IsOn(ACTION_SUPPRESS_SCROLL) && (IsHeld(VK_LBUTTON) || IsHeld(VK_RBUTTON))))
+        EdgeScroll(window, cursor, cause);
+    if (IsOn(ACTION_QUICK_REDRAW) && IsAnyButtonHeld())
         Repaint(MainWnd);
-    if (IsOn(ROW_XWIN_MOUSE))
-        FocusUnder(cursor);
+    if (IsOn(ACTION_XWIN_MOUSE))
+        ActivateWindowUnder(cursor);
     return 0;
 }
 
-static int OnClick(HWND window, POINT cursor, int cause) {
-    const int result = IsOn(ROW_FOLLOW_MOUSE) && EdgeScroll(window, &cursor, cause);
+static int OnClick(HWND window, POINT cursor, EdgeCause cause) {
+    const int result = IsOn(ACTION_FOLLOW_MOUSE) && EdgeScroll(window, cursor, cause);
     Repaint(MainWnd);
     return result;
 }
 
-static int OnRelease(HWND, POINT, int) {
+static int OnRelease(HWND, POINT, EdgeCause) {
     MeasureScreen();
     Repaint(MainWnd);
     return 0;
@@ -64,32 +59,28 @@ static int OnRelease(HWND, POINT, int) {
 
 namespace {
 
-struct MousePath {
+struct MouseHandler {
     UINT message;
-    int (*does)(HWND window, POINT cursor, int cause);
-    int cause;
+    int (*handler)(HWND window, POINT cursor, EdgeCause cause);
+    EdgeCause cause;
 };
 
 } // namespace
 
 // The most frequent first.
-static const MousePath MousePaths[] = {
-    {WM_MOUSEMOVE,     OnMove,    CAUSE_MOVE       },
-    {WM_NCMOUSEMOVE,   OnMove,    CAUSE_MOVE       },
-    {WM_LBUTTONDOWN,   OnClick,   CAUSE_LEFT_CLICK },
-    {WM_NCLBUTTONDOWN, OnClick,   CAUSE_LEFT_CLICK },
-    {WM_RBUTTONDOWN,   OnClick,   CAUSE_RIGHT_CLICK},
-    {WM_NCRBUTTONDOWN, OnClick,   CAUSE_RIGHT_CLICK},
-    {WM_LBUTTONUP,     OnRelease, 0                },
-    {WM_RBUTTONUP,     OnRelease, 0                },
+static const MouseHandler MouseHandlers[] = {
+    {WM_MOUSEMOVE, OnMove, CAUSE_MOVE},           {WM_NCMOUSEMOVE, OnMove, CAUSE_MOVE},
+    {WM_LBUTTONDOWN, OnClick, CAUSE_LEFT_CLICK},  {WM_NCLBUTTONDOWN, OnClick, CAUSE_LEFT_CLICK},
+    {WM_RBUTTONDOWN, OnClick, CAUSE_RIGHT_CLICK}, {WM_NCRBUTTONDOWN, OnClick, CAUSE_RIGHT_CLICK},
+    {WM_LBUTTONUP, OnRelease, CAUSE_MOVE},        {WM_RBUTTONUP, OnRelease, CAUSE_MOVE},
 };
 
 int OnHookMouse(HWND window, UINT mouseMessage) {
     POINT cursor{};
     if (!GetCursorPos(&cursor))
-        return 0; // another desktop, as while the station is locked
-    for (const MousePath& path : MousePaths)
-        if (path.message == mouseMessage)
-            return path.does(window, cursor, path.cause);
+        return 0; // another desktop, for example while the workstation is locked
+    for (const MouseHandler& row : MouseHandlers)
+        if (row.message == mouseMessage)
+            return row.handler(window, cursor, row.cause);
     return 0;
 }

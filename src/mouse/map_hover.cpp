@@ -1,16 +1,16 @@
-// The mouse moving over the map.
 #include "mouse/map_hover.h"
 
-#include "core/coordinates.h"
+#include "actions/dispatch.h"
 #include "mouse/drag_window.h"
 #include "mouse/map_buttons.h"
 #include "regions/region_table.h"
+#include "status/status_strip.h"
+#include "toolwin/map_coordinates.h"
 #include "toolwin/placement.h"
-#include "toolwin/tip.h"
 
-static int bMoving; // the Toolwin is being dragged; only a move that means something else ends that
+static bool bMoving; // the map is being dragged; the first move with another combination ends that
 
-// Map coordinates of the last move that was not a step of a Toolwin drag: where the Toolwin was grabbed.
+// Map coordinates of the last move that did not drag the map: where it was grabbed.
 static ActionPoint LastMapPoint;
 
 static int ButtonsIn(WPARAM buttons) {
@@ -18,55 +18,54 @@ static int ButtonsIn(WPARAM buttons) {
            (buttons & MK_MBUTTON ? MBUTTON : 0);
 }
 
-// The flags stand in for the button as well. So Shift alone, which is 1, looks like the left button's number.
-static ActionId GestureOf(HWND window, int flags) {
-    return MatchMouseAction(window, ACTION_MOUSE, flags, flags, nullptr, 0);
+// The flags are passed as the button as well, so Shift alone, which is 1, matches the left button's number.
+static int MatchGesture(int flags) {
+    return MatchMouseAction(flags, flags);
 }
 
 static void BeginGesture(HWND window, int flags, int x, int y) {
-    const ActionId gesture = GestureOf(window, flags);
-    if (gesture == ROW_DRAG_TOOLWIN)
-        bMoving = 1;
-    if (gesture == ROW_DRAG_WINDOW)
+    const int gesture = MatchGesture(flags);
+    if (gesture == ACTION_DRAG_TOOLWIN)
+        bMoving = true;
+    if (gesture == ACTION_DRAG_WINDOW)
         DragStep(window, x, y);
 }
 
-// The map moves along, so in its own coordinates the cursor keeps coming back to where it was grabbed, and
-// the way from there is the way to move. 0: the combination has changed, and the drag is over.
-static int DragToolwin(HWND window, int flags, int x, int y) {
-    bMoving = GestureOf(window, flags) == ROW_DRAG_TOOLWIN;
+// The map follows the cursor, so the cursor's distance from where it grabbed the map, in map coordinates, is
+// the distance to move. False if the combination has changed, which ends the drag.
+static bool DragToolwin(int flags, int x, int y) {
+    bMoving = MatchGesture(flags) == ACTION_DRAG_TOOLWIN;
     if (bMoving)
-        MoveToolwin(window, x - LastMapPoint.x, y - LastMapPoint.y, MOVE_BY_DISTANCE);
+        MoveToolwin(x - LastMapPoint.x, y - LastMapPoint.y);
     return bMoving;
 }
 
-static void TellWindow(HWND window, const ActionPoint& desktop) {
-    char title[32] = "";
-    GetWindowTextA(window, title, sizeof title);
-    Tell("%s: [%d, %d]", title, desktop.x, desktop.y);
-}
-
-static void TellWhatLiesAt(int x, int y) {
-    ActionPoint desktop{x, y};
-    MapToDesktop(&desktop);
-    char name[33] = "";
-    int region = 0;
-    if (const HWND under = WindowAtDesktopPoint(desktop.x, desktop.y))
-        TellWindow(under, desktop);
-    else if (FindRegionAt(desktop.x, desktop.y, name, &region, nullptr))
-        Tell("Region %d: %s [%d, %d]", region, name, desktop.x, desktop.y);
+static void DescribePoint(ActionPoint map) {
+    const ActionPoint desktop = MapToDesktop(map);
+    if (const HWND under = WindowAtDesktopPoint(desktop.x, desktop.y)) {
+        char title[32] = "";
+        GetWindowTextA(under, title, sizeof title);
+        ShowTip("%s: [%d, %d]", title, desktop.x, desktop.y);
+        return;
+    }
+    const int region = FindRegionAt(desktop.x, desktop.y);
+    if (region >= 0)
+        ShowTip("Region %d: %.32s [%d, %d]", region, RegionTable[region].name, desktop.x, desktop.y);
     else
-        Tell("Quorl: %d, %d", desktop.x, desktop.y);
+        ShowTip("Quorl: %d, %d", desktop.x, desktop.y);
 }
 
+// The action that opens the menu does not replace the description.
 void OnToolwinMouseMove(HWND window, int x, int y, WPARAM buttons) {
-    const int flags = GetHeldFlags(KEYS_AND_BUTTONS) | ButtonsIn(buttons);
+    const int flags = GetHeldFlags() | ButtonsIn(buttons);
     if (ButtonsIn(buttons))
         BeginGesture(window, flags, x, y);
-    if (bMoving && DragToolwin(window, flags, x, y))
+    if (bMoving && DragToolwin(flags, x, y))
         return;
-    ActionPoint point{x, y};
-    if (!MatchMouseAction(window, ACTION_MOUSE, flags, 0, &point, 1))
-        TellWhatLiesAt(x, y);
+    const int action = MatchMouseAction(flags, 0);
+    if (action != NO_ACTION)
+        DoAction(window, action, {x, y});
+    if (action == NO_ACTION || action == ACTION_SHOW_MENU)
+        DescribePoint({x, y});
     LastMapPoint = {x, y};
 }

@@ -1,19 +1,16 @@
-// The regions: named, coloured places of the view on the desktop.
 #include "regions/region_table.h"
 
 #include "actions/dispatch.h"
 #include "core/state.h"
 
 #include <algorithm>
-#include <cstdio>
 
 RegionRow RegionTable[MAX_REGIONS];
 int num_regions;
 
-static const int NAME_GIVEN = 33; // bytes of a name that FindRegionAt hands out, the zero included
 static const UINT REGION_KEY_MODIFIERS = MOD_ALT | MOD_CONTROL | MOD_SHIFT;
 
-static int Holds(const RegionRow& region, int x, int y) {
+static bool Contains(const RegionRow& region, int x, int y) {
     return region.left <= x && x <= region.right && region.top <= y && y <= region.bottom;
 }
 
@@ -23,70 +20,55 @@ static UINT FirstDigit(int number) {
     return static_cast<UINT>('0' + number);
 }
 
-int FindRegionAt(int x, int y, char* name, int* index, RECT* rect) {
-    int row = num_regions - 1;
-    while (row >= 0 && !Holds(RegionTable[row], x, y))
-        --row;
-    if (row < 0)
-        return 0;
-    const RegionRow& region = RegionTable[row];
-    if (name)
-        std::snprintf(name, NAME_GIVEN, "%.*s", NAME_GIVEN - 1, region.name);
-    if (index)
-        *index = row;
-    if (rect)
-        *rect = {region.left, region.top, region.right, region.bottom};
-    return 1;
+int FindRegionAt(int x, int y) {
+    int index = num_regions - 1;
+    while (index >= 0 && !Contains(RegionTable[index], x, y))
+        --index;
+    return index;
 }
 
 int RegionAtCorner(int left, int top) {
-    int row = 0;
-    while (row < num_regions && (RegionTable[row].left != left || RegionTable[row].top != top))
-        ++row;
-    return row;
+    int index = 0;
+    while (index < num_regions && (RegionTable[index].left != left || RegionTable[index].top != top))
+        ++index;
+    return index;
 }
 
-int RegisterRegionKeys(HWND window) {
-    for (int row = 0; row < MAX_REGIONS; ++row)
-        UnregisterHotKey(window, FIRST_REGION_ID + row);
-    int bAll = 1;
-    for (int row = 0; row < num_regions; ++row) {
-        if (RegisterHotKey(window, FIRST_REGION_ID + row, REGION_KEY_MODIFIERS, FirstDigit(row)))
-            continue;
-        MessageBeep(0);
-        bAll = 0;
-    }
-    return bAll;
+void SetRegion(int index, const RegionRow& region) {
+    RegionTable[index] = region;
+    num_regions = std::max(num_regions, index + 1);
 }
 
-// The rows in use stay contiguous; the last of them takes what lies behind it, where the table goes on.
-static int RemoveAtCorner(int left, int top) {
-    const int row = RegionAtCorner(left, top);
-    if (row >= num_regions)
-        return 0;
+void ResetRegions(int count) {
+    for (RegionRow& region : RegionTable)
+        region.name[0] = 0;
+    num_regions = std::clamp(count, 0, MAX_REGIONS);
+}
+
+void RegisterRegionKeys() {
+    for (int index = 0; index < MAX_REGIONS; ++index)
+        UnregisterHotKey(MainWnd, FIRST_REGION_ID + index);
+    for (int index = 0; index < num_regions; ++index)
+        if (!RegisterHotKey(MainWnd, FIRST_REGION_ID + index, REGION_KEY_MODIFIERS, FirstDigit(index)))
+            MessageBeep(0);
+}
+
+// Also moves the first unused row up, because its hotkey still leads to it.
+bool RemoveRegion() {
+    const int index = RegionAtCorner(VDesk.left, VDesk.top);
+    if (index >= num_regions)
+        return false;
     const int end = std::min(num_regions + 1, MAX_REGIONS);
-    std::copy(RegionTable + row + 1, RegionTable + end, RegionTable + row);
+    std::copy(RegionTable + index + 1, RegionTable + end, RegionTable + index);
     --num_regions;
-    return 1;
+    return true;
 }
 
-int RemoveRegion(HWND window, int index) {
-    int bRemoved = 0;
-    if (index < 0)
-        bRemoved = RemoveAtCorner(VDesk.left, VDesk.top);
-    else if (index < MAX_REGIONS)
-        bRemoved = RemoveAtCorner(RegionTable[index].left, RegionTable[index].top);
-    Repaint(window);
-    return bRemoved;
-}
-
-int ClearRegions(HWND window) {
-    for (int row = 0; row < num_regions; ++row) {
-        RegionRow& region = RegionTable[row];
+void ClearRegions() {
+    for (int index = 0; index < num_regions; ++index) {
+        RegionRow& region = RegionTable[index];
         region.left = region.top = region.right = region.bottom = -1;
         region.name[0] = 0;
     }
     num_regions = 0;
-    Repaint(window);
-    return 1;
 }

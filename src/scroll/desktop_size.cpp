@@ -1,39 +1,73 @@
-// Growing and shrinking the desktop by whole screens.
 #include "scroll/desktop_size.h"
 
+#include "core/displays.h"
+#include "core/rect.h"
 #include "core/state.h"
 #include "scroll/shift.h"
 
 #include <algorithm>
 
-// There is no negative space: a screen added on the left or on top widens the far side, and the windows
-// slide.
-static const SizeChange SizeChanges[] = {
-    {1,  0,  0, 0}, // ADD_RIGHT
-    {1,  0,  1, 0}, // ADD_LEFT
-    {0,  1,  0, 0}, // ADD_BOTTOM
-    {0,  1,  1, 0}, // ADD_TOP
-    {-1, 0,  0, 1}, // REMOVE_RIGHT
-    {-1, 0,  1, 0}, // REMOVE_LEFT
-    {0,  -1, 1, 0}, // REMOVE_TOP
-    {0,  -1, 0, 1}, // REMOVE_BOTTOM
+namespace {
+
+// One action's change of the desktop, in screens.
+struct SizeChange {
+    int width, height; // -1, 0 or 1
+    bool bShifts;      // the windows move by the same distance ...
+    bool bClamps;      // ... or are moved to where they are, which clamps them to the desktop
 };
 
-int ChangedSize(int size, int screens, int screen) {
+} // namespace
+
+// There is no negative space: adding a screen on the left or top extends the far side and shifts the windows.
+static const SizeChange SizeChanges[] = {
+    {1, 0, false, false}, // ADD_RIGHT
+    {1, 0, true, false},  // ADD_LEFT
+    {0, 1, false, false}, // ADD_BOTTOM
+    {0, 1, true, false},  // ADD_TOP
+    {-1, 0, false, true}, // REMOVE_RIGHT
+    {-1, 0, true, false}, // REMOVE_LEFT
+    {0, -1, true, false}, // REMOVE_TOP
+    {0, -1, false, true}, // REMOVE_BOTTOM
+};
+
+static int LimitSize(long long size) {
+    return static_cast<int>(std::min(size, 0LL + LARGEST_DESKTOP));
+}
+
+void ResetDesktop() {
+    MonitorUnion();
+    Quorl = {ScreenRect.left, ScreenRect.top, LimitSize(4LL * ScreenW()), LimitSize(2LL * ScreenH())};
+}
+
+void SetDesktop(const RECT& desktop) {
+    Quorl = desktop;
+}
+
+void SetDesktopSize(int width, int height) {
+    Quorl.right = width;
+    Quorl.bottom = height;
+}
+
+void MeasureScreen() {
+    MonitorUnion();
+    Quorl.right = std::max<LONG>(Quorl.right, ScreenW());
+    Quorl.bottom = std::max<LONG>(Quorl.bottom, ScreenH());
+}
+
+static int ChangedSize(int size, int screens, int screen) {
+    const long long changed = size + 1LL * screens * screen;
     if (screens > 0)
-        return std::min(size + screens * screen, LARGEST_DESKTOP);
-    if (screens < 0)
-        return std::max(size + screens * screen, screen);
-    return size;
+        return LimitSize(changed);
+    return screens < 0 ? static_cast<int>(std::max(changed, 0LL + screen)) : size;
 }
 
 int ChangeDesktopSize(const ActionCall& call) {
-    const SizeChange& change = SizeChanges[call.with];
-    Quorl.right = ChangedSize(Quorl.right, change.wider, ScreenW());
-    Quorl.bottom = ChangedSize(Quorl.bottom, change.higher, ScreenH());
+    const SizeChange& change = SizeChanges[call.argument];
+    SetDesktopSize(ChangedSize(Quorl.right, change.width, ScreenW()),
+                   ChangedSize(Quorl.bottom, change.height, ScreenH()));
     if (change.bShifts)
-        ShiftWindows(change.wider * ScreenW(), change.higher * ScreenH());
-    else if (change.bPings)
+        ShiftWindows(change.width * ScreenW(), change.height * ScreenH());
+    else if (change.bClamps)
         ShiftWindows(0, 0);
     Repaint(MainWnd);
     return 1;

@@ -1,17 +1,21 @@
-// Growing and shrinking the desktop by whole screens.
+// The size of the desktop.
 #pragma once
 
-#include "actions/dispatch.h"
+#include "actions/action_table.h"
 
-// The handler of the eight rows that add and remove screens; `call.with` is a place in SizeChanges.
-int ChangeDesktopSize(const ActionCall& call);
+// Measures the displays and sets the default desktop: four by two screens, each side at most LARGEST_DESKTOP
+// pixels.
+void ResetDesktop();
 
-// One row's change of the desktop, in screens.
-struct SizeChange {
-    int wider, higher; // -1, 0 or 1
-    int bShifts;       // the windows move along by the same distance ...
-    int bPings;        // ... or are asked and put back where they stand
-};
+// Sets the desktop's width and height, in pixels, without checking them.
+void SetDesktopSize(int width, int height);
+
+// Sets the desktop to a rectangle from the settings file, without checking it.
+void SetDesktop(const RECT& desktop);
+
+// Measures the displays again. A desktop smaller than the screen in either direction grows to it, for example
+// after a change to a larger display: windows beyond the desktop are not managed.
+void MeasureScreen();
 
 enum DesktopSide {
     ADD_RIGHT,
@@ -24,5 +28,5 @@ enum DesktopSide {
     REMOVE_BOTTOM
 };
 
-// Pure: a size changed by `screens` screens, at least one screen and at most LARGEST_DESKTOP. Pixels.
-int ChangedSize(int size, int screens, int screen);
+// Handler: adds or removes a screen; the argument is a DesktopSide. Always 1.
+int ChangeDesktopSize(const ActionCall& call);

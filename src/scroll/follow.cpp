@@ -1,97 +1,86 @@
-// Keeping the active window in view.
 #include "scroll/follow.h"
 
 #include "actions/action_table.h"
-#include "core/foreground.h"
 #include "core/keys.h"
+#include "core/rect.h"
 #include "core/state.h"
-#include "scroll/locked_windows.h"
 #include "scroll/scroll_view.h"
-#include "scroll/shift.h"
-#include "scroll/window_table.h"
+#include "windows/locked_windows.h"
+#include "windows/other_window.h"
+#include "windows/window_table.h"
 
-#include <cstring>
-
-static const int MINIMIZED = -32000; // where the platform keeps minimized windows
-static const int SLACK = 4;          // pixels: a maximized window's frame stands this far outside the screen
+static const int MINIMIZED = -32000; // left edge that Windows gives minimized windows
+static const int SLACK = 4; // pixels: the frame of a maximized window lies this far outside the screen
 
 namespace {
 
-// A window that stayed where it was when the view went to it, as a locked one does, and what held then.
+// A window that did not move when the view scrolled to it, as a locked one does, and the circumstances.
 struct UnmovedRecord {
     HWND window;
-    RECT place, quorl;
-    int bLocked;
+    RECT rect, quorl;
+    bool bLocked;
 };
 
 } // namespace
 
 static UnmovedRecord Unmoved;
 
-POINT MiddleOf(const RECT& place) {
-    return {(place.right - place.left) / 2 + place.left, (place.bottom - place.top) / 2 + place.top};
-}
-
-FollowNeed NeedToFollow(const RECT& place, int screenW, int screenH, const RECT& quorl) {
-    if (place.left <= MINIMIZED)
-        return FOLLOW_NOT;
-    const POINT middle = MiddleOf(place);
-    if (place.left >= -SLACK && place.top >= -SLACK && middle.x <= screenW + SLACK &&
+FollowNeed NeedToFollow(const RECT& rect, int screenW, int screenH, const RECT& quorl) {
+    if (rect.left <= MINIMIZED)
+        return FOLLOW_NOTHING;
+    const POINT middle = MiddleOf(rect);
+    if (rect.left >= -SLACK && rect.top >= -SLACK && middle.x <= screenW + SLACK &&
         middle.y <= screenH + SLACK)
         return FOLLOW_IN_VIEW;
     return middle.x > quorl.right || middle.y > quorl.bottom ? FOLLOW_IN_VIEW : FOLLOW_SCROLL;
 }
 
-// The user is dragging something and wants no scrolling under it.
-static int IsHeldBack() {
-    return ActionTable[ROW_SUPPRESS_FOLLOW].value &&
-           (IsHeld(VK_LBUTTON) || IsHeld(VK_MBUTTON) || IsHeld(VK_RBUTTON));
+// The user drags something and does not want the view to move.
+static bool IsSuppressed() {
+    return IsOn(ACTION_SUPPRESS_FOLLOW) && IsAnyButtonHeld();
 }
 
-static int IsSameRect(const RECT& a, const RECT& b) {
-    return !std::memcmp(&a, &b, sizeof a);
-}
-
-// The view cannot reach it; going there again would draw the view on, tick by tick, to the desktop's corner.
-static int IsKnownUnmoved(HWND active, const RECT& place) {
-    return active == Unmoved.window && IsSameRect(place, Unmoved.place) && IsSameRect(Quorl, Unmoved.quorl) &&
+// Scrolling to it again and again would move the view to the corner of the desktop.
+static bool IsKnownUnmoved(HWND active, const RECT& rect) {
+    return active == Unmoved.window && IsSameRect(rect, Unmoved.rect) && IsSameRect(Quorl, Unmoved.quorl) &&
            IsLockedWindow(active) == Unmoved.bLocked;
 }
 
-// One that does not answer is gone to when it does: the view would leave and it could not come along.
-static void GoTo(HWND active, const RECT& place) {
-    if (IsKnownUnmoved(active, place) || !IsAlive(active))
+// Wait until a hung window responds: it cannot move with the others, so the view would scroll past it.
+static void ScrollToActive(HWND active, const RECT& rect) {
+    if (IsKnownUnmoved(active, rect) || !IsAlive(active))
         return;
     RECT now{};
     CenterOnActiveWindow(active);
-    const int bStayed = GetWindowRect(active, &now) && IsSameRect(now, place);
-    Unmoved = {bStayed ? active : nullptr, place, Quorl, IsLockedWindow(active)};
+    const bool bStayed = GetOtherWindowRect(active, &now) && IsSameRect(now, rect);
+    Unmoved = {bStayed ? active : nullptr, rect, Quorl, IsLockedWindow(active)};
 }
 
-int FollowActiveWindow() {
-    if (!ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value)
-        return 0;
+bool FollowActiveWindow() {
+    if (!IsOn(ACTION_FOLLOW_ACTIVE))
+        return false;
     const HWND active = GetForegroundWindow();
-    RECT place{};
+    RECT rect{};
     if (active != Unmoved.window)
         Unmoved.window = nullptr;
-    if (!IsManagedWindow(active, &place))
-        return 0;
-    const FollowNeed need = NeedToFollow(place, ScreenW(), ScreenH(), Quorl);
-    if (need == FOLLOW_SCROLL && !IsHeldBack())
-        GoTo(active, place);
-    return need != FOLLOW_NOT;
+    if (!IsManagedWindow(active, &rect))
+        return false;
+    const FollowNeed need = NeedToFollow(rect, ScreenW(), ScreenH(), Quorl);
+    if (need == FOLLOW_SCROLL && !IsSuppressed())
+        ScrollToActive(active, rect);
+    return need != FOLLOW_NOTHING;
 }
 
-int CenterOnWindow(HWND window, HWND target) {
-    RECT place{};
-    if (!IsManagedWindow(target, &place))
-        return 0;
-    const POINT middle = MiddleOf(place);
-    ScrollView(window, middle.x + VDesk.left, middle.y + VDesk.top, SV_CENTER, ROW_CENTER_ON_ACTIVE);
-    return GiveForeground(target);
+bool CenterOnWindow(HWND window, HWND target) {
+    RECT rect{};
+    if (!IsManagedWindow(target, &rect))
+        return false;
+    const POINT middle = MiddleOf(rect);
+    ScrollView(window, Wrap(0LL + middle.x + VDesk.left), Wrap(0LL + middle.y + VDesk.top), SV_CENTER,
+               ACTION_VIEW_TO_ACTIVE);
+    return ActivateWindow(target);
 }
 
-int CenterOnActiveWindow(HWND window) {
+bool CenterOnActiveWindow(HWND window) {
     return CenterOnWindow(window, GetForegroundWindow());
 }

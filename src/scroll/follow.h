@@ -1,27 +1,24 @@
-// Keeping the active window in view.
+// Following: keeping the active window in view.
 #pragma once
 
 #include "core/platform.h"
 
-// Brings `target` to the middle of the view and gives it the foreground; `window` is what the scroll
-// repaints. 0 if it is not managed or gone, else the result of SetForegroundWindow.
-int CenterOnWindow(HWND window, HWND target);
+// Brings `target` to the middle of the view and gives it the foreground; `window` is repainted. False if the
+// target is not managed or does not get the foreground.
+bool CenterOnWindow(HWND window, HWND target);
 
-// The same for the window that has the foreground.
-int CenterOnActiveWindow(HWND window);
+// The same for the active window.
+bool CenterOnActiveWindow(HWND window);
 
-// One tick of following, when the user has switched it on. 1 if there is an active window to follow, whether
-// or not the view moved: the map is then to be refreshed.
-int FollowActiveWindow();
+// One tick of following, if the user has switched it on. True if there is an active window to follow, whether
+// or not the view moved: then the map must be refreshed.
+bool FollowActiveWindow();
 
 enum FollowNeed {
-    FOLLOW_NOT,     // minimized, so there is nothing to follow
-    FOLLOW_IN_VIEW, // near enough, or out of the desktop's reach
+    FOLLOW_NOTHING, // minimized
+    FOLLOW_IN_VIEW, // in view, or out of reach of the view
     FOLLOW_SCROLL,  // out of view
 };
 
-// Pure: what a window at that place (screen pixels) asks for.
-FollowNeed NeedToFollow(const RECT& place, int screenW, int screenH, const RECT& quorl);
-
-// Pure: the middle of a rectangle, its size halved first and truncated.
-POINT MiddleOf(const RECT& place);
+// Pure: whether to scroll to a window with this rectangle. Screen pixels; `quorl` in desktop pixels.
+FollowNeed NeedToFollow(const RECT& rect, int screenW, int screenH, const RECT& quorl);

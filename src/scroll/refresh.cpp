@@ -1,53 +1,25 @@
-// Polling: windows move, appear and vanish without notice.
 #include "scroll/refresh.h"
 
 #include "core/state.h"
 #include "scroll/follow.h"
-#include "scroll/window_table.h"
-#include "toolwin/map_scale.h"
+#include "windows/window_table.h"
 
-static const int QUIET_TICKS = 10; // a new window changes no row, so the table is rebuilt now and then anyway
+// A new window changes no row, so rebuild the table this often in any case.
+static const int REBUILD_INTERVAL = 12; // ticks
 
 static int RefreshTick;
 
-static void RepaintActiveBox() {
-    RECT map{};
-    GetClientRect(MainWnd, &map);
-    RECT window{};
-    GetWindowRect(GetForegroundWindow(), &window);
-    const RECT box = WindowBox(window, map, VDesk, Quorl);
-    InvalidateRect(MainWnd, &box, TRUE);
-    UpdateWindow(MainWnd);
-}
-
-static int HasMoved(const WindowRow& row) {
-    RECT now{};
-    return !GetWindowRect(row.hwnd, &now) || now.left != row.left || now.top != row.top ||
-           now.right != row.right || now.bottom != row.bottom;
-}
-
-static int AnyHasMoved() {
-    for (int row = 0; row < num_windows; ++row)
-        if (HasMoved(WindowTable[row]))
-            return 1;
-    return 0;
-}
-
-// Counts the tick. Non-zero when the table must be rebuilt whatever it says.
-static int IsRefreshDue() {
-    if (RefreshTick++ <= QUIET_TICKS)
-        return 0;
+// Counts the tick. True if the table must be rebuilt whether or not a window has moved.
+static bool IsRefreshDue() {
+    if (++RefreshTick < REBUILD_INTERVAL)
+        return false;
     RefreshTick = 0;
-    return 1;
+    return true;
 }
 
-void CALLBACK RefreshTimer(HWND window, UINT, UINT_PTR id, DWORD) {
-    if (id == FLASH_TIMER) {
-        RepaintActiveBox();
-        return;
-    }
-    const int bFollowed = FollowActiveWindow();
-    if (!IsRefreshDue() && !AnyHasMoved() && !bFollowed)
+void CALLBACK RefreshTimer(HWND window, UINT, UINT_PTR, DWORD) {
+    const bool bFollowed = FollowActiveWindow();
+    if (!IsRefreshDue() && !HasAnyWindowMoved() && !bFollowed)
         return;
     RebuildWindowTable();
     Repaint(window);

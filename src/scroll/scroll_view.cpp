@@ -1,71 +1,73 @@
-// The one road by which the view moves.
 #include "scroll/scroll_view.h"
 
 #include "actions/action_table.h"
+#include "core/rect.h"
 #include "core/state.h"
 #include "scroll/shift.h"
-#include "toolwin/tip.h"
+#include "status/status_strip.h"
 
-#include <cstdio>
+static int ScrollCount; // calls of ScrollView
 
-static int ScrollCount; // calls of ScrollView in this run
-
-POINT AskedDistance(const RECT& vdesk, int x, int y, int mode) {
-    if (mode & SV_ABSOLUTE)
-        return {x - vdesk.left, y - vdesk.top};
-    if (mode & SV_CENTER)
-        return {x - (vdesk.right - vdesk.left) / 2 - vdesk.left,
-                y - (vdesk.bottom - vdesk.top) / 2 - vdesk.top};
+// Pure: the distance from the current view to (x, y) in that mode, in pixels.
+static POINT ScrollDistance(const RECT& vdesk, int x, int y, ScrollMode mode) {
+    switch (mode) {
+    case SV_ABSOLUTE: return {Wrap(0LL + x - vdesk.left), Wrap(0LL + y - vdesk.top)};
+    case SV_CENTER:
+        return {Wrap(0LL + x - Width(vdesk) / 2 - vdesk.left), Wrap(0LL + y - Height(vdesk) / 2 - vdesk.top)};
+    case SV_RELATIVE: break;
+    }
     return {x, y};
 }
 
-// One axis: `least` and `most` are the view's two sides on it, and `way` is how far it goes.
-static void HoldInside(LONG* least, LONG* most, int* way, LONG desktop, int screen) {
-    if (*least < 0) {
-        *way -= *least;
-        *least = 0;
-        *most = screen;
+// One axis: the view's near and far edge on it, and the distance.
+static void ClampAxis(LONG* nearEdge, LONG* farEdge, int* distance, int desktop, int screen) {
+    if (*nearEdge < 0) {
+        *distance = Wrap(0LL + *distance - *nearEdge);
+        *nearEdge = 0;
+        *farEdge = screen;
     }
-    if (*most > desktop) {
-        *way += desktop - *most;
-        *most = desktop;
-        *least = desktop - screen;
+    if (*farEdge > desktop) {
+        *distance = Wrap(0LL + *distance + desktop - *farEdge);
+        *farEdge = desktop;
+        *nearEdge = Wrap(0LL + desktop - screen);
     }
 }
 
-ViewStep ClampedStep(const RECT& vdesk, POINT distance, const RECT& quorl, int screenW, int screenH) {
-    ViewStep step{
-        {vdesk.left + distance.x, vdesk.top + distance.y, vdesk.right + distance.x,
-         vdesk.bottom + distance.y},
-        static_cast<int>(distance.x),
-        static_cast<int>(distance.y)
-    };
-    HoldInside(&step.view.left, &step.view.right, &step.dx, quorl.right, screenW);
-    HoldInside(&step.view.top, &step.view.bottom, &step.dy, quorl.bottom, screenH);
+ViewStep ClampStep(const RECT& vdesk, POINT distance, const RECT& quorl, int screenW, int screenH) {
+    const int dx = distance.x;
+    const int dy = distance.y;
+    ViewStep step{Offset(vdesk, dx, dy), dx, dy};
+    ClampAxis(&step.view.left, &step.view.right, &step.dx, quorl.right, screenW);
+    ClampAxis(&step.view.top, &step.view.bottom, &step.dy, quorl.bottom, screenH);
     return step;
 }
 
-// Every second call, so that the user can tell a scroll that went nowhere from none.
-static void TellCount(int id) {
+void ResetView() {
+    VDesk = ScreenRect;
+}
+
+// Shown for every second call. The view's coordinates replace it, so it is seen only if windows respond
+// slowly.
+static void ShowCount(int id) {
     if (ScrollCount % 2 == 0)
-        Tell("CTR: %d  ID: %d", ScrollCount, id);
+        ShowTip("CTR: %d  ID: %d", ScrollCount, id);
     ++ScrollCount;
 }
 
-static void TellView() {
-    Tell("VDesk: %d,%d - %d,%d", static_cast<int>(VDesk.left), static_cast<int>(VDesk.top),
-         static_cast<int>(VDesk.right), static_cast<int>(VDesk.bottom));
+static void ShowView() {
+    ShowTip("VDesk: %d,%d - %d,%d", static_cast<int>(VDesk.left), static_cast<int>(VDesk.top),
+            static_cast<int>(VDesk.right), static_cast<int>(VDesk.bottom));
 }
 
-int ScrollView(HWND window, int x, int y, int mode, int id) {
-    TellCount(id);
+bool ScrollView(HWND window, int x, int y, ScrollMode mode, int id) {
+    ShowCount(id);
     const RECT before = VDesk;
-    if (ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value)
+    if (IsOn(ACTION_FOLLOW_ACTIVE))
         SetForegroundWindow(MainWnd);
-    const ViewStep step = ClampedStep(before, AskedDistance(before, x, y, mode), Quorl, ScreenW(), ScreenH());
+    const ViewStep step = ClampStep(before, ScrollDistance(before, x, y, mode), Quorl, ScreenW(), ScreenH());
     VDesk = step.view;
-    ShiftWindows(-step.dx, -step.dy);
-    TellView();
+    ShiftWindows(Wrap(0LL - step.dx), Wrap(0LL - step.dy));
+    ShowView();
     Repaint(window);
     return before.left != VDesk.left || before.top != VDesk.top;
 }

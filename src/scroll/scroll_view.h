@@ -1,28 +1,29 @@
-// The one road by which the view moves.
+// Scrolling: ScrollView is the only function that moves the view after start-up.
 #pragma once
 
 #include "core/platform.h"
 
-// What x and y mean; exactly one.
+// What x and y of ScrollView are, in pixels.
 enum ScrollMode {
-    SV_ABSOLUTE = 1, // the new top left corner, in desktop pixels
-    SV_RELATIVE = 2, // the distance, in pixels
-    SV_CENTER = 4,   // the desktop point that shall come to the middle
+    SV_ABSOLUTE = 1, // the view's new top left corner on the desktop
+    SV_RELATIVE = 2, // the distance to move the view
+    SV_CENTER = 4,   // the desktop point that becomes the middle of the view
 };
 
-// Moves VDesk, held inside Quorl, and all windows the opposite way; then repaints `window` and tells the tip.
-// `id` is the caller's number, for the tip alone. 1 if the view's corner changed.
-int ScrollView(HWND window, int x, int y, int mode, int id);
+// Moves VDesk, clamped to Quorl, and all windows by the opposite distance; then shows the result in the
+// status strip and repaints `window`. `id` is the caller's action, for the status strip only. True if the
+// view's corner changed.
+bool ScrollView(HWND window, int x, int y, ScrollMode mode, int id);
 
-// Pure: the distance that (x, y) in that mode asks for, from where the view stands.
-POINT AskedDistance(const RECT& vdesk, int x, int y, int mode);
+// Sets the view to the whole screen, at start. Moves no window.
+void ResetView();
 
-// Where the view comes to lie, and how far the windows must give way. The two differ from each other where
-// the view is not exactly a screen in size, as after a change of display.
+// The view after a scroll, and the distance by which it scrolled. If the old view did not have the size of
+// the screen, as after a display change, the corners need not differ by that distance.
 struct ViewStep {
     RECT view;  // desktop pixels
-    int dx, dy; // the view's way
+    int dx, dy; // pixels
 };
 
-// Pure: the step held inside the desktop, whose near edges lie at 0.
-ViewStep ClampedStep(const RECT& vdesk, POINT distance, const RECT& quorl, int screenW, int screenH);
+// Pure: the step clamped to the desktop, whose near edges are at 0.
+ViewStep ClampStep(const RECT& vdesk, POINT distance, const RECT& quorl, int screenW, int screenH);

@@ -1,24 +1,15 @@
-// Bindings and values of all rows, as they lie in the settings file.
+// Bindings and values of all actions in the settings file.
 #pragma once
 
 #include "actions/action_table.h"
-#include "core/platform.h"
 
-// Takes every row that has a line in the file from it and registers its hotkey, which the user is told about
-// if it is refused; such a row keeps the values of the file. Rows without a line stay as they are. Fields
-// that a line lacks leave the row unbound, or its value as it was. Always 1.
-int LoadActions(HWND window, LPCSTR file);
+// Reads the action's line into the table, after releasing its bindings; registers nothing. Missing fields
+// leave the action unbound or its value unchanged. False, and nothing changes, without a line.
+bool ReadAction(LPCSTR file, int id);
 
-// Writes a line for each of the 123 rows. Always 1.
-int SaveActions(HWND window, LPCSTR file);
+// Reads all lines; `bStored` is set for each action that has one. Registers nothing: two actions may have
+// swapped their hotkeys, and a box about a refused one lets the user quit, which saves the whole table.
+void ReadActions(LPCSTR file, bool (&bStored)[NUM_ACTIONS]);
 
-// What the file says of row 71: whether the settings are to be loaded. Without a line, what the row holds.
-int WillLoadSettings(LPCSTR file);
-
-// 1 if the row has a line of its own.
-int HasActionLine(LPCSTR file, ActionId row);
-
-// Takes row 71 alone from the file, before anything else is read. Its hotkey is registered only if the
-// settings are not to be loaded, since LoadActions would do it again at once and report a refusal twice. The
-// row's value.
-int LoadLoadSetting(HWND window, LPCSTR file);
+// Writes a line for each action.
+void SaveActions(LPCSTR file);

@@ -1,4 +1,4 @@
-// The settings file as key and value.
+// The settings file as keys and values.
 #include "settings/ini.h"
 
 #include <algorithm>
@@ -7,32 +7,33 @@
 #include <cstdlib>
 #include <cstring>
 
-static const int KEY_ROOM = 32;
-static const char FIELD_MARKS[] = {FIELD_MARK, 0};
+static const int KEY_SIZE = 32;
+static const char DELIMITERS[] = {DELIMITER, 0};
 
-int bWriteFailed;
+bool bWriteFailed;
 
 const char* FirstField(const char* line) {
-    return line + std::strspn(line, FIELD_MARKS);
+    return line + std::strspn(line, DELIMITERS);
 }
 
 std::size_t FieldLength(const char* field) {
-    return std::strcspn(field, FIELD_MARKS);
+    return std::strcspn(field, DELIMITERS);
 }
 
-const char* NextField(const char* field) {
+// Pure: the field after this one; an empty text at the end.
+static const char* NextField(const char* field) {
     return FirstField(field + FieldLength(field));
 }
 
-int NumberIn(const char* text) {
+static int ParseNumber(const char* text) {
     const long long number = std::strtoll(text, nullptr, 10);
     return static_cast<int>(std::clamp<long long>(number, INT_MIN, INT_MAX));
 }
 
-int NumbersIn(const char* line, int* numbers, int most) {
+int ParseNumbers(const char* line, int* numbers, int max) {
     int count = 0;
-    for (const char* field = FirstField(line); *field && count < most; field = NextField(field))
-        numbers[count++] = NumberIn(field);
+    for (const char* field = FirstField(line); *field && count < max; field = NextField(field))
+        numbers[count++] = ParseNumber(field);
     return count;
 }
 
@@ -51,24 +52,24 @@ void WriteIniInt(LPCSTR file, LPCSTR key, int number) {
     WriteIniText(file, key, text);
 }
 
-int ReadIniText(LPCSTR file, LPCSTR key, char* text, int room) {
+int ReadIniText(LPCSTR file, LPCSTR key, char* text, int size) {
     return static_cast<int>(
-        GetPrivateProfileStringA(SETTINGS_SECTION, key, "", text, static_cast<DWORD>(room), file));
+        GetPrivateProfileStringA(SETTINGS_SECTION, key, "", text, static_cast<DWORD>(size), file));
 }
 
 void WriteIniText(LPCSTR file, LPCSTR key, LPCSTR text) {
     if (!WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file))
-        bWriteFailed = 1;
+        bWriteFailed = true;
 }
 
-int ReadIniLine(LPCSTR file, LPCSTR format, int row, char (&line)[LINE_ROOM]) {
-    char key[KEY_ROOM];
-    std::snprintf(key, sizeof key, format, row);
-    return ReadIniText(file, key, line, LINE_ROOM);
+int ReadIniLine(LPCSTR file, LPCSTR format, int index, char (&line)[LINE_SIZE]) {
+    char key[KEY_SIZE];
+    std::snprintf(key, sizeof key, format, index);
+    return ReadIniText(file, key, line, LINE_SIZE);
 }
 
-void WriteIniLine(LPCSTR file, LPCSTR format, int row, LPCSTR line) {
-    char key[KEY_ROOM];
-    std::snprintf(key, sizeof key, format, row);
+void WriteIniLine(LPCSTR file, LPCSTR format, int index, LPCSTR line) {
+    char key[KEY_SIZE];
+    std::snprintf(key, sizeof key, format, index);
     WriteIniText(file, key, line);
 }

@@ -1,47 +1,43 @@
-// The settings file as key and value: one section of one private profile file.
+// The settings file as keys and values: one section of a private profile file.
 #pragma once
 
 #include "core/platform.h"
 
 #include <cstddef>
 
-// A bare name: Windows decides where it lies, in the user's own copy of the Windows directory.
+// A bare name, which the profile functions look for in the Windows folder. Without administrator rights,
+// Windows redirects what a 32-bit program writes there to a copy of the user's own.
 constexpr char SETTINGS_FILE[] = "quorl.ini";
 constexpr char SETTINGS_SECTION[] = "Quorl";
 
-constexpr char FIELD_MARK = '|';
+constexpr char DELIMITER = '|';
 
-// Room for the line of an action or a region, the zero included: more of a value is never seen. What is
-// longer is cut.
-constexpr int LINE_ROOM = 64;
+// Bytes of the line of an action or a region, the terminator included. A longer value is cut.
+constexpr int LINE_SIZE = 64;
 
-// Stores the number in `target`, which may be null, and returns it. A key that is absent or negative gives a
-// negative result and leaves `target` alone. A value that is no number counts as 0.
+extern bool bWriteFailed; // set by a failed write, which leaves the stored value unchanged
+
+// Stores the number in `target`, if that is not null, and returns it. Returns -1 and leaves `target`
+// unchanged if the key is absent or negative. A value that is not a number counts as 0.
 int ReadIniInt(LPCSTR file, LPCSTR key, int* target);
-
-extern int bWriteFailed; // set to 1 by a write that fails, which leaves what was stored
 
 void WriteIniInt(LPCSTR file, LPCSTR key, int number);
 
-// Reads a value into `text`, at most `room` bytes with the zero. The characters stored; 0 when it is absent
-// or empty.
-int ReadIniText(LPCSTR file, LPCSTR key, char* text, int room);
+// Reads a value into `text`, at most `size` bytes with the terminator. The number of characters; 0 if the key
+// is absent or the value is empty.
+int ReadIniText(LPCSTR file, LPCSTR key, char* text, int size);
 
 void WriteIniText(LPCSTR file, LPCSTR key, LPCSTR text);
 
-// The same for keys that end in a row number; `format` holds its one %d.
-int ReadIniLine(LPCSTR file, LPCSTR format, int row, char (&line)[LINE_ROOM]);
-void WriteIniLine(LPCSTR file, LPCSTR format, int row, LPCSTR line);
+// The same for keys that end in an index; `format` contains one %d.
+int ReadIniLine(LPCSTR file, LPCSTR format, int index, char (&line)[LINE_SIZE]);
+void WriteIniLine(LPCSTR file, LPCSTR format, int index, LPCSTR line);
 
-// Pure: the first field of a line, or the one behind `field`; an empty text at the end. Marks in a row count
-// as one and those at the start for nothing, so no field is empty.
+// Pure: the first field of a line; an empty text if there is none. Consecutive delimiters count as one and
+// leading ones are skipped, so no field is empty.
 const char* FirstField(const char* line);
-const char* NextField(const char* field);
 std::size_t FieldLength(const char* field);
 
-// Pure: the number at the start of a text, behind white space and a sign; 0 if there is none. A number past
-// 32 bits becomes the nearest that fits.
-int NumberIn(const char* text);
-
-// Pure: reads the fields from `line` on as numbers, at most `most`. How many there were.
-int NumbersIn(const char* line, int* numbers, int most);
+// Pure: converts the fields of a line, at most `max`, to numbers, clamped to 32 bits; a field that is not a
+// number is 0. The number of fields.
+int ParseNumbers(const char* line, int* numbers, int max);

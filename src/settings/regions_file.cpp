@@ -1,4 +1,3 @@
-// The regions, as they lie in the settings file.
 #include "settings/regions_file.h"
 
 #include "core/state.h"
@@ -10,107 +9,103 @@
 static const char COUNT_KEY[] = "num_regions";
 static const char LINE_KEY[] = "Region%d";
 
-static const int NUMBERS = 5;   // in a line, behind the name
-static const char FOR_MARK = 1; // in the file, a mark that belongs to a name; nobody can type it
+static const int NUMBERS = 5;           // in a line, after the name
+static const char STORED_DELIMITER = 1; // in the file, a delimiter in a name; it cannot be typed
 
 static void Replace(char* text, char from, char to) {
     std::replace(text, text + std::strlen(text), from, to);
 }
 
-static int NumbersOf(const RegionRow& row, char* text, std::size_t room) {
-    return std::snprintf(text, room, "|%d|%d|%d|%d|%d", row.left, row.top, row.right, row.bottom,
+static int FormatNumbers(const RegionRow& row, char* text, std::size_t size) {
+    return std::snprintf(text, size, "|%d|%d|%d|%d|%d", row.left, row.top, row.right, row.bottom,
                          static_cast<int>(row.color));
 }
 
-// The profile functions take blanks from the start of a value.
-static int NeedsQuotes(const char* name) {
+// The profile functions strip leading spaces from a value.
+static bool NeedsQuotes(const char* name) {
     return *name == ' ';
 }
 
-// In quotes one character less is sure to be seen.
-static int NameRoom(const RegionRow& row) {
-    const int room = LINE_ROOM - NumbersOf(row, nullptr, 0) - NeedsQuotes(row.name);
-    return std::min(REGION_NAME_ROOM, room); // 3 at least: the numbers take 60 at most
+// Bytes for the name, the terminator included. Quotes cost one character of the line.
+static int NameSize(const RegionRow& row) {
+    const int size = LINE_SIZE - FormatNumbers(row, nullptr, 0) - NeedsQuotes(row.name);
+    return std::min(REGION_NAME_SIZE, size); // at least 3: the numbers take at most 60
 }
 
 void MakeStorable(RegionRow* row) {
-    row->name[REGION_NAME_ROOM - 1] = 0;
+    row->name[REGION_NAME_SIZE - 1] = 0;
     for (char* letter = row->name; *letter; ++letter)
         if (*letter > 0 && *letter < ' ')
             *letter = ' ';
-    row->name[NameRoom(*row) - 1] = 0;
+    row->name[NameSize(*row) - 1] = 0;
 }
 
-void WrittenRegion(const RegionRow& row, char (&line)[WRITTEN_ROOM]) {
-    char name[REGION_NAME_ROOM];
-    char numbers[LINE_ROOM];
+void FormatRegion(const RegionRow& row, char (&line)[WRITTEN_SIZE]) {
+    char name[REGION_NAME_SIZE];
+    char numbers[LINE_SIZE];
     std::memcpy(name, row.name, sizeof name);
-    Replace(name, FIELD_MARK, FOR_MARK);
-    NumbersOf(row, numbers, sizeof numbers);
+    Replace(name, DELIMITER, STORED_DELIMITER);
+    FormatNumbers(row, numbers, sizeof numbers);
     std::snprintf(line, sizeof line, NeedsQuotes(name) ? "\"%s%s\"" : "%s%s", name, numbers);
 }
 
-// A region without a name leaves its place empty: a mark in front, and only the numbers.
-static int IsNameless(const char* line) {
+// The line of a region without a name starts with a delimiter and has only the numbers.
+static bool IsNameless(const char* line) {
     int numbers[NUMBERS + 1];
-    return *line == FIELD_MARK && NumbersIn(line, numbers, NUMBERS + 1) == NUMBERS;
+    return *line == DELIMITER && ParseNumbers(line, numbers, NUMBERS + 1) == NUMBERS;
 }
 
-static int WithinDesktop(int coordinate) {
+static int ClampEdge(int coordinate) {
     return std::clamp(coordinate, -LARGEST_DESKTOP, LARGEST_DESKTOP);
 }
 
 static void ReadName(const char* field, RegionRow* row) {
-    const std::size_t length = std::min<std::size_t>(FieldLength(field), REGION_NAME_ROOM - 1);
+    const std::size_t length = std::min<std::size_t>(FieldLength(field), REGION_NAME_SIZE - 1);
     std::memcpy(row->name, field, length);
     row->name[length] = 0;
-    Replace(row->name, FOR_MARK, FIELD_MARK);
+    Replace(row->name, STORED_DELIMITER, DELIMITER);
 }
 
-void ReadRegion(const char* line, RegionRow* row) {
+void ParseRegion(const char* line, RegionRow* row) {
     const char* name = IsNameless(line) ? line : FirstField(line);
     int numbers[NUMBERS] = {};
-    NumbersIn(name + FieldLength(name), numbers, NUMBERS);
+    ParseNumbers(name + FieldLength(name), numbers, NUMBERS);
     ReadName(name, row);
-    row->left = WithinDesktop(numbers[0]);
-    row->top = WithinDesktop(numbers[1]);
-    row->right = WithinDesktop(numbers[2]);
-    row->bottom = WithinDesktop(numbers[3]);
+    row->left = ClampEdge(numbers[0]);
+    row->top = ClampEdge(numbers[1]);
+    row->right = ClampEdge(numbers[2]);
+    row->bottom = ClampEdge(numbers[3]);
     row->color = static_cast<COLORREF>(numbers[4]);
 }
 
 static void LoadRegion(LPCSTR file, int index) {
-    char line[LINE_ROOM];
+    char line[LINE_SIZE];
     if (!ReadIniLine(file, LINE_KEY, index, line))
         return;
-    RegionTable[index].id = index;
-    ReadRegion(line, &RegionTable[index]);
+    RegionRow region{};
+    ParseRegion(line, &region);
+    SetRegion(index, region);
+}
+
+void LoadRegions(LPCSTR file) {
+    ResetRegions(ReadIniInt(file, COUNT_KEY, nullptr));
+    for (int index = 0; index < num_regions; ++index)
+        LoadRegion(file, index);
+    RegisterRegionKeys();
+    InvalidateRect(MainWnd, nullptr, TRUE);
 }
 
 static void SaveRegion(LPCSTR file, int index) {
-    char line[WRITTEN_ROOM];
-    MakeStorable(&RegionTable[index]);
-    WrittenRegion(RegionTable[index], line);
+    RegionRow region = RegionTable[index];
+    MakeStorable(&region);
+    SetRegion(index, region);
+    char line[WRITTEN_SIZE];
+    FormatRegion(region, line);
     WriteIniLine(file, LINE_KEY, index, line);
 }
 
-int LoadRegions(HWND window, LPCSTR file) {
-    for (RegionRow& row : RegionTable) {
-        row.id = -1;
-        row.name[0] = 0;
-    }
-    num_regions = std::clamp(ReadIniInt(file, COUNT_KEY, nullptr), 0, MAX_REGIONS);
-    for (int index = 0; index < num_regions; ++index)
-        LoadRegion(file, index);
-    RegisterRegionKeys(MainWnd);
-    InvalidateRect(window, nullptr, TRUE);
-    return 1;
-}
-
-int SaveRegions(HWND, LPCSTR file) {
-    num_regions = std::max(num_regions, 0);
+void SaveRegions(LPCSTR file) {
     WriteIniInt(file, COUNT_KEY, num_regions);
     for (int index = 0; index < num_regions; ++index)
         SaveRegion(file, index);
-    return 1;
 }

@@ -1,34 +1,52 @@
-// Saving and loading all that is kept between runs.
 #include "settings/settings.h"
 
+#include "actions/hotkeys.h"
+#include "regions/region_table.h"
 #include "settings/actions_file.h"
+#include "settings/atomic_save.h"
 #include "settings/ini.h"
 #include "settings/options_file.h"
 #include "settings/regions_file.h"
-#include "settings/whole_file.h"
 
-void LoadSettings(HWND window) {
-    LoadOptions(window, SETTINGS_FILE);
-    LoadRegions(window, SETTINGS_FILE);
-    LoadActions(window, SETTINGS_FILE);
+static void ReadSettings(bool (&bStored)[NUM_ACTIONS]) {
+    ResetRegions(0); // moving the map paints it
+    LoadOptions(SETTINGS_FILE);
+    LoadRegions(SETTINGS_FILE);
+    ReadActions(SETTINGS_FILE, bStored);
 }
 
-static void SaveTo(HWND window, LPCSTR file) {
-    SaveOptions(window, file);
-    SaveRegions(window, file);
-    SaveActions(window, file);
+void LoadSettingsAtStart() {
+    bool bStored[NUM_ACTIONS] = {};
+    bStored[ACTION_LOAD_AT_START] = ReadAction(SETTINGS_FILE, ACTION_LOAD_AT_START);
+    if (IsOn(ACTION_LOAD_AT_START))
+        ReadSettings(bStored);
+    for (int id = 0; id < NUM_ACTIONS; ++id)
+        if (bStored[id])
+            RegisterRecordedKey(id);
+        else
+            RegisterDefaultKey(id);
 }
 
-void SaveSettings(HWND window) {
-    SaveWhole(window, SETTINGS_FILE, SaveTo);
+static void SaveTo(LPCSTR file) {
+    SaveOptions(file);
+    SaveRegions(file);
+    SaveActions(file);
 }
 
-int OnSaveSettings(const ActionCall& call) {
-    SaveSettings(call.window);
+void SaveSettings() {
+    SaveAtomically(SETTINGS_FILE, SaveTo);
+}
+
+int SaveSettingsAction(const ActionCall&) {
+    SaveSettings();
     return 0;
 }
 
-int OnLoadSettings(const ActionCall& call) {
-    LoadSettings(call.window);
+int LoadSettingsAction(const ActionCall&) {
+    bool bStored[NUM_ACTIONS] = {};
+    ReadSettings(bStored);
+    for (int id = 0; id < NUM_ACTIONS; ++id)
+        if (bStored[id])
+            RegisterRecordedKey(id);
     return 0;
 }

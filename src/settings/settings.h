@@ -1,13 +1,15 @@
-// Saving and loading all that is kept between runs, and the two rows that do it.
+// Saving and loading everything that is kept between runs.
 #pragma once
 
-#include "actions/dispatch.h"
+#include "actions/action_table.h"
 
-// Options, regions, actions, in this order, from and to the settings file. `window` is the Toolwin. What is
-// saved is all in the file, or none of it.
-void LoadSettings(HWND window);
-void SaveSettings(HWND window);
+// Loads the settings at start, unless the stored value of ACTION_LOAD_AT_START says no, and registers the
+// hotkeys of all actions once everything is read.
+void LoadSettingsAtStart();
 
-// Always 0.
-int OnSaveSettings(const ActionCall& call);
-int OnLoadSettings(const ActionCall& call);
+// Saves the settings atomically.
+void SaveSettings();
+
+// Handlers. Always 0.
+int SaveSettingsAction(const ActionCall& call);
+int LoadSettingsAction(const ActionCall& call);

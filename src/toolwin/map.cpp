@@ -1,31 +1,37 @@
-// The picture in the Toolwin.
 #include "toolwin/map.h"
 
 #include "core/state.h"
 #include "regions/region_table.h"
-#include "scroll/refresh.h"
-#include "scroll/window_table.h"
-#include "toolwin/map_scale.h"
+#include "toolwin/map_coordinates.h"
+#include "windows/other_window.h"
+#include "windows/window_table.h"
 
 #include <cstring>
 
 static const COLORREF RED = 255;
 static const COLORREF BLACK = 0;
+static const UINT_PTR FLASH_TIMER = 1234;
 static const UINT FLASH_PERIOD = 50; // milliseconds
 
-// Classes of dialogs, of Windows and of a widespread framework; a name that merely begins so counts as well.
+// Class names of dialogs, of Windows and of a common framework; longer names that begin so count as well.
 static const char* const DialogClasses[] = {"#32770", "Afx:400000"};
 
-static int flash_level; // brightness of the pulse, in 255ths; see NextFlashLevel
+static int flash_level; // brightness of the flash; see NextFlashLevel
 
 namespace {
 
-// What one paint works with.
+enum BoxKind {
+    PLAIN_BOX,
+    ACTIVE_BOX,   // of the active window: red
+    FLASHING_BOX, // of an active dialog that disables its owner
+};
+
+// The state of one paint.
 struct MapPaint {
     HWND window;
     HDC context;
     RECT map;    // client rectangle
-    HWND active; // as it was at the paint's start
+    HWND active; // the foreground window when the paint started
     HPEN dotted, red, flash;
 };
 
@@ -35,17 +41,18 @@ int NextFlashLevel(int level) {
     return (level > 255 ? level - 255 : level) + 25;
 }
 
-static int IsDialogClass(const char* name) {
+static bool IsDialogClass(const char* name) {
     for (const char* dialog : DialogClasses)
         if (!std::strncmp(name, dialog, std::strlen(dialog)))
-            return 1;
-    return 0;
+            return true;
+    return false;
 }
 
-BoxKind KindOfBox(int bActive, const char* className, DWORD ownerStyle) {
+// Pure: how a window's box is drawn. `ownerStyle` is 0 if there is no owner.
+static BoxKind KindOfBox(bool bActive, const char* className, DWORD ownerStyle) {
     if (!bActive)
         return PLAIN_BOX;
-    return IsDialogClass(className) && (ownerStyle & WS_DISABLED) ? PULSING_BOX : ACTIVE_BOX;
+    return IsDialogClass(className) && (ownerStyle & WS_DISABLED) ? FLASHING_BOX : ACTIVE_BOX;
 }
 
 static DWORD OwnerStyle(HWND window) {
@@ -70,36 +77,45 @@ static void DrawRegion(HDC context, const RegionRow& region, const RECT& map) {
     DeleteObject(brush);
 }
 
-int PaintBackground(HWND window, HDC context) {
+void PaintBackground(HWND window, HDC context) {
     RECT map{};
     GetClientRect(window, &map);
     SelectObject(context, reinterpret_cast<HBRUSH>(GetClassLongPtrA(window, GCLP_HBRBACKGROUND)));
     Rectangle(context, map.left, map.top, map.right, map.bottom);
-    for (int row = 0; row < num_regions; ++row)
-        DrawRegion(context, RegionTable[row], map);
-    return 1;
+    for (int index = 0; index < num_regions; ++index)
+        DrawRegion(context, RegionTable[index], map);
 }
 
-// The pulse lives by its timer: each of its ticks repaints the box, and each such paint starts it anew.
+static void CALLBACK FlashTimer(HWND window, UINT, UINT_PTR, DWORD) {
+    RECT map{};
+    GetClientRect(window, &map);
+    RECT active{};
+    GetOtherWindowRect(GetForegroundWindow(), &active);
+    const RECT box = WindowBox(active, map, VDesk, Quorl);
+    InvalidateRect(window, &box, TRUE);
+    UpdateWindow(window);
+}
+
+// Each tick of the timer repaints the box, and each such paint starts the timer again.
 static void DrawActiveBox(const MapPaint& paint, const RECT& box) {
     char name[128] = "";
     GetClassNameA(paint.active, name, 127);
     const DWORD ownerStyle = IsDialogClass(name) ? OwnerStyle(paint.active) : 0;
-    const int bPulses = KindOfBox(1, name, ownerStyle) == PULSING_BOX;
-    if (bPulses)
-        SetTimer(paint.window, FLASH_TIMER, FLASH_PERIOD, RefreshTimer);
+    const bool bFlashes = KindOfBox(true, name, ownerStyle) == FLASHING_BOX;
+    if (bFlashes)
+        SetTimer(paint.window, FLASH_TIMER, FLASH_PERIOD, FlashTimer);
     else
         KillTimer(paint.window, FLASH_TIMER);
-    SelectObject(paint.context, bPulses ? paint.flash : paint.red);
+    SelectObject(paint.context, bFlashes ? paint.flash : paint.red);
     DrawLines(paint.context, box);
     SelectObject(paint.context, paint.dotted);
 }
 
 static void DrawWindow(const MapPaint& paint, HWND window) {
-    RECT place{};
-    if (!IsManagedWindow(window, &place))
+    RECT rect{};
+    if (!IsManagedWindow(window, &rect))
         return;
-    const RECT box = WindowBox(place, paint.map, VDesk, Quorl);
+    const RECT box = WindowBox(rect, paint.map, VDesk, Quorl);
     if (window == paint.active)
         DrawActiveBox(paint, box);
     else
@@ -107,11 +123,11 @@ static void DrawWindow(const MapPaint& paint, HWND window) {
 }
 
 static void DrawView(const MapPaint& paint) {
-    SetROP2(paint.context, R2_MERGEPENNOT); // shows on any ground
+    SetROP2(paint.context, R2_MERGEPENNOT); // visible on any background
     DrawLines(paint.context, ViewBox(paint.map, VDesk, Quorl));
 }
 
-static void MakePens(MapPaint& paint) {
+static void CreatePens(MapPaint& paint) {
     flash_level = NextFlashLevel(flash_level);
     paint.dotted = CreatePen(PS_DOT, 1, BLACK);
     paint.red = CreatePen(PS_SOLID, 2, RED);
@@ -128,13 +144,13 @@ void PaintMap(HWND window) {
     MapPaint paint{};
     paint.window = window;
     paint.active = GetForegroundWindow();
-    MakePens(paint);
+    CreatePens(paint);
     PAINTSTRUCT area;
     paint.context = BeginPaint(window, &area); // erases the background, so before a pen is selected
     const HGDIOBJ before = SelectObject(paint.context, paint.dotted);
     GetClientRect(window, &paint.map);
-    for (int row = 0; row < num_windows; ++row)
-        DrawWindow(paint, WindowTable[row].hwnd);
+    for (int i = 0; i < num_windows; ++i)
+        DrawWindow(paint, WindowTable[i].hwnd);
     DrawView(paint);
     SelectObject(paint.context, before);
     DeletePens(paint);

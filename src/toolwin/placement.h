@@ -1,25 +1,24 @@
-// Where the Toolwin stands on the screen: nudging, snapping, resizing, hiding.
+// The position and size of the map on the screen.
 #pragma once
 
 #include "actions/action_table.h"
 
-constexpr int MOVE_BY_DISTANCE = 2; // flag of MoveToolwin
+constexpr SIZE MIN_TOOLWIN{40, 13}; // pixels
+constexpr SIZE MAX_TOOLWIN{32000, 32000};
 
-// Moves `window`, the Toolwin, keeping its size, and tells the tip where it comes to lie. With
-// MOVE_BY_DISTANCE (x, y) is a distance, without it the new corner; screen pixels. ScreenRect is measured
-// anew first. The result of MoveWindow; 0 also when the window is gone.
-int MoveToolwin(HWND window, int x, int y, int flags);
+// Moves the map by a distance in screen pixels, snaps it to the screen's edges if the user has switched that
+// on, and shows the result in the status strip. Measures the screen first. False if the move fails.
+bool MoveToolwin(int dx, int dy);
 
-// Moves the right or the bottom edge by Options.minscroll, as row 42, 43, 44 or 45 says; any other row
-// leaves the size. The window's own limits stop it. The result of MoveWindow; 0 also when it is gone.
-int ResizeToolwin(HWND window, ActionId row);
+// Handler: moves the map by a step. 1 if it moved.
+int StepToolwin(const ActionCall& call);
 
-// Shows or hides MainWnd, whichever window is named, and notes it in the row's value. Always 1.
-int ToggleToolwin(HWND window);
+// Handler: moves the map's bottom right corner by a step, within its size limits. 0 if it fails.
+int ResizeToolwin(const ActionCall& call);
 
-// Pure: a place pulled flush to the screen's edges where it comes nearer to one than `border` or lies beyond
-// it. The size stays; of two opposite edges the far one wins. Screen pixels.
-RECT SnappedPlace(const RECT& place, int border, int screenW, int screenH);
+// Handler: shows or hides the map and records it in the action's value. Always 1.
+int ToggleToolwin(const ActionCall& call);
 
-// Pure: a place whose right or bottom edge is moved by `step` pixels, as the row says.
-RECT ResizedPlace(const RECT& place, ActionId row, int step);
+// Pure: a rectangle moved flush to those edges of the screen that it is closer to than `border` or beyond.
+// The size stays; of two opposite edges the far one wins. Screen pixels.
+RECT SnapRect(const RECT& rect, int border, int screenW, int screenH);

@@ -1,5 +1,5 @@
-// Nothing that happens again and again all day takes memory from the heap. Every road to it, also that of
-// operator new and of the C library, ends in `malloc`, and here it counts.
+// Frequent operations allocate no memory. Every allocation, of operator new and of the C library as well,
+// ends in `malloc`, which counts here.
 #include "mouse/hook_mouse.h"
 #include "mouse/map_hover.h"
 #include "scroll/refresh.h"
@@ -8,7 +8,7 @@
 
 static int Allocations;
 
-// The C library's own, under a name that a program may use.
+// The C library's own.
 void* SystemMalloc(std::size_t size) __asm__("__libc_malloc");
 
 extern "C" void* malloc(std::size_t size) {
@@ -16,10 +16,9 @@ extern "C" void* malloc(std::size_t size) {
     return SystemMalloc(size);
 }
 
-static void DoAllThatIsDoneOften() {
+static void RunFrequentOperations() {
     ScrollView(MainWnd, VDesk.left ? -1024 : 1024, 0, SV_RELATIVE, 0);
     RefreshTimer(MainWnd, WM_TIMER, REFRESH_TIMER, 0);
-    RefreshTimer(MainWnd, WM_TIMER, FLASH_TIMER, 0);
     Repaint(MainWnd);
     for (const LONG x : {512, 1023, 0}) {
         Desk.cursor = {x, 384};
@@ -28,23 +27,22 @@ static void DoAllThatIsDoneOften() {
     }
 }
 
-// The in-memory desktop writes nothing down meanwhile, so it takes no memory either and nothing need be told
-// apart.
-TEST_F(RunningQuorl, TakesNothingFromTheHeapInWhatItDoesAllDay) {
-    EXPECT_GT(Allocations, 0) << "they are counted";
+// The in-memory desktop does not record meanwhile, so it allocates nothing either.
+TEST_F(RunningQuorl, FrequentOperationsAllocateNothing) {
+    EXPECT_GT(Allocations, 0) << "they are not counted";
     for (int i = 0; i < 100; ++i)
-        OpenWindow("some program", {i, i, i + 300, i + 200});
-    Desk.foreground = Desk.order.front();
-    for (const char* region : {"home", "work"})
-        Mark(region, 1024, 0);
-    for (const ActionId row : {ROW_FOLLOW_MOUSE, ROW_TOOLTIP, ROW_QUICK_REDRAW, ROW_KEEP_ACTIVE_IN_VIEW})
-        ActionTable[row].value = 1;
-    Desk.bTrace = 0;
+        OpenWindow("program", {i, i, i + 300, i + 200});
+    Desk.foreground = Desk.zOrder.front();
+    AddRegion("home", 1024, 0);
+    AddRegion("work", 1024, 0);
+    for (const ActionId id : {ACTION_FOLLOW_MOUSE, ACTION_FOLLOW_ACTIVE})
+        ActionTable[id].value = 1;
+    Desk.recording = 0;
     int before = 0;
-    for (int time = 0; time < 264; ++time) {
-        if (time == 24) // the first times make what then stays, as the strip's window
+    for (int round = 0; round < 264; ++round) {
+        if (round == 24) // the first rounds create what stays, such as the status strip
             before = Allocations;
-        DoAllThatIsDoneOften();
+        RunFrequentOperations();
     }
     EXPECT_EQ(Allocations, before);
 }

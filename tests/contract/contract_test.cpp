@@ -1,69 +1,68 @@
-// Windows and dialogs of this program that keep what arrives.
 #include "contract/contract_test.h"
 
 #include <algorithm>
 #include <utility>
 
-std::vector<MSG> Seen;
-std::map<UINT, std::function<LRESULT(const MSG&)>> Replies;
+std::vector<MSG> Received;
+std::map<UINT, std::function<LRESULT(const MSG&)>> Handlers;
 
 static std::vector<HWND> Own;
 
-static INT_PTR CALLBACK KeepingDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-    const MSG arrived{dialog, message, wParam, lParam, 0, {}};
-    Seen.push_back(arrived);
-    return Replies.contains(message) ? Replies[message](arrived) : FALSE;
+static INT_PTR CALLBACK RecordingDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    const MSG received{dialog, message, wParam, lParam, 0, {}};
+    Received.push_back(received);
+    return Handlers.contains(message) ? Handlers[message](received) : FALSE;
 }
 
-static LRESULT CALLBACK KeepingProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const LRESULT reply = KeepingDlgProc(window, message, wParam, lParam);
-    return Replies.contains(message) ? reply : DefWindowProcA(window, message, wParam, lParam);
+static LRESULT CALLBACK RecordingWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = RecordingDlgProc(window, message, wParam, lParam);
+    return Handlers.contains(message) ? result : DefWindowProcA(window, message, wParam, lParam);
 }
 
 void Contract::SetUp() {
     WNDCLASSA description{};
     description.style = CS_HREDRAW | CS_VREDRAW;
-    description.lpfnWndProc = KeepingProc;
+    description.lpfnWndProc = RecordingWndProc;
     description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
     description.hbrBackground = GetSysColorBrush(COLOR_BACKGROUND);
     description.lpszClassName = "Contract";
-    RegisterClassA(&description); // fails when an earlier case has done it
+    RegisterClassA(&description); // fails if an earlier case did it
 }
 
 void Contract::TearDown() {
-    Replies.clear();
+    Handlers.clear();
     for (const HWND window : std::exchange(Own, {}))
         DestroyWindow(window);
-    GroundTearDown();
-    Handle(50);
-    Seen.clear();
+    CloseOthers();
+    HandleFor(50);
+    Received.clear();
 }
 
-Numbers SeenOf(std::initializer_list<UINT> messages) {
+Numbers ReceivedOf(std::initializer_list<UINT> messages) {
     Numbers found;
-    for (const MSG& arrived : Seen)
-        if (std::find(messages.begin(), messages.end(), arrived.message) != messages.end())
-            found.push_back(arrived.message);
+    for (const MSG& received : Received)
+        if (std::find(messages.begin(), messages.end(), received.message) != messages.end())
+            found.push_back(received.message);
     return found;
 }
 
-Numbers Told(UINT code) {
+Numbers Notified(UINT code) {
     Numbers controls;
-    for (const MSG& arrived : std::exchange(Seen, {}))
-        if (arrived.message == WM_COMMAND && HIWORD(arrived.wParam) == code)
-            controls.push_back(LOWORD(arrived.wParam));
+    for (const MSG& received : std::exchange(Received, {}))
+        if (received.message == WM_COMMAND && HIWORD(received.wParam) == code)
+            controls.push_back(LOWORD(received.wParam));
     return controls;
 }
 
-HWND OpenOwn(DWORD style, DWORD exStyle, const RECT& place, HWND owner) {
-    Own.push_back(CreateWindowExA(exStyle, "Contract", "own", style, place.left, place.top,
-                                  place.right - place.left, place.bottom - place.top, owner, nullptr, nullptr,
+HWND OpenOwn(DWORD style, DWORD exStyle, const RECT& rect, HWND owner) {
+    Own.push_back(CreateWindowExA(exStyle, "Contract", "own", style, rect.left, rect.top,
+                                  rect.right - rect.left, rect.bottom - rect.top, owner, nullptr, nullptr,
                                   nullptr));
     return Own.back();
 }
 
 HWND OpenTemplate(int id, HWND owner) {
-    Own.push_back(CreateDialogParamA(nullptr, MAKEINTRESOURCEA(id), owner, KeepingDlgProc, 77));
+    Own.push_back(CreateDialogParamA(nullptr, MAKEINTRESOURCEA(id), owner, RecordingDlgProc, 77));
     EXPECT_NE(Own.back(), nullptr) << id;
     return Own.back();
 }
@@ -72,8 +71,8 @@ HWND ShowTemplate(int id) {
     const HWND dialog = OpenTemplate(id);
     ShowWindow(dialog, SW_SHOW);
     SetForegroundWindow(dialog);
-    Handle(100);
-    Seen.clear();
+    HandleFor(100);
+    Received.clear();
     return dialog;
 }
 
@@ -89,10 +88,4 @@ std::vector<HWND> Order(std::initializer_list<HWND> windows) {
         return std::find(windows.begin(), windows.end(), window) == windows.end();
     });
     return order;
-}
-
-RECT PlaceOf(HWND window) {
-    RECT place{};
-    EXPECT_TRUE(GetWindowRect(window, &place));
-    return place;
 }

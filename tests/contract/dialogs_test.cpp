@@ -1,5 +1,7 @@
-// Dialogs: how they are made, end and own each other, their keys; what the plain controls keep and tell.
+// Dialogs: creation, end, ownership and keys; what the standard controls store and report.
 #include "contract/contract_test.h"
+
+#include "resources/control_ids.h"
 
 #include <utility>
 
@@ -18,29 +20,29 @@ std::string TextOf(HWND dialog, int id) {
     return text;
 }
 
-TEST_F(Dialogs, AllControlsStandAsTheTemplateHasThemWhenOneIsToldToStart) {
+TEST_F(Dialogs, ControlsExistBeforeWmInitDialog) {
     int calls = 0;
-    Replies[WM_INITDIALOG] = [&calls](const MSG& arrived) {
-        EXPECT_EQ(TextOf(arrived.hwnd, 1079), "Just Go, Baybeee");
-        EXPECT_FALSE(IsWindowVisible(arrived.hwnd));
-        EXPECT_EQ(arrived.lParam, 77);
+    Handlers[WM_INITDIALOG] = [&calls](const MSG& received) {
+        EXPECT_EQ(TextOf(received.hwnd, IDC_OPTIONS_AT_ONCE), "Just Go, Baybeee");
+        EXPECT_FALSE(IsWindowVisible(received.hwnd));
+        EXPECT_EQ(received.lParam, 77);
         return ++calls;
     };
-    const HWND dialog = OpenTemplate(101);
+    const HWND dialog = OpenTemplate(IDD_OPTIONS);
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(GetDlgItem(dialog, 4711), nullptr);
-    EXPECT_EQ(Order({dialog, GetDlgItem(dialog, 1)}), std::vector{dialog}) << "controls are not among them";
+    EXPECT_EQ(Order({dialog, GetDlgItem(dialog, IDOK)}), std::vector{dialog}) << "no top-level controls";
 }
 
-TEST_F(Dialogs, TheEndHidesOneAndWhatAWindowOwnsGoesWithItUnlessItWasHandedOver) {
+TEST_F(Dialogs, EndHidesAndDestructionTakesOwnedWindowsAlong) {
     const HWND first = OpenOwn(WS_POPUP | WS_VISIBLE);
-    const HWND second = OpenTemplate(101, first);
+    const HWND second = OpenTemplate(IDD_OPTIONS, first);
     ShowWindow(second, SW_SHOW);
     EXPECT_TRUE(EndDialog(second, 2));
     EXPECT_TRUE(IsWindow(second) && !IsWindowVisible(second));
     EXPECT_EQ(GetForegroundWindow(), first);
-    const HWND stays = OpenTemplate(107, second);
-    const HWND goes = OpenTemplate(106, second);
+    const HWND stays = OpenTemplate(IDD_ABOUT, second);
+    const HWND goes = OpenTemplate(IDD_HELP, second);
     EXPECT_EQ(GetParent(stays), second) << "the owner of a pop-up";
     SetWindowLongPtrA(stays, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(first));
     EXPECT_TRUE(DestroyWindow(second));
@@ -49,68 +51,68 @@ TEST_F(Dialogs, TheEndHidesOneAndWhatAWindowOwnsGoesWithItUnlessItWasHandedOver)
     EXPECT_FALSE(IsWindow(stays));
 }
 
-// A key as the loop would get it, offered to the dialog.
+// Passes a key to the dialog as a message loop does.
 BOOL Offer(HWND dialog, HWND to, WPARAM key) {
     MSG offered{to, WM_KEYDOWN, key, 0, 0, {}};
     return IsDialogMessageA(dialog, &offered);
 }
 
-TEST_F(Dialogs, KeysOfOneAreTakenAndThoseOfOthersLeftAndClosingMeansCancel) {
-    const HWND dialog = ShowTemplate(108);
-    const HWND name = GetDlgItem(dialog, 1025);
+TEST_F(Dialogs, KeysAreHandledForOwnControlsOnlyAndClosingMeansCancel) {
+    const HWND dialog = ShowTemplate(IDD_NAME_REGION);
+    const HWND name = GetDlgItem(dialog, IDC_REGION_NAME);
     EXPECT_FALSE(Offer(nullptr, name, VK_RETURN) || Offer(dialog, OpenOwn(), VK_RETURN));
     EXPECT_TRUE(Offer(dialog, name, VK_ESCAPE) && Offer(dialog, name, VK_RETURN));
-    EXPECT_EQ(Told(BN_CLICKED), (Numbers{2, 1}));
+    EXPECT_EQ(Notified(BN_CLICKED), (Numbers{IDCANCEL, IDOK}));
     EXPECT_TRUE(Offer(dialog, name, VK_TAB) && Offer(dialog, name, VK_TAB) && Offer(dialog, name, VK_RETURN));
-    EXPECT_EQ(Told(BN_CLICKED), Numbers{2}) << "Enter presses the button that has the focus";
+    EXPECT_EQ(Notified(BN_CLICKED), Numbers{IDCANCEL}) << "Enter presses the focused button";
     SendMessageA(dialog, WM_CLOSE, 0, 0);
-    Handle(20);
-    EXPECT_EQ(Told(BN_CLICKED), Numbers{2});
+    HandleFor(20);
+    EXPECT_EQ(Notified(BN_CLICKED), Numbers{IDCANCEL});
 
-    const HWND find = ShowTemplate(117); // without default button and without a number 2
-    const HWND text = GetDlgItem(find, 1041);
-    EXPECT_TRUE(Offer(find, text, VK_RETURN) && Offer(find, text, VK_ESCAPE));
-    EXPECT_EQ(Told(BN_CLICKED), (Numbers{1, 2})) << "told all the same";
-    EnableWindow(GetDlgItem(find, 1), FALSE);
-    EXPECT_TRUE(Offer(find, text, VK_RETURN));
-    EXPECT_EQ(Told(BN_CLICKED), Numbers{});
+    const HWND find = ShowTemplate(IDD_FIND); // has no default button and no Cancel
+    const HWND list = GetDlgItem(find, IDC_FIND_LIST);
+    EXPECT_TRUE(Offer(find, list, VK_RETURN) && Offer(find, list, VK_ESCAPE));
+    EXPECT_EQ(Notified(BN_CLICKED), (Numbers{IDOK, IDCANCEL})) << "sent all the same";
+    EnableWindow(GetDlgItem(find, IDOK), FALSE);
+    EXPECT_TRUE(Offer(find, list, VK_RETURN));
+    EXPECT_EQ(Notified(BN_CLICKED), Numbers{});
 }
 
-TEST_F(Dialogs, ANumberHas32BitsAndIsZeroWhenItIsNone) {
-    const HWND dialog = OpenTemplate(101);
-    for (const auto& [text, number] : {
-             std::pair("4294967295", 4294967295U), {"99999999999", 0}
-    }) {
-        BOOL bRead = -1;
-        EXPECT_TRUE(SetDlgItemTextA(dialog, 1000, text));
-        EXPECT_EQ(GetDlgItemInt(dialog, 1000, &bRead, FALSE), number);
-        EXPECT_EQ(bRead, number != 0);
+TEST_F(Dialogs, NumberHas32BitsAndIsZeroIfInvalid) {
+    const HWND dialog = OpenTemplate(IDD_OPTIONS);
+    for (const auto& [text, number] : {std::pair("4294967295", 4294967295U), {"99999999999", 0}}) {
+        BOOL valid = -1;
+        EXPECT_TRUE(SetDlgItemTextA(dialog, IDC_OPTIONS_HEIGHT, text));
+        EXPECT_EQ(GetDlgItemInt(dialog, IDC_OPTIONS_HEIGHT, &valid, FALSE), number);
+        EXPECT_EQ(valid, number != 0);
     }
-    EXPECT_TRUE(SetDlgItemInt(dialog, 1001, static_cast<UINT>(-5), TRUE));
-    EXPECT_EQ(TextOf(dialog, 1001), "-5");
+    EXPECT_TRUE(SetDlgItemInt(dialog, IDC_OPTIONS_WIDTH, static_cast<UINT>(-5), TRUE));
+    EXPECT_EQ(TextOf(dialog, IDC_OPTIONS_WIDTH), "-5");
 }
 
-TEST_F(Dialogs, ARadioButtonUnchecksWhatShowsOfItsGroupWhenItIsPressedOnly) {
-    const HWND dialog = ShowTemplate(101);
+TEST_F(Dialogs, PressedRadioButtonUnchecksTheVisibleOnesOfItsGroup) {
+    const HWND dialog = ShowTemplate(IDD_OPTIONS);
     const auto checked = [dialog] {
         Numbers ids;
-        for (const int id : {1073, 1076, 1079, 1080, 1082})
-            if (IsDlgButtonChecked(dialog, id) == BST_CHECKED)
-                ids.push_back(static_cast<UINT>(id));
+        for (const UINT id : {IDC_OPTIONS_BY_MAX, IDC_OPTIONS_BY_SCREEN, IDC_OPTIONS_AT_ONCE,
+                              IDC_OPTIONS_LEFT_CLICK, IDC_OPTIONS_RIGHT_CLICK})
+            if (IsDlgButtonChecked(dialog, static_cast<int>(id)) == BST_CHECKED)
+                ids.push_back(id);
         return ids;
     };
-    for (const int id : {1073, 1079, 1082}) // the last one is hidden
-        CheckDlgButton(dialog, id, BST_CHECKED);
-    EXPECT_EQ(checked(), (Numbers{1073, 1079, 1082})) << "the program's own check is alone";
+    const Numbers all{IDC_OPTIONS_BY_MAX, IDC_OPTIONS_AT_ONCE, IDC_OPTIONS_RIGHT_CLICK}; // the last is hidden
+    for (const UINT id : all)
+        CheckDlgButton(dialog, static_cast<int>(id), BST_CHECKED);
+    EXPECT_EQ(checked(), all) << "CheckDlgButton changes one only";
     for (const UINT message : {WM_KEYDOWN, WM_KEYUP})
-        Ask(dialog, 1080, message, VK_SPACE);
-    EXPECT_EQ(checked(), (Numbers{1073, 1080, 1082}));
-    EXPECT_EQ(Told(BN_CLICKED), Numbers{1080});
+        Ask(dialog, IDC_OPTIONS_LEFT_CLICK, message, VK_SPACE);
+    EXPECT_EQ(checked(), (Numbers{IDC_OPTIONS_BY_MAX, IDC_OPTIONS_LEFT_CLICK, IDC_OPTIONS_RIGHT_CLICK}));
+    EXPECT_EQ(Notified(BN_CLICKED), Numbers{IDC_OPTIONS_LEFT_CLICK});
 }
 
-TEST_F(Dialogs, AListTellsWhereARowWentKeepsItsNumberAndFindsWholeTexts) {
-    constexpr int SORTED = 1062, PLAIN = 1061, DROP_DOWN = 1038;
-    const HWND dialog = ShowTemplate(116);
+TEST_F(Dialogs, ListsReturnInsertedIndicesKeepItemDataAndFindWholeTexts) {
+    constexpr int SORTED = IDC_MENU_ACTIONS, UNSORTED = IDC_MENU_LIST;
+    const HWND dialog = ShowTemplate(IDD_CUSTOMIZE_MENU);
     Ask(dialog, SORTED, LB_ADDSTRING, 0, "pear");
     Ask(dialog, SORTED, LB_SETITEMDATA, 0, reinterpret_cast<const void*>(7));
     EXPECT_EQ(Ask(dialog, SORTED, LB_ADDSTRING, 0, "Apple"), 0);
@@ -119,13 +121,13 @@ TEST_F(Dialogs, AListTellsWhereARowWentKeepsItsNumberAndFindsWholeTexts) {
     EXPECT_EQ(Ask(dialog, SORTED, LB_SETCURSEL, 2), 2);
     Ask(dialog, SORTED, LB_RESETCONTENT);
     EXPECT_EQ(Ask(dialog, SORTED, LB_GETCURSEL), LB_ERR);
-    Ask(dialog, PLAIN, LB_ADDSTRING, 0, "b");
-    EXPECT_EQ(Ask(dialog, PLAIN, LB_ADDSTRING, 0, "a"), 1) << "one that does not sort appends";
-    const HWND actions = OpenTemplate(113);
+    Ask(dialog, UNSORTED, LB_ADDSTRING, 0, "b");
+    EXPECT_EQ(Ask(dialog, UNSORTED, LB_ADDSTRING, 0, "a"), 1);
+    const HWND actions = OpenTemplate(IDD_ACTIONS);
     for (const char* text : {"Left", "F1", "F10"})
-        Ask(actions, DROP_DOWN, CB_INSERTSTRING, NONE, text);
-    EXPECT_EQ(Ask(actions, DROP_DOWN, CB_FINDSTRINGEXACT, NONE, "f10"), 2);
-    EXPECT_EQ(Ask(actions, DROP_DOWN, CB_FINDSTRINGEXACT, NONE, "F"), CB_ERR);
+        Ask(actions, IDC_ACTIONS_KEYS, CB_INSERTSTRING, NONE, text);
+    EXPECT_EQ(Ask(actions, IDC_ACTIONS_KEYS, CB_FINDSTRINGEXACT, NONE, "f10"), 2);
+    EXPECT_EQ(Ask(actions, IDC_ACTIONS_KEYS, CB_FINDSTRINGEXACT, NONE, "F"), CB_ERR);
 }
 
 } // namespace

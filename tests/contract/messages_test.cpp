@@ -5,16 +5,15 @@ namespace {
 
 using Messages = Contract;
 
-TEST_F(Messages, WhatIsSentIsDoneAtOnceWhatIsPostedWaitsInOrderAndQuitBehindAllOfIt) {
+TEST_F(Messages, SentAreHandledAtOncePostedInOrderAndQuitLast) {
     const HWND window = OpenOwn();
     std::vector<WPARAM> order;
-    Replies[WM_USER] = [&order](const MSG& arrived) {
-        order.push_back(arrived.wParam);
-        return arrived.lParam + 1;
+    Handlers[WM_USER] = [&order](const MSG& received) {
+        order.push_back(received.wParam);
+        return received.lParam + 1;
     };
     PostQuitMessage(7);
-    EXPECT_TRUE(PostMessageA(window, WM_USER, 1, 0));
-    EXPECT_TRUE(PostMessageA(window, WM_USER, 2, 0));
+    EXPECT_TRUE(PostMessageA(window, WM_USER, 1, 0) && PostMessageA(window, WM_USER, 2, 0));
     EXPECT_EQ(SendMessageA(window, WM_USER, 3, 41), 42);
     MSG message{};
     while (GetMessageA(&message, nullptr, 0, 0) > 0)
@@ -23,24 +22,24 @@ TEST_F(Messages, WhatIsSentIsDoneAtOnceWhatIsPostedWaitsInOrderAndQuitBehindAllO
     EXPECT_EQ(message.wParam, 7U);
 }
 
-// Hands a record to a window, which answers if no error is expected, and gives what is in it then.
-RECT Moving(HWND window, DWORD error) {
-    RECT record = PLACE;
-    DWORD_PTR answer = 0;
+// Sends a rect with a timeout, and returns it as it is afterwards.
+RECT Moving(HWND window, DWORD expectedError) {
+    RECT rect = RECT_OF_WINDOWS;
+    DWORD_PTR result = 0;
     SetLastError(0);
-    const LRESULT result =
-        SendMessageTimeoutA(window, WM_MOVING, 0, reinterpret_cast<LPARAM>(&record), SMTO_ABORTIFHUNG,
-                            error == ERROR_TIMEOUT ? 100 : 2000, &answer);
-    EXPECT_EQ(result ? 0 : GetLastError(), error);
-    return record;
+    const LRESULT handled =
+        SendMessageTimeoutA(window, WM_MOVING, 0, reinterpret_cast<LPARAM>(&rect), SMTO_ABORTIFHUNG,
+                            expectedError == ERROR_TIMEOUT ? 100 : 2000, &result);
+    EXPECT_EQ(handled ? 0 : GetLastError(), expectedError);
+    return rect;
 }
 
-TEST_F(Messages, AWindowAnswersWmMovingInItsRecordUnlessItIsSlowOrGone) {
-    EXPECT_EQ(Moving(OpenStranger("answers"), 0), PLACE);
-    EXPECT_EQ(Moving(OpenStranger("slow", 1), ERROR_TIMEOUT), PLACE);
+TEST_F(Messages, WmMovingReturnsTheRectUnlessTheWindowIsSlowOrDestroyed) {
+    EXPECT_EQ(Moving(OpenOther("responds"), 0), RECT_OF_WINDOWS);
+    EXPECT_EQ(Moving(OpenOther("slow", true), ERROR_TIMEOUT), RECT_OF_WINDOWS);
     const HWND own = OpenOwn();
-    Replies[WM_MOVING] = [](const MSG& arrived) {
-        reinterpret_cast<RECT*>(arrived.lParam)->left = 99;
+    Handlers[WM_MOVING] = [](const MSG& received) {
+        reinterpret_cast<RECT*>(received.lParam)->left = 99;
         return TRUE;
     };
     EXPECT_EQ(Moving(own, 0).left, 99);
@@ -50,27 +49,27 @@ TEST_F(Messages, AWindowAnswersWmMovingInItsRecordUnlessItIsSlowOrGone) {
 
 std::vector<UINT_PTR> Ticks; // ids
 
-void CALLBACK KeepTick(HWND, UINT, UINT_PTR id, DWORD) {
+void CALLBACK RecordTick(HWND, UINT, UINT_PTR id, DWORD) {
     Ticks.push_back(id);
 }
 
-TEST_F(Messages, ATimerCallsBackOrTellsItsWindowAndEndsWithItOrWhenItIsKilled) {
+TEST_F(Messages, TimersRestartWhenSetAgainAndEndWithTheirWindow) {
     const HWND window = OpenOwn();
-    SetTimer(window, 2, 60000, KeepTick);
-    SetTimer(window, 1, 200, KeepTick);
-    Handle(120);
-    EXPECT_NE(SetTimer(window, 1, 200, KeepTick), 0U);
-    Handle(120);
-    EXPECT_TRUE(Ticks.empty()) << "set again, its time starts anew";
-    Handle(120);
+    SetTimer(window, 2, 60000, RecordTick);
+    SetTimer(window, 1, 200, RecordTick);
+    HandleFor(120);
+    EXPECT_NE(SetTimer(window, 1, 200, RecordTick), 0U);
+    HandleFor(120);
+    EXPECT_TRUE(Ticks.empty());
+    HandleFor(120);
     EXPECT_EQ(Ticks, std::vector<UINT_PTR>{1});
     SetTimer(window, 1, 100, nullptr);
-    Handle(150);
+    HandleFor(150);
     EXPECT_TRUE(KillTimer(window, 1));
-    SetTimer(window, 2, 20, KeepTick);
+    SetTimer(window, 2, 20, RecordTick);
     DestroyWindow(window);
-    Handle(50);
-    EXPECT_EQ(SeenOf({WM_TIMER}), Numbers{WM_TIMER}) << "none has come since";
+    HandleFor(50);
+    EXPECT_EQ(ReceivedOf({WM_TIMER}), Numbers{WM_TIMER}) << "without a callback the window gets a message";
     EXPECT_EQ(Ticks.size(), 1U);
 }
 

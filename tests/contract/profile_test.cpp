@@ -1,11 +1,11 @@
-// The rules of private profile files, and how a copy of one takes its place.
+// The rules of private profile files, and replacing one atomically by a copy.
 #include "contract/contract_test.h"
 
 #include <utility>
 
 namespace {
 
-constexpr char FILE_NAME[] = "contract.ini"; // a bare name: the system says where it lies
+constexpr char FILE_NAME[] = "contract.ini"; // a bare name: in the Windows folder
 constexpr char COPY_NAME[] = "contract.new";
 
 std::string PathOf(const char* file) {
@@ -17,7 +17,6 @@ std::string PathOf(const char* file) {
 class Profile : public Contract {
   protected:
     void SetUp() override {
-        Contract::SetUp();
         for (const char* name : {FILE_NAME, COPY_NAME}) {
             WriteProfile(name, "");
             EXPECT_TRUE(DeleteFileA(PathOf(name).c_str()));
@@ -28,7 +27,7 @@ class Profile : public Contract {
 std::string Read(const char* key, DWORD size = 4096) {
     char text[4096];
     const DWORD length = GetPrivateProfileStringA("Quorl", key, "absent", text, size, FILE_NAME);
-    EXPECT_EQ(length, std::string(text).size()) << "the result is the length";
+    EXPECT_EQ(length, std::string(text).size());
     return text;
 }
 
@@ -36,44 +35,43 @@ BOOL Write(const char* key, const std::string& text, const char* name = FILE_NAM
     return WritePrivateProfileStringA("Quorl", key, text.c_str(), name);
 }
 
-TEST_F(Profile, AKeyIsReplacedWhereItStandsAndANewOneGoesToTheSectionsEnd) {
+TEST_F(Profile, KeyIsReplacedInPlaceAndANewOneEndsTheSection) {
     EXPECT_EQ(Read("b"), "absent");
     EXPECT_TRUE(Write("b", "5"));
     EXPECT_EQ(ReadProfile(FILE_NAME), "[Quorl]\r\nb=5\r\n");
     WriteProfile(FILE_NAME, "[First]\r\nb=1\r\n\r\n[quorl]\r\nb=5\r\n; kept\r\nc=2\r\n\r\n[Last]\r\nb=9");
-    EXPECT_TRUE(Write("b", "7"));
-    EXPECT_TRUE(Write("new", "3"));
-    EXPECT_EQ(Read("B"), "7") << "case makes no difference";
+    EXPECT_TRUE(Write("b", "7") && Write("new", "3"));
+    EXPECT_EQ(Read("B"), "7") << "case-insensitive";
     const std::string text = ReadProfile(FILE_NAME);
     EXPECT_NE(text.find("[quorl]\r\nb=7\r\n; kept\r\nc=2\r\nnew=3\r\n"), std::string::npos) << text;
     EXPECT_NE(text.find("[Last]\r\nb=9"), std::string::npos) << text;
 }
 
-TEST_F(Profile, AValueIsReadWithoutBlanksAndOnePairOfQuotesRoundItWhoeverWroteIt) {
+TEST_F(Profile, ValueIsReadWithoutBlanksAndOnePairOfQuotes) {
     const std::pair<const char*, const char*> rows[] = {
-        {"",                         ""                        },
-        {"  a=b  ",                  "a=b"                     },
-        {"\"  a b|5\"",              "  a b|5"                 },
-        {"\" \"a\"|5\"",             " \"a\"|5"                },
-        {"'a|5",                     "'a|5"                    },
+        {"", ""},
+        {"  a=b  ", "a=b"},
+        {"\"  a b|5\"", "  a b|5"},
+        {"\" \"a\"|5\"", " \"a\"|5"},
+        {"'a|5", "'a|5"},
         {"\x01mail\x01web|\xE4\xFF", "\x01mail\x01web|\xE4\xFF"},
     };
     for (const auto& [written, read] : rows) {
         EXPECT_TRUE(Write("line", written));
         EXPECT_EQ(Read("line"), read);
         WriteProfile(FILE_NAME, std::string("[Quorl]\r\n  line = ") + written + " \t\r\nline=second");
-        EXPECT_EQ(Read("line"), read) << "by hand";
+        EXPECT_EQ(Read("line"), read) << "written by hand";
     }
 }
 
-TEST_F(Profile, ALongValueIsCutAtTheBufferAndANumberAtItsFirstOtherCharacter) {
+TEST_F(Profile, LongValueIsCutAtTheBufferAndNumberAtItsFirstOtherCharacter) {
     const std::string longest(2000, '7');
     Write("long", longest);
     EXPECT_EQ(Read("long", 64), longest.substr(0, 63));
     const std::pair<const char*, int> rows[] = {
-        {"+102",        102       },
-        {"-12|3",       -12       },
-        {"",            -7        },
+        {"+102", 102},
+        {"-12|3", -12},
+        {"", -7},
         {"99999999999", 1215752191},
     };
     for (const auto& [text, number] : rows) {
@@ -82,7 +80,7 @@ TEST_F(Profile, ALongValueIsCutAtTheBufferAndANumberAtItsFirstOtherCharacter) {
     }
 }
 
-TEST_F(Profile, ACopyTakesTheFilesPlaceAndAProtectedOneCannotBeDeleted) {
+TEST_F(Profile, CopyReplacesTheFileAndAReadOnlyOneCannotBeDeleted) {
     const std::string file = PathOf(FILE_NAME);
     const std::string copy = PathOf(COPY_NAME);
     EXPECT_FALSE(SetFileAttributesA(copy.c_str(), FILE_ATTRIBUTE_NORMAL));
@@ -91,9 +89,8 @@ TEST_F(Profile, ACopyTakesTheFilesPlaceAndAProtectedOneCannotBeDeleted) {
     for (const std::string value : {"1", "2"}) {
         const std::string before = Read("b");
         Write("a", value);
-        EXPECT_TRUE(CopyFileA(file.c_str(), copy.c_str(), FALSE));
-        EXPECT_TRUE(Write("b", value, COPY_NAME));
-        EXPECT_EQ(Read("b"), before) << "the file is untouched";
+        EXPECT_TRUE(CopyFileA(file.c_str(), copy.c_str(), FALSE) && Write("b", value, COPY_NAME));
+        EXPECT_EQ(Read("b"), before) << "the file itself is unchanged";
         EXPECT_TRUE(
             MoveFileExA(copy.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
         EXPECT_EQ(Read("a") + Read("b"), value + value);

@@ -1,134 +1,92 @@
-// Whole stories with the Options dialog: what it shows, what the user does, what OK makes of it.
+// The Options dialog: what it shows, and what OK does with it.
 #include "dialogs/dialog_test.h"
 #include "dialogs/options_rules.h"
 #include "dialogs/registry.h"
 
 #include <climits>
 
-namespace {
-
-constexpr int ITSELF = 54; // its row
-// Its controls.
-constexpr int ACTIONS = 3, MENUS = 1064;
-constexpr int HEIGHT = 1000, WIDTH = 1001, BORDER = 1002, DELAY_TIME = 1003;
-constexpr int MAXSCROLL = 1007, MINSCROLL = 1008, MOUSESCROLL = 1009;
-constexpr int BY_MAX = 1073, BY_MIN = 1074, BY_MOUSE = 1075, BY_SCREEN = 1076;
-constexpr int AFTER_TIME = 1078, AT_ONCE = 1079, AFTER_LEFT_CLICK = 1080, AFTER_RIGHT_CLICK = 1082;
-constexpr int HEIGHT_SPINNER = 54321, WIDTH_SPINNER = 54322;
-
 using OptionsDialog = DialogTest;
 
-TEST_F(OptionsDialog, ShowsWhatIsInForceAndOkTakesOverWhatIsTypedAndHoldsEveryWindowInside) {
-    const HWND editor = OpenKnown("editor", {100, 100, 500, 400});
-    Options.minscroll = 10;
-    Open(ITSELF);
-    EXPECT_EQ(PlaceOf(At(HEIGHT_SPINNER)).right - PlaceOf(At(HEIGHT)).right, 15);
-    const struct {
-        int box;
-        const char *shown, *typed;
-    } numbers[] = {
-        {WIDTH,       "4096", "5000"},
-        {BORDER,      "4",    "11"  },
-        {MAXSCROLL,   "100",  "5"   },
-        {MINSCROLL,   "10",   "3"   },
-        {MOUSESCROLL, "800",  "0"   },
-        {HEIGHT,      "1536", "2000"},
-    };
-    for (const auto& [box, shown, typed] : numbers) {
-        EXPECT_EQ(TextOf(box), shown);
-        Type(box, typed);
+TEST_F(OptionsDialog, OkStoresTheNumbers) {
+    const HWND editor = OpenAndList("editor", {100, 100, 500, 400});
+    Open(ACTION_OPTIONS);
+    std::string shown;
+    int number = 4000;
+    for (const int box : {IDC_OPTIONS_WIDTH, IDC_OPTIONS_HEIGHT, IDC_OPTIONS_BORDER, IDC_OPTIONS_MAXSCROLL,
+                          IDC_OPTIONS_MINSCROLL, IDC_OPTIONS_MOUSESCROLL}) {
+        shown += Text(box) + " ";
+        Type(box, std::to_string(number += 100).c_str());
     }
-    RowOf(editor).received.clear();
+    EXPECT_EQ(shown, "4096 1536 4 100 5 800 ");
+    WindowOf(editor).received.clear();
     Click(IDOK);
-    EXPECT_EQ(Quorl, Rect(0, 0, 5000, 2000));
-    EXPECT_EQ((Numbers{Options.border, Options.maxscroll, Options.minscroll, Options.mousescroll}),
-              (Numbers{11, 10, 3, 1}));
-    EXPECT_EQ(RowOf(editor).received.size(), 1U) << "one ping: a larger desktop gathers nothing";
+    EXPECT_EQ(Quorl, Rect(0, 0, 4100, 4200));
+    EXPECT_EQ(Options.border, OptionDefs[OPTION_BORDER].userMax + 1) << "shown as one less";
+    EXPECT_EQ((Numbers{Options.maxscroll, Options.minscroll, Options.mousescroll}),
+              (Numbers{4400, 4400, 4600}));
+    EXPECT_EQ(WindowOf(editor).received.size(), 1U) << "one ping: a larger desktop folds nothing";
 }
 
-TEST(OptionsRules, NumbersTakenOverAreHeldInTheirLimits) {
-    const auto taken = [](const OptionNumbers& shown, int minscroll) { // so far
-        const OptionNumbers now = AcceptedNumbers(shown, 1024, 768, minscroll);
-        return Numbers{now.height, now.width, now.border, now.maxscroll, now.minscroll, now.mousescroll};
-    };
-    EXPECT_EQ(taken({767, 1023, 0, 50, 200, 0}, 5), (Numbers{768, 1024, 2, 50, 50, 1}));
-    EXPECT_EQ(taken({40000, 50000, 10, 40000, 40000, 40000}, 5),
-              (Numbers{40000, 50000, 11, 32000, 32000, 32000}));
-    EXPECT_EQ(taken({INT_MIN, -1, INT_MAX, 0, 0, -1}, 1), (Numbers{768, 1024, 11, 1, 1, 1}));
+TEST(OptionsRules, KeepTheScreenInsideAndMinscrollBelowMaxscroll) {
+    const OptionNumbers accepted = AcceptNumbers({0, 0, INT_MIN, 50, 200, 0}, 1024, 768, 90);
+    EXPECT_EQ((Numbers{accepted.height, accepted.width, accepted.border, accepted.maxscroll,
+                       accepted.minscroll, accepted.mousescroll}),
+              (Numbers{768, 1024, 2, 90, 90, 1}));
 }
 
-TEST_F(OptionsDialog, SpinnersAndHiddenButtonsCountInWholeScreensUpToTheLargestDesktop) {
-    constexpr int UP = 5, DOWN = 16; // pixels from the spinner's top
-    const auto after = [this](int edit, int y) {
-        const HWND spinner = At(edit == HEIGHT ? HEIGHT_SPINNER : WIDTH_SPINNER);
-        SendMessageA(spinner, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, y));
-        SendMessageA(spinner, WM_LBUTTONUP, 0, MAKELPARAM(7, y));
-        return TextOf(edit);
+TEST_F(OptionsDialog, SpinnersAndHiddenButtonsStepByWholeScreens) {
+    const auto step = [this](int spinner, int y, int edit) {
+        SendMessageA(Item(spinner), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, y));
+        SendMessageA(Item(spinner), WM_LBUTTONUP, 0, MAKELPARAM(7, y));
+        return Text(edit);
     };
-    Open(ITSELF);
-    Type(HEIGHT, "2000");
-    Send(1022);
-    EXPECT_EQ(TextOf(HEIGHT), "2304");
-    EXPECT_EQ(after(HEIGHT, UP), "2304") << "the spinner had still counted two";
-    Type(HEIGHT, "31999");
-    Type(WIDTH, "9999"); // the focus is still in there
-    EXPECT_EQ(after(HEIGHT, UP), "32000");
-    EXPECT_EQ(after(WIDTH, DOWN), "3072");
-    Send(1025);
-    EXPECT_EQ(TextOf(WIDTH), "2048");
+    Open(ACTION_OPTIONS);
+    EXPECT_EQ(RectOf(Item(IDC_OPTIONS_HEIGHT_SPINNER)).left, RectOf(Item(IDC_OPTIONS_HEIGHT)).right);
+    EXPECT_EQ(step(IDC_OPTIONS_WIDTH_SPINNER, 16, IDC_OPTIONS_WIDTH), "3072");
+    Type(IDC_OPTIONS_HEIGHT, "2000");
+    SendMessageA(dialog, WM_COMMAND, IDC_OPTIONS_HEIGHT_MORE, 0);
+    EXPECT_EQ(Text(IDC_OPTIONS_HEIGHT), "2304");
+    Type(IDC_OPTIONS_HEIGHT, "31999");
+    FocusControl(Item(IDC_OPTIONS_WIDTH));
+    EXPECT_EQ(step(IDC_OPTIONS_HEIGHT_SPINNER, 5, IDC_OPTIONS_HEIGHT), "32000") << "the largest desktop";
+    SendMessageA(dialog, WM_COMMAND, IDC_OPTIONS_WIDTH_LESS, 0);
+    EXPECT_EQ(Text(IDC_OPTIONS_WIDTH), "2048");
     Press(VK_ESCAPE);
     EXPECT_EQ(Quorl, Rect(0, 0, 4096, 1536));
 }
 
-TEST_F(OptionsDialog, ASmallerDesktopGathersItsWindowsAndLeavesTheView) {
-    Command(30); // two screens to the right
-    Command(30);
+TEST_F(OptionsDialog, ASmallerDesktopFoldsWindowsAndKeepsTheView) {
+    RunAction(ACTION_VIEW_TO_RIGHT);
     const HWND editor = OpenWindow("editor", {1500, 200, 1800, 400});
-    Open(ITSELF);
-    Click(IDOK);
-    EXPECT_EQ(PlaceOf(editor).left, 1500) << "the desktop is as large as before";
-    Open(ITSELF);
-    Type(WIDTH, "2048");
-    Click(IDOK);
-    EXPECT_EQ(PlaceOf(editor), Rect(476, 200, 776, 400));
-    EXPECT_EQ(VDesk, Rect(2048, 0, 3072, 768)) << "the next scroll brings it back";
-}
-
-TEST_F(OptionsDialog, ADelayIsChosenByItsRadioAndOnlyATimeNeedsANumber) {
-    Options.mousescroll_delay = 2; // its radio is hidden and cannot be chosen again
-    Open(ITSELF);
-    Click(AFTER_TIME);
-    Type(DELAY_TIME, "70000");
-    Click(AFTER_LEFT_CLICK, BY_MOUSE);
-    EXPECT_FALSE(IsWindowEnabled(At(DELAY_TIME)));
-    Click(ACTIONS, MENUS, IDOK);
-    EXPECT_TRUE(DialogHandles[KEYS_ACTIONS] && DialogHandles[KEYS_CUSTOMIZE_MENU]) << "they outlive it";
-    EXPECT_EQ((Numbers{Options.mousescroll_delay, Options.mousescroll_type}), (Numbers{1, 2}));
-    EXPECT_EQ(Options.mousescroll_delay_time, 70000) << "there is no limit, and it need not be enabled";
-}
-
-TEST_F(OptionsDialog, StoredKindsOfScrollSurviveWhateverTheyAre) {
-    const int types[] = {BY_MIN, BY_MAX, BY_MOUSE, BY_SCREEN};
-    const int delays[] = {AT_ONCE, AFTER_LEFT_CLICK, AFTER_RIGHT_CLICK, AFTER_TIME};
-    for (const int kind : {0, 1, 2, 3, 4, -1}) {
-        Options.mousescroll_type = Options.mousescroll_delay = kind;
-        Open(ITSELF);
-        const int bKnown = kind >= 0 && kind < 4;
-        EXPECT_EQ(Checked(), bKnown ? Numbers({types[kind], delays[kind]}) : Numbers{}) << kind;
-        EXPECT_EQ(IsWindowEnabled(At(DELAY_TIME)), kind == 3);
+    for (const char* width : {"4096", "2048"}) {
+        EXPECT_EQ(RectOf(editor).left, 1500);
+        Open(ACTION_OPTIONS);
+        Type(IDC_OPTIONS_WIDTH, width);
         Click(IDOK);
-        EXPECT_EQ((Numbers{Options.mousescroll_type, Options.mousescroll_delay}), Numbers(2, kind));
+    }
+    EXPECT_EQ(RectOf(editor), Rect(476, 200, 776, 400));
+    EXPECT_EQ(VDesk.left, 3072) << "until the next scroll";
+}
+
+TEST_F(OptionsDialog, StoresTheChosenDelayAndOpensOtherDialogs) {
+    Options.mousescroll_delay = 2; // its hidden button must not win over the user's choice
+    Open(ACTION_OPTIONS);
+    Click(IDC_OPTIONS_AFTER_TIME);
+    Type(IDC_OPTIONS_DELAY_TIME, "70000");
+    Click(IDC_OPTIONS_LEFT_CLICK, IDC_OPTIONS_BY_MOUSE, IDC_OPTIONS_ACTIONS, IDC_OPTIONS_MENUS, IDOK);
+    EXPECT_TRUE(DialogHandles[DIALOG_ACTIONS] && DialogHandles[DIALOG_CUSTOMIZE_MENU]);
+    EXPECT_EQ((Numbers{Options.mousescroll_delay, Options.mousescroll_type}), (Numbers{1, 2}));
+    EXPECT_EQ(Options.mousescroll_delay_time, 70000) << "stored although disabled";
+}
+
+TEST_F(OptionsDialog, OkKeepsStoredTypesAndDelays) {
+    const std::size_t checked[] = {0, 2, 2, 2, 2, 0};
+    for (const int stored : {-1, 0, 1, 2, 3, 4}) {
+        Options.mousescroll_type = Options.mousescroll_delay = stored;
+        Open(ACTION_OPTIONS);
+        EXPECT_EQ(Checked().size(), checked[stored + 1]);
+        EXPECT_EQ(IsWindowEnabled(Item(IDC_OPTIONS_DELAY_TIME)), stored == 3);
+        Click(IDOK);
+        EXPECT_EQ((Numbers{Options.mousescroll_type, Options.mousescroll_delay}), Numbers(2, stored));
     }
 }
-
-TEST_F(OptionsDialog, WithoutTheHookLibraryTheMouseOptionsAreOffAndStay) {
-    Options.hook_present = 0;
-    Options.mousescroll_delay = 3;
-    Open(ITSELF);
-    EXPECT_EQ(Checked(), Numbers{});
-    EXPECT_FALSE(IsWindowEnabled(At(MOUSESCROLL)) || IsWindowEnabled(At(DELAY_TIME)));
-    Click(IDOK);
-    EXPECT_EQ(Options.mousescroll_delay_time, 100);
-}
-
-} // namespace

@@ -1,88 +1,77 @@
-// Which dialogs are open, by dialogs that do nothing but count, and by all of them when calls fail.
+// Which dialogs are open.
 #include "dialogs/registry.h"
 
 #include "regions/region_table.h"
+#include "resources/control_ids.h"
 #include "support/faults.h"
 #include "support/quorl_test.h"
 
-namespace {
-
 class Registry : public RunningQuorl {};
 
-int Opened; // WM_INITDIALOG
-
-INT_PTR CALLBACK CountingDlgProc(HWND dialog, UINT message, WPARAM, LPARAM) {
-    if (message != WM_INITDIALOG)
-        return 0;
-    ++Opened;
-    EXPECT_EQ(OpenDialog(MainWnd, DIALOG_ACTIONS, CountingDlgProc), 0) << "one at a time is made";
-    ShowWindow(dialog, SW_SHOW);
-    return 1;
+TEST_F(Registry, OpeningATemplateAgainRaisesItsDialogNearTheMiddle) {
+    OpenDialog(MainWnd, DIALOG_FIND_WINDOW);
+    const HWND find = DialogHandles[DIALOG_FIND_WINDOW];
+    WindowOf(find).rect = {0, 0, 300, 200};
+    for (const DialogId id : {DIALOG_FIND_WINDOW, DIALOG_FIND_REGION}) { // they share a template
+        OpenDialog(MainWnd, DIALOG_ABOUT);
+        EXPECT_TRUE(OpenDialog(MainWnd, id));
+        EXPECT_EQ(Desk.foreground, find);
+        EXPECT_EQ(RectOf(find), Rect(437, 334, 737, 534));
+    }
+    EXPECT_EQ(DialogHandles[DIALOG_FIND_REGION], nullptr);
+    CloseDialog(find);
+    OpenDialog(MainWnd, DIALOG_FIND_REGION);
+    EXPECT_EQ(WindowOf(DialogHandles[DIALOG_FIND_REGION]).title, "Find Region...");
 }
 
-HWND Open(int id) {
-    EXPECT_EQ(OpenDialog(MainWnd, id, CountingDlgProc), 1);
-    return Desk.foreground;
-}
-
-TEST_F(Registry, ASecondRequestRaisesTheDialogNearTheMiddleAsItStands) {
-    const HWND about = Open(DIALOG_ABOUT);
-    RowOf(about).place = {0, 0, 300, 200};
-    const HWND other = Open(DIALOG_NAME_REGION);
-    ASSERT_NE(other, about);
-    EXPECT_EQ(Open(DIALOG_ABOUT), about);
-    EXPECT_EQ(PlaceOf(about), Rect(437, 334, 737, 534));
-    EXPECT_EQ(Opened, 2) << "no dialog is filled again";
-}
-
-TEST_F(Registry, AClosedDialogOpensAnewAndLeavesThoseThatItHasOpened) {
-    const HWND help = Open(DIALOG_HELP);
-    EXPECT_EQ(OpenDialog(help, DIALOG_ABOUT, CountingDlgProc), 1);
-    const HWND owned = Desk.foreground;
-    EXPECT_EQ(CloseDialog(help, DIALOG_HELP, 0), 1);
+TEST_F(Registry, OwnedDialogsOutliveTheirOwner) {
+    OpenDialog(MainWnd, DIALOG_HELP);
+    const HWND help = DialogHandles[DIALOG_HELP];
+    OpenDialog(help, DIALOG_ABOUT);
+    CloseDialog(help);
+    CloseDialog(MainWnd); // not a dialog: nothing happens
+    EXPECT_TRUE(IsWindow(MainWnd));
     EXPECT_FALSE(IsWindow(help));
-    EXPECT_EQ(RowOf(owned).owner, MainWnd);
-    EXPECT_NE(Open(DIALOG_HELP), help);
+    EXPECT_EQ(WindowOf(DialogHandles[DIALOG_ABOUT]).owner, MainWnd);
 }
 
-constexpr int NAME = 1025, LIST = 1041, RESIZE_OK = 1044; // controls
+TEST_F(Registry, ADialogIsNotCreatedWhileAnotherIs) {
+    pSetLayeredWindowAttributes = nullptr; // shows a box when the dialog is created
+    AnswerBoxes({IDOK});
+    Desk.duringBox = [] { EXPECT_FALSE(OpenDialog(MainWnd, DIALOG_ABOUT)); };
+    EXPECT_TRUE(OpenDialog(MainWnd, DIALOG_TRANSPARENCY));
+    EXPECT_EQ(DialogHandles[DIALOG_ABOUT], nullptr);
+}
 
-// The user opens each dialog that comes, fills in what it asks for, and closes it.
-void GoThroughDialogs() {
-    for (const int row : {49, 52, 53, 111, 116, 56, 57, 54, 55, 74}) {
-        Command(row);
-        for (const auto& [dialog, id] : DialogSlots) {
-            if (!dialog)
-                continue;
-            if (const HWND name = ControlOf(dialog, NAME))
-                TypeInto(name, "here");
-            if (const HWND list = ControlOf(dialog, LIST))
-                ChooseRow(list, 0);
-            ClickControl(ControlOf(dialog, id == DIALOG_RESIZE_WINDOWS ? RESIZE_OK : IDOK));
+static void UseAllDialogs() {
+    for (int id = 0; id < NUM_DIALOGS; ++id) {
+        OpenDialog(MainWnd, static_cast<DialogId>(id));
+        for (const HWND dialog : DialogHandles) {
+            if (const HWND name = FindControl(dialog, IDC_REGION_NAME))
+                TypeText(name, "here");
+            if (const HWND list = FindControl(dialog, IDC_FIND_LIST))
+                SelectItem(list, 0);
+            ClickControl(
+                FindControl(dialog, dialog == DialogHandles[DIALOG_RESIZE_WINDOWS] ? IDC_RESIZE_OK : IDOK));
         }
     }
 }
 
-// Something fails in the first round, and nothing in the second. A dialog that could not be shown stays
-// hidden: only that one may be left.
-void TwoRounds() {
-    OpenWindow("mail", {2000, 300, 2400, 500});
-    Desk.answers.assign(20, IDOK);
-    GoThroughDialogs();
-    Desk.fault.callsLeft = 0;
-    GoThroughDialogs();
-    int hidden = 0;
-    for (const DialogSlot& slot : DialogSlots) {
-        hidden += slot.handle != nullptr;
-        EXPECT_FALSE(IsWindowVisible(slot.handle));
-    }
-    EXPECT_LE(hidden, 1);
-    EXPECT_GE(num_regions + hidden, 1);
-    EXPECT_EQ(Desk.surprises, 0);
+TEST_F(Registry, DialogsStayUsableWhicheverCallFails) {
+    const auto scenario = [] {
+        OpenWindow("mail", {2000, 300, 2400, 500});
+        Desk.boxAnswers.assign(20, IDOK);
+        UseAllDialogs();
+        Desk.fault.callsLeft = 0;
+        UseAllDialogs();
+        int hidden = 0; // one that could not be shown
+        for (const HWND dialog : DialogHandles) {
+            hidden += dialog != nullptr;
+            EXPECT_FALSE(IsWindowVisible(dialog));
+        }
+        EXPECT_LE(hidden, 1);
+        EXPECT_GE(num_regions + hidden, 1);
+        EXPECT_EQ(Desk.unexpected, 0);
+    };
+    EXPECT_GT(FailEachCall(scenario), 100);
 }
-
-TEST_F(Registry, WhicheverCallFailsNoDialogIsLeftThatCannotBeUsedAgain) {
-    EXPECT_GT(FailEachCall(TwoRounds), 100);
-}
-
-} // namespace

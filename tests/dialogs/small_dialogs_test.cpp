@@ -1,89 +1,66 @@
 // Find Window, Find Region, Resize Windows, Transparency, Help and About.
 #include "dialogs/dialog_test.h"
 
-namespace {
-
-// Rows, and controls of their dialogs.
-constexpr int FIND_WINDOW = 52, RESIZE = 53, HELP = 56, ABOUT = 57, FIND_REGION = 111, TRANSPARENCY = 116;
-constexpr int APPLY = 2, HEIGHT = 1000, WIDTH = 1001, LIST = 1041, DESKTOP = 1043, RESIZE_OK = 1044;
-constexpr int SLIDER = 1079;
-
 using SmallDialogs = DialogTest;
 
-TEST_F(SmallDialogs, FindWindowListsWhatQuorlMayTouchAndBringsTheViewThereUnlessItIsGoneOrHangs) {
+TEST_F(SmallDialogs, FindWindowGoesToALivingManagedWindow) {
     const HWND untitled = OpenWindow("", {2000, 300, 2400, 500});
-    const HWND gone = OpenWindow("gone", {3000, 300, 3400, 500});
     const HWND hung = OpenWindow("hung", {3000, 300, 3400, 500});
-    OpenWindow("flat", {0, 0, 100, 0});
-    Open(FIND_WINDOW);
-    EXPECT_EQ(Kept(LIST).rows.size(), 3U) << "not the flat one";
-    RowOf(hung).answer = DeskAnswer::Hung;
-    KillWindow(gone);
-    for (const int row : {1, 2}) {
-        Choose(LIST, row);
-        EXPECT_EQ(VDesk.left, 0) << "row " << row;
-        EXPECT_EQ(Desk.foreground, dialog);
-    }
-    Desk.fault = {"GetForegroundWindow", 1, 1, 0, 0}; // it has not taken the foreground yet
-    Choose(LIST, 0);
-    EXPECT_EQ(VDesk.left, 2200 - 512);
+    OpenWindow("empty", {0, 0, 100, 0});
+    Open(ACTION_FIND_WINDOW);
+    EXPECT_EQ(Control(IDC_FIND_LIST).items.size(), 2U);
+    WindowOf(hung).response = DeskResponse::Hung;
+    Choose(IDC_FIND_LIST, 1);
+    EXPECT_EQ(Desk.foreground, dialog);
+    EXPECT_EQ(VDesk.left, 0);
+    Desk.fault = {"GetForegroundWindow", 1, true, 0, 0}; // it takes the foreground later
+    Choose(IDC_FIND_LIST, 0);
     EXPECT_EQ(Desk.foreground, untitled);
+    EXPECT_EQ(VDesk.left, 2200 - 512);
 }
 
-TEST_F(SmallDialogs, FindRegionBringsTheViewToTheCornerOfTheChosenOne) {
-    Mark("web", 2048, 100);
-    Mark("far", 32000, 32000);
-    Open(FIND_REGION);
-    Choose(LIST, 1);
+TEST_F(SmallDialogs, FindRegionGoesToTheCornerOfTheRegion) {
+    AddRegion("far", 32000, 32000);
+    AddRegion("web", 2048, 100);
+    Open(ACTION_FIND_REGION);
+    Choose(IDC_FIND_LIST, 1); // they are sorted
     EXPECT_EQ(ViewCorner(), (POINT{2048, 100}));
-    Choose(LIST, 0);
-    EXPECT_EQ(ViewCorner(), (POINT{3072, 768}));
 }
 
-TEST_F(SmallDialogs, ResizeAppliesASizeAtTheCornerOfTheWindowThatWasChosenLast) {
+TEST_F(SmallDialogs, ResizeKeepsTheCornerAndTheChosenWindow) {
     const auto apply = [this](const char* width, const char* height) {
-        Type(WIDTH, width);
-        Type(HEIGHT, height);
-        Click(APPLY);
+        Open(ACTION_RESIZE_WINDOW);
+        Type(IDC_RESIZE_WIDTH, width);
+        Type(IDC_RESIZE_HEIGHT, height);
+        Click(IDC_RESIZE_APPLY, IDC_RESIZE_OK);
     };
     const HWND mail = OpenWindow("mail", {500, 100, 800, 300});
-    Open(RESIZE);
-    EXPECT_EQ(TextOf(DESKTOP), "4096x1536");
-    apply("400", "400"); // none is chosen yet
-    Choose(LIST, 0);
-    EXPECT_EQ(TextOf(WIDTH) + "x" + TextOf(HEIGHT), "300x200") << "choosing overwrites what was typed";
+    apply("400", "400");
+    EXPECT_EQ(RectOf(mail), Rect(500, 100, 800, 300)) << "none is chosen";
+    Open(ACTION_RESIZE_WINDOW);
+    Choose(IDC_RESIZE_LIST, 0);
+    EXPECT_EQ(Text(IDC_RESIZE_WIDTH) + " " + Text(IDC_RESIZE_HEIGHT) + " " + Text(IDC_RESIZE_DESKTOP),
+              "300 200 4096x1536");
     apply("1500", "250");
-    EXPECT_EQ(PlaceOf(mail), Rect(500, 100, 2000, 350));
-    Click(RESIZE_OK);
-    Open(RESIZE);
+    EXPECT_EQ(RectOf(mail), Rect(500, 100, 2000, 350));
     apply("600", "100");
-    EXPECT_EQ(PlaceOf(mail), Rect(500, 100, 1100, 200)) << "also before this dialog was opened";
-    RowOf(mail).answer = DeskAnswer::Hung;
-    Choose(LIST, 0);
+    EXPECT_EQ(RectOf(mail), Rect(500, 100, 1100, 200)) << "chosen before the dialog closed";
+    WindowOf(mail).response = DeskResponse::Hung;
     apply("300", "250");
-    EXPECT_EQ(PlaceOf(mail), Rect(500, 100, 1100, 200)) << "one that hangs keeps its size";
+    EXPECT_EQ(RectOf(mail), Rect(500, 100, 1100, 200));
 }
 
-TEST_F(SmallDialogs, KeysEndAllButTransparency) {
-    Open(HELP);
+TEST_F(SmallDialogs, HelpTextShrinksWithTheDialog) {
+    Open(ACTION_HELP);
     SendMessageA(dialog, WM_SIZE, 0, MAKELPARAM(500, 400));
-    EXPECT_EQ(PlaceOf(At(IDOK)).top - PlaceOf(At(1068)).bottom, 10) << "the text gives way to the button";
-    for (const int row : {FIND_WINDOW, FIND_REGION, HELP, ABOUT, TRANSPARENCY}) {
-        Open(row);
-        EXPECT_NE(Desk.focus, dialog) << row;
-        Press(VK_RETURN);
-        EXPECT_EQ(IsOpen(), row == TRANSPARENCY) << row;
-    }
+    EXPECT_EQ(RectOf(Item(IDOK)).top - RectOf(Item(IDC_HELP_TEXT)).bottom, 10);
 }
 
-TEST_F(SmallDialogs, TheMapFollowsTheSliderAtOnce) {
-    Options.alpha = 0x7fffff04; // from a file; only the low 8 bits count
-    Open(TRANSPARENCY);
-    EXPECT_EQ(Kept(SLIDER).position, 10) << "the least that one can see";
-    EXPECT_EQ(Kept(SLIDER).most, 255);
-    DragSlider(At(SLIDER), 120);
-    EXPECT_EQ(RowOf(MainWnd).alpha, 120);
-    EXPECT_EQ(Options.alpha, 120U);
+TEST_F(SmallDialogs, TheMapFollowsTheTransparencySlider) {
+    Options.alpha = 0x7fffff04; // only the low 8 bits count
+    Open(ACTION_TRANSPARENCY);
+    EXPECT_EQ(Control(IDC_TRANSPARENCY_SLIDER).position, OptionDefs[OPTION_ALPHA].userMin);
+    DragSlider(Item(IDC_TRANSPARENCY_SLIDER), 120);
+    EXPECT_EQ(WindowOf(MainWnd).alpha, 120);
+    EXPECT_EQ(Options.alpha, 120);
 }
-
-} // namespace

@@ -1,34 +1,38 @@
-// The dialogs as a user works them: found by their titles, pressed by the mouse, typed into. Controls are
-// named by number; what they show is asked of them by message.
+// Dialogs as a user works them: opened by title, clicked, typed into. Controls are named by id.
 #pragma once
 
+#include "resources/control_ids.h"
 #include "user.h"
 
-// Has Quorl run the row, and insists on the dialog with this title. The same by a button of an open dialog,
-// which then closes by its OK.
-HWND OpenByRow(int row, const char* title);
+// Runs the action and requires the dialog with this title.
+template <ActionId ID>
+HWND OpenDialog(const char* title) {
+    RunActions<ID>();
+    return WaitForBox(title);
+}
+// The same by a button of an open dialog, which is then closed by its OK.
 HWND OpenByButton(HWND dialog, int button, const char* title);
 
-// The dialog's control, as soon as it is there; null when patience is over.
+// The dialog's control as soon as it exists; null after the timeout.
 HWND Control(HWND dialog, int id);
-// The number of the control that has the keyboard; 0: none of the dialog's.
+// The id of the dialog's focused control; 0: none.
 int Focused(HWND dialog);
 
-// Clicks into the middle of a window with the left button, and waits until its program is done with it. The
-// second one does not wait, for a click that opens something modal.
+// Clicks into the middle of a window and waits until its program has handled it; PressOnly does not wait, for
+// a click that opens something modal.
 void Press(HWND window);
 void PressOnly(HWND window);
-// Clicks at a point of a window's client area.
+// Clicks at a point of the client area.
 void PressAt(HWND window, POINT at);
 
-// Clicks a button of the dialog that closes it, or presses a key, and waits for its end.
+// Closes the dialog by a button or a key.
 void CloseBy(HWND dialog, int id);
 void CloseByKey(HWND dialog, WORD key);
 
-// Clicks into an edit box and types over what it holds; letters, digits and blanks.
+// Replaces the text of an edit box; letters, digits and blanks.
 void TypeOver(HWND edit, const std::string& text);
 std::string ControlText(HWND dialog, int id);
 
-// List boxes. The row with this text is insisted on.
+// List boxes. PressItem requires an item with this text.
 std::vector<std::string> ListTexts(HWND list);
-void PressRow(HWND list, const std::string& text);
+void PressItem(HWND list, const std::string& text);

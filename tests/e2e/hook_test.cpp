@@ -1,52 +1,37 @@
-// The companion library on its own: this program loads it and gives it a window, as quorl.exe does.
+// quorl.dll on its own: this program loads it and names a window, as quorl.exe does.
 #include "user.h"
 
 #include <tlhelp32.h>
 
-#include <set>
 #include <thread>
 
 namespace {
 
-constexpr UINT NEWS = 1124;
+constexpr UINT HOOK_MESSAGE = 1124;
 constexpr POINT TARGET = {300, 300}; // over the window
 
-std::vector<WPARAM> News; // as it was handled
-int Pressed;              // presses that reached the window itself
+std::vector<WPARAM> Reported; // by the library, in order
+int Pressed;                  // presses that reached the window itself
 
 LRESULT CALLBACK TargetWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == NEWS)
-        News.push_back(wParam);
+    if (message == HOOK_MESSAGE)
+        Reported.push_back(wParam);
     Pressed += message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK;
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
-void Pump() {
-    MSG message;
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
-        DispatchMessageA(&message);
-}
-
 int CountOf(WPARAM message) {
-    Pump();
-    return static_cast<int>(std::count(News.begin(), News.end(), message));
+    HandleMessages();
+    return static_cast<int>(std::count(Reported.begin(), Reported.end(), message));
 }
 
-void MoveBy(LONG dx) {
+void MoveBy(int dx) {
     SendMouse(TARGET.x + dx, TARGET.y);
 }
 
-// Another program's hook on our messages, which keeps what it sees to itself.
-LRESULT CALLBACK KeepToItself(int, WPARAM, LPARAM) {
+// Another program's hook on our messages that does not call CallNextHookEx.
+LRESULT CALLBACK HideMessage(int, WPARAM, LPARAM) {
     return 0;
-}
-
-void Shake(const std::stop_token& stop) {
-    for (LONG i = 0; !stop.stop_requested(); i = (i + 1) % 20) {
-        MoveBy(i);
-        if (i == 0)
-            Sleep(1);
-    }
 }
 
 class HookLibrary : public testing::Test {
@@ -58,12 +43,12 @@ class HookLibrary : public testing::Test {
     void (*SetMouseHook)(int) = nullptr;
 
     void SetUp() override {
-        MoveMouse(TARGET);
-        WNDCLASSA description = {};
+        MoveMouse(TARGET.x, TARGET.y);
+        WNDCLASSA description{};
         description.lpfnWndProc = TargetWndProc;
         description.lpszClassName = "HookTarget";
         RegisterClassA(&description);
-        threadsBefore = Watchers();
+        threadsBefore = HookThreads();
         OpenTarget();
         Load();
     }
@@ -76,37 +61,35 @@ class HookLibrary : public testing::Test {
     void OpenTarget() {
         window = CreateWindowExA(WS_EX_TOPMOST | WS_EX_NOACTIVATE, "HookTarget", "", WS_POPUP | WS_VISIBLE,
                                  200, 200, 300, 300, nullptr, nullptr, nullptr, nullptr);
-        Pump();
-        News.clear();
+        HandleMessages();
+        Reported.clear();
     }
 
-    template <typename Function>
-    void Find(Function& function, const char* name) {
-        function = reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
-    }
-
-    // Loads the library and has it watch.
+    // Loads the library and sets its hook.
     void Load() {
         library = LoadLibraryA("quorl.dll");
-        Find(SaveSharedData, "SaveSharedData");
-        Find(SetMouseHook, "SetMouseHook");
+        const auto find = [this]<typename Function>(Function& function, const char* name) {
+            function = reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+        };
+        find(SaveSharedData, "SaveSharedData");
+        find(SetMouseHook, "SetMouseHook");
         SaveSharedData(window);
         SetMouseHook(1);
     }
 
-    // Nothing but this program holds the library once it does not watch. Then it is loaded again.
-    void ExpectToGoWithOneRelease() {
+    // Without its hook nothing but this program's reference holds the library.
+    void ExpectToUnloadAtOneRelease() {
         SetMouseHook(0);
         FreeLibrary(library);
         EXPECT_FALSE(GetModuleHandleA("quorl.dll"));
         Load();
     }
 
-    // The threads that the library has begun.
-    std::set<DWORD> Watchers() {
+    // The threads that the library has started.
+    std::set<DWORD> HookThreads() {
         std::set<DWORD> threads;
         const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
-        THREADENTRY32 entry = {};
+        THREADENTRY32 entry{};
         entry.dwSize = sizeof entry;
         for (BOOL more = Thread32First(snapshot, &entry); more; more = Thread32Next(snapshot, &entry))
             if (entry.th32OwnerProcessID == GetCurrentProcessId() &&
@@ -116,13 +99,13 @@ class HookLibrary : public testing::Test {
         return threads;
     }
 
-    HANDLE OpenWatcher() { return OpenThread(THREAD_ALL_ACCESS, FALSE, *Watchers().begin()); }
+    HANDLE OpenHookThread() { return OpenThread(THREAD_ALL_ACCESS, FALSE, *HookThreads().begin()); }
 
-    // How often the library tells of one click: presses, once its release is told as well or time is over.
-    void ExpectToTellOfAClick(int times) {
-        News.clear();
-        Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
-        EXPECT_SOON(CountOf(WM_LBUTTONUP) >= times, true);
+    // Clicks, and expects so many reports of the press.
+    void ExpectReportsOfAClick(int times) {
+        Reported.clear();
+        Click(VK_LBUTTON);
+        EXPECT_EVENTUALLY(CountOf(WM_LBUTTONUP) >= times, true);
         Sleep(100);
         EXPECT_EQ(CountOf(WM_LBUTTONDOWN), times);
     }
@@ -130,35 +113,36 @@ class HookLibrary : public testing::Test {
 
 } // namespace
 
-TEST_F(HookLibrary, OneMoveWaitsForAWindowThatIsBusyAndEveryClickDoes) {
-    constexpr int TIMES = 3; // over before a slow machine takes the window for one that works
+TEST_F(HookLibrary, QueuesOneMoveAndEveryClickForABusyWindow) {
+    constexpr int TIMES = 3; // few enough that a slow machine does not take the window for a responding one
     Pressed = 0;
-    for (int i = 0; i < TIMES; ++i) { // busy: nothing is taken out of the queue meanwhile
+    for (int i = 0; i < TIMES; ++i) { // no message is handled meanwhile
         MoveBy(i);
-        Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
-        Click(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
-        Click(MOUSEEVENTF_WHEEL, MOUSEEVENTF_WHEEL);
+        Click(VK_LBUTTON);
+        Click(VK_RBUTTON);
+        TurnWheel();
+        TurnWheel();
         MoveBy(-i);
     }
-    Sleep(6300); // long enough to be called hung
-    // A thread that sends input waits for the hook, and while it waits its windows do not count as hung.
+    Sleep(6300); // until the window counts as hung
+    // The thread that sends input waits for the hook, and while it waits its windows do not count as hung.
     std::jthread(MoveBy, 20).join();
     Sleep(100);
     EXPECT_EQ(CountOf(WM_MOUSEMOVE), 1);
-    EXPECT_EQ(News.front(), WPARAM{WM_MOUSEMOVE}) << "the first news stays the first";
+    EXPECT_EQ(Reported.front(), WPARAM{WM_MOUSEMOVE});
     for (const WPARAM message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONUP})
         EXPECT_EQ(CountOf(message), TIMES) << message;
-    EXPECT_EQ(News.size(), 1U + 4 * TIMES) << "the wheel tells nothing";
-    EXPECT_EQ(Pressed, TIMES) << "nothing is withheld";
+    EXPECT_EQ(Reported.size(), 1U + 4 * TIMES) << "the wheel is not reported";
+    EXPECT_EQ(Pressed, TIMES) << "no input is withheld";
     MoveBy(50);
-    EXPECT_SOON(CountOf(WM_MOUSEMOVE), 2);
+    EXPECT_EVENTUALLY(CountOf(WM_MOUSEMOVE), 2);
 }
 
-TEST_F(HookLibrary, OneMoveWaitsHoweverOftenTheWatchingEndsAndBegins) {
+TEST_F(HookLibrary, QueuesOneMoveAcrossRestarts) {
     for (int time = 0; time < 3; ++time) {
         SetMouseHook(1);
         MoveBy(time);
-        Click(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
+        Click(VK_LBUTTON);
         Sleep(100);
         SetMouseHook(0);
     }
@@ -167,83 +151,89 @@ TEST_F(HookLibrary, OneMoveWaitsHoweverOftenTheWatchingEndsAndBegins) {
     EXPECT_EQ(CountOf(WM_LBUTTONUP), 3);
 }
 
-TEST_F(HookLibrary, AForeignHookThatHidesTheMessagesHoldsTheNewsUpOnce) {
-    SetWindowsHookExA(WH_GETMESSAGE, KeepToItself, nullptr, GetCurrentThreadId());
+TEST_F(HookLibrary, RecoversFromAForeignHookThatHidesMessages) {
+    SetWindowsHookExA(WH_GETMESSAGE, HideMessage, nullptr, GetCurrentThreadId());
     for (int time = 1; time < 4; ++time) {
         MoveBy(time);
-        EXPECT_SOON(CountOf(WM_MOUSEMOVE), time);
-        for (int i = 0; i < 65 && time == 1; ++i) { // a program that is alive takes messages all the time
+        EXPECT_EVENTUALLY(CountOf(WM_MOUSEMOVE), time);
+        for (int i = 0; i < 65 && time == 1; ++i) { // a responding program handles messages all the time
             Sleep(100);
-            Pump();
+            HandleMessages();
         }
     }
 }
 
-TEST_F(HookLibrary, AskedOrLoadedTwiceItWatchesOnce) {
-    for (const std::string asked : {"00", "11", "01", "10", "110", "101"}) {
+TEST_F(HookLibrary, ReportsOnceIfSetOrLoadedTwice) {
+    for (const std::string calls : {"00", "11", "01", "10", "110", "101"}) {
         SetMouseHook(0);
-        for (const char bWatch : asked)
-            SetMouseHook(bWatch == '1');
-        ExpectToTellOfAClick(asked.back() == '1');
+        for (const char set : calls)
+            SetMouseHook(set == '1');
+        ExpectReportsOfAClick(calls.back() == '1');
     }
     Load();
-    EXPECT_EQ(Watchers().size(), 1U);
+    EXPECT_EQ(HookThreads().size(), 1U);
     FreeLibrary(library);
-    ExpectToTellOfAClick(1);
+    ExpectReportsOfAClick(1);
     SetMouseHook(0);
-    EXPECT_EQ(Watchers().size(), 0U) << "the thread has ended when the call is back";
-    ExpectToGoWithOneRelease();
+    EXPECT_EQ(HookThreads().size(), 0U) << "the thread has ended when the call returns";
+    ExpectToUnloadAtOneRelease();
 }
 
-TEST_F(HookLibrary, ComesAndGoesWhileTheMouseMoves) {
-    const std::jthread shaking(Shake);
+TEST_F(HookLibrary, LoadsAndUnloadsWhileTheMouseMoves) {
+    const std::jthread moving([](const std::stop_token& stop) {
+        for (int i = 0; !stop.stop_requested(); i = (i + 1) % 20) {
+            MoveBy(i);
+            if (i == 0)
+                Sleep(1);
+        }
+    });
     for (int i = 0; i < 50; ++i) {
         Sleep(i % 2 * 5U);
-        Pump();
-        ExpectToGoWithOneRelease();
+        HandleMessages();
+        ExpectToUnloadAtOneRelease();
     }
-    EXPECT_SOON(CountOf(WM_MOUSEMOVE) > 0, true);
+    EXPECT_EVENTUALLY(CountOf(WM_MOUSEMOVE) > 0, true);
 }
 
-TEST_F(HookLibrary, AWindowThatIsGoneEndsTheWatchingAndAnotherOneHasTheNewsOnceItIsNamed) {
+TEST_F(HookLibrary, StopsWithItsWindowAndReportsToTheNextOne) {
     DestroyWindow(window);
     MoveBy(5);
-    EXPECT_SOON(Watchers().size(), 0U);
+    EXPECT_EVENTUALLY(HookThreads().size(), 0U);
     SetMouseHook(1);
-    EXPECT_EQ(Watchers().size(), 0U) << "there is no window to tell";
+    EXPECT_EQ(HookThreads().size(), 0U) << "there is no window to report to";
     OpenTarget();
     SaveSharedData(window);
     SetMouseHook(1);
     const HWND first = window;
     OpenTarget();
-    SaveSharedData(window); // while it watches
+    SaveSharedData(window); // while the hook is set
     DestroyWindow(first);
-    ExpectToTellOfAClick(1);
+    ExpectReportsOfAClick(1);
     SaveSharedData(nullptr);
-    ExpectToTellOfAClick(0);
-    ExpectToGoWithOneRelease();
+    ExpectReportsOfAClick(0);
+    ExpectToUnloadAtOneRelease();
 }
 
-TEST_F(HookLibrary, AThreadThatWasKilledIsReplacedAndHoldsNothing) {
+TEST_F(HookLibrary, ReplacesAKilledThread) {
     for (int time = 0; time < 2; ++time) {
         SetMouseHook(1);
-        ExpectToTellOfAClick(1);
-        TerminateThread(OpenWatcher(), 0);
-        EXPECT_SOON(Watchers().size(), 0U);
-        ExpectToTellOfAClick(0);
+        ExpectReportsOfAClick(1);
+        TerminateThread(OpenHookThread(), 0);
+        EXPECT_EVENTUALLY(HookThreads().size(), 0U);
+        ExpectReportsOfAClick(0);
     }
-    ExpectToGoWithOneRelease();
+    ExpectToUnloadAtOneRelease();
 }
 
-TEST_F(HookLibrary, TheCodeOfAThreadThatEndsTooLateStaysUntilItHasEnded) {
-    const HANDLE watcher = OpenWatcher();
-    SuspendThread(watcher);
+TEST_F(HookLibrary, StaysLoadedUntilALateThreadHasEnded) {
+    const HANDLE thread = OpenHookThread();
+    SuspendThread(thread);
     SetMouseHook(0);
     FreeLibrary(library);
-    EXPECT_TRUE(GetModuleHandleA("quorl.dll")) << "the thread is still in it";
-    ResumeThread(watcher);
-    EXPECT_EQ(WaitForSingleObject(watcher, 5000), WAIT_OBJECT_0);
+    EXPECT_TRUE(GetModuleHandleA("quorl.dll"));
+    ResumeThread(thread);
+    EXPECT_EQ(WaitForSingleObject(thread, 5000), WAIT_OBJECT_0);
     Load();
-    ExpectToTellOfAClick(1);
-    ExpectToGoWithOneRelease();
+    ExpectReportsOfAClick(1);
+    ExpectToUnloadAtOneRelease();
 }

@@ -4,12 +4,12 @@
 
 namespace {
 
-// Reads a line of the settings file after they were saved.
-void SeeStored(const char* act, const char* key, const std::string& wanted) {
-    DoRow(SAVE);
-    const std::string value = Soon([key] { return Stored(key); }, wanted);
-    Say("  %s: quorl.ini has %s=%s", act, key, value.c_str());
-    Insist(value == wanted, wanted);
+// Saves the settings and requires a value in the file.
+void SeeSaved(const char* step, const char* key, const std::string& wanted) {
+    RunActions<ACTION_SAVE_SETTINGS>();
+    const std::string value = Eventually([key] { return Stored(key); }, wanted);
+    Say("  %s: quorl.ini has %s=%s", step, key, value.c_str());
+    Require(value == wanted, wanted);
 }
 
 void GoHome() {
@@ -17,165 +17,154 @@ void GoHome() {
 }
 
 void SetOptions() {
-    constexpr int WIDTH = 1001, WIDTH_SPINNER = 54322;
     constexpr POINT UP = {7, 5};
     GoHome();
-    const HWND dialog = OpenByRow(54, "Options...");
-    const auto width = [dialog] { return ControlText(dialog, WIDTH); };
+    const HWND dialog = OpenDialog<ACTION_OPTIONS>("Options...");
+    const auto width = [dialog] { return ControlText(dialog, IDC_OPTIONS_WIDTH); };
     const std::string before = width();
-    Until([&] { return width() != before; }, [&] { PressAt(Control(dialog, WIDTH_SPINNER), UP); });
+    Retry([&] { return width() != before; },
+          [&] { PressAt(Control(dialog, IDC_OPTIONS_WIDTH_SPINNER), UP); });
     Say("  the arrow beside Desktop Width: from %s to %s", before.c_str(), width().c_str());
     const std::string wanted = std::to_string(std::stoi(before) + SCREEN_W);
-    Insist(width() == wanted, wanted);
+    Require(width() == wanted, wanted);
     TakePicture("10-options");
     CloseBy(dialog, IDOK);
-    SeeStored("OK makes the desktop wider", "Quorl.right", wanted);
+    SeeSaved("OK makes the desktop wider", "Quorl.right", wanted);
 }
 
+// By keyboard alone. Escape keeps what was applied.
 void BindAKey() {
-    constexpr int ACTIONS_BUTTON = 3, KEYS = 1038, LIST = 1051, APPLY = 1053, RIGHT_BY_SCREEN = 25;
-    const HWND dialog = OpenByButton(OpenByRow(54, "Options..."), ACTIONS_BUTTON, "Actions...");
-    Until([] { return Stored("Action30") == "-1|-1|6|81|0"; },
-          [dialog] {
-              Press(Control(dialog, LIST));
-              PressKeys({VK_HOME});
-              PressInTurn(std::vector<WORD>(RIGHT_BY_SCREEN, VK_DOWN));
-              Press(Control(dialog, KEYS)); // drops the list
-              Press(Control(dialog, KEYS));
-              PressKeys({'Q'});
-              Press(Control(dialog, APPLY));
-              DoRow(SAVE);
-          });
+    constexpr int ITEM = 25; // of ACTION_SCREEN_RIGHT; the list has only what can have a key
+    const HWND dialog = OpenDialog<ACTION_DEFINE_ACTIONS>("Actions...");
+    EXPECT_EVENTUALLY(Focused(dialog), IDC_ACTIONS_LIST);
+    PressInTurn({VK_END, VK_HOME});
+    PressInTurn(std::vector<WORD>(ITEM, VK_DOWN));
+    PressInTurn({VK_TAB, VK_SPACE, VK_SPACE});                            // Shift on and off
+    PressInTurn({VK_TAB, VK_TAB, VK_TAB, VK_TAB, 'Q', VK_TAB, VK_SPACE}); // past three flags, the key, Apply
     TakePicture("11-actions");
-    CloseBy(dialog, IDOK);
-    SeeKeys("Apply: Ctrl+Alt+Q moves one desktop to the right", {VK_CONTROL, VK_MENU, 'Q'}, SCREEN_W, 0);
+    PressInTurn({VK_TAB, VK_TAB, VK_TAB, VK_RIGHT}); // Clear, OK, the tabs
+    EXPECT_EVENTUALLY(ControlText(dialog, IDC_ACTIONS_GROUP), "Mouse");
+    CloseByKey(dialog, VK_ESCAPE);
+    SeeSaved("Apply binds Ctrl+Alt+Q", "Action30", "-1|-1|6|81|0");
+    SeeKeys("Ctrl+Alt+Q moves one desktop to the right", {VK_CONTROL, VK_MENU, 'Q'}, SCREEN_W, 0);
     GoHome();
 }
 
 void ComposeMenu() {
-    constexpr int MENUS_BUTTON = 1064, INTO = 3, ACTION_LIST = 1062, MENU_LIST = 1061;
-    const HWND dialog = OpenByButton(OpenByRow(54, "Options..."), MENUS_BUTTON, "Customize Menu...");
-    const auto last = [dialog] { return ListTexts(Control(dialog, MENU_LIST)).back(); };
-    PressRow(Control(dialog, ACTION_LIST), "Find Window...");
-    Until([&] { return last() == "Find Window..."; }, [&] { Press(Control(dialog, INTO)); });
+    const HWND dialog =
+        OpenByButton(OpenDialog<ACTION_OPTIONS>("Options..."), IDC_OPTIONS_MENUS, "Customize Menu...");
+    const auto last = [dialog] { return ListTexts(Control(dialog, IDC_MENU_LIST)).back(); };
+    PressItem(Control(dialog, IDC_MENU_ACTIONS), "Find Window...");
+    Retry([&] { return last() == "Find Window..."; }, [&] { Press(Control(dialog, IDC_MENU_ADD)); });
     Say("  >>>>: the last entry of the menu is \"%s\"", last().c_str());
     TakePicture("12-menu");
     CloseBy(dialog, IDOK);
-    SeeStored("OK keeps the menu", "quorl_menu", "54|55|74|77|49|-1|56|57|-1|59|52");
+    SeeSaved("OK keeps the menu", "quorl_menu", "54|55|74|77|49|-1|56|57|-1|59|52");
 }
 
 void NameTheView() {
-    constexpr int NAME = 1025;
     SeeKeys("Ctrl+Alt+Q", {VK_CONTROL, VK_MENU, 'Q'}, SCREEN_W, 0);
-    const HWND dialog = OpenByRow(49, "Name Region");
-    Until([&] { return ControlText(dialog, NAME) == "Notes"; },
-          [&] { TypeOver(Control(dialog, NAME), "Notes"); });
-    Say("  the name is typed: %s", ControlText(dialog, NAME).c_str());
-    Insist(ControlText(dialog, NAME) == "Notes", "the name");
+    const HWND dialog = OpenDialog<ACTION_MARK_REGION>("Name Region");
+    const auto name = [dialog] { return ControlText(dialog, IDC_REGION_NAME); };
+    Retry([&] { return name() == "Notes"; }, [&] { TypeOver(Control(dialog, IDC_REGION_NAME), "Notes"); });
+    Say("  the name is typed: %s", name().c_str());
+    Require(name() == "Notes", "the name");
     TakePicture("13-name-region");
     CloseBy(dialog, IDOK);
-    SeeStored("OK makes a region of the view", "num_regions", "4");
+    SeeSaved("OK makes a region of the view", "num_regions", "4");
     GoHome();
     SeeKeys("Ctrl+Alt+Shift+3 jumps to Notes", {VK_CONTROL, VK_MENU, VK_SHIFT, '3'}, SCREEN_W, 0);
     GoHome();
 }
 
-// Opens a list and chooses from it once Quorl has looked at the desktop and moves the dialog with the view,
-// as it does each window. One that it did not know when the view left would be carried off when the view
-// comes back.
-void Find(int row, const char* title, const char* picture, const std::string& text) {
-    constexpr DWORD LONGEST_LOOK = 2000; // ms
-    constexpr int LIST = 1041;
-    const HWND dialog = OpenByRow(row, title);
-    Sleep(LONGEST_LOOK);
+// Selects from a list and requires the view there. Waits first until Quorl has noticed the dialog and moves
+// it with the view like any window: one that was unknown when the view left would move away when it returns.
+void Find(HWND dialog, const char* picture, const std::string& text, const char* step, LONG x, LONG y) {
+    constexpr DWORD LONGEST_REFRESH = 2000; // ms
+    Sleep(LONGEST_REFRESH);
     std::string all;
-    for (const std::string& each : ListTexts(Control(dialog, LIST)))
+    for (const std::string& each : ListTexts(Control(dialog, IDC_FIND_LIST)))
         all += (all.empty() ? "" : ", ") + each;
     Say("  it lists %s", all.c_str());
     TakePicture(picture);
-    PressRow(Control(dialog, LIST), text);
-}
-
-void LeaveFind(const char* title) {
+    PressItem(Control(dialog, IDC_FIND_LIST), text);
+    SeeView(step, x, y);
     GoHome();
-    CloseBy(WaitForBox(title), IDOK);
+    CloseBy(dialog, IDOK);
 }
 
 void FindAWindow() {
-    const Exhibit& mines = Exhibits[WINEMINE];
-    Find(52, "Find Windows...", "14-find-window", TextOf(mines.window));
-    SeeView("winemine is chosen and comes to the middle", (mines.home.left + mines.home.right - SCREEN_W) / 2,
-            (mines.home.top + mines.home.bottom - SCREEN_H) / 2);
-    LeaveFind("Find Windows...");
+    const auto& [left, top, right, bottom] = Programs[WINEMINE].home;
+    Find(OpenDialog<ACTION_FIND_WINDOW>("Find Windows..."), "14-find-window",
+         TextOf(Programs[WINEMINE].window), "winemine is chosen and comes to the middle",
+         (left + right - SCREEN_W) / 2, (top + bottom - SCREEN_H) / 2);
 }
 
 void FindARegion() {
-    Find(111, "Find Region...", "15-find-region", "mail");
-    SeeView("mail is chosen", 2 * SCREEN_W, 0);
-    LeaveFind("Find Region...");
+    Find(OpenDialog<ACTION_FIND_REGION>("Find Region..."), "15-find-region", "mail", "mail is chosen",
+         2 * SCREEN_W, 0);
 }
 
 void ResizeAWindow() {
-    constexpr int APPLY = 2, HEIGHT = 1000, WIDTH = 1001, LIST = 1041, OK = 1044;
-    Exhibit& notepad = Exhibits[NOTEPAD];
-    Place& home = notepad.home;
-    const HWND dialog = OpenByRow(53, "Resize Windows...");
+    DemoProgram& notepad = Programs[NOTEPAD];
+    RECT& home = notepad.home;
+    const HWND dialog = OpenDialog<ACTION_RESIZE_WINDOW>("Resize Windows...");
     home = {home.left, home.top, home.left + 420, home.top + 300};
-    Until([&] { return PlaceOf(notepad.window) == home; },
+    Retry([&] { return WindowRect(notepad.window) == home; },
           [&] {
-              PressRow(Control(dialog, LIST), TextOf(notepad.window));
-              TypeOver(Control(dialog, WIDTH), "420");
-              TypeOver(Control(dialog, HEIGHT), "300");
-              Press(Control(dialog, APPLY));
+              PressItem(Control(dialog, IDC_RESIZE_LIST), TextOf(notepad.window));
+              TypeOver(Control(dialog, IDC_RESIZE_WIDTH), "420");
+              TypeOver(Control(dialog, IDC_RESIZE_HEIGHT), "300");
+              Press(Control(dialog, IDC_RESIZE_APPLY));
           });
-    ShowPlace("Apply", "notepad", notepad.window);
-    Insist(PlaceOf(notepad.window) == home, "420 x 300");
+    SayRect("Apply", "notepad", notepad.window);
+    Require(WindowRect(notepad.window) == home, "420 x 300");
     TakePicture("16-resize");
-    CloseBy(dialog, OK);
+    CloseBy(dialog, IDC_RESIZE_OK);
 }
 
 void SeeThrough() {
-    constexpr int SLIDER = 1079;
-    const HWND dialog = OpenByRow(116, "Toolwin Transparency...");
+    const HWND dialog = OpenDialog<ACTION_TRANSPARENCY>("Toolwin Transparency...");
     const auto alpha = [] {
         BYTE value = 0;
         return GetLayeredWindowAttributes(QuorlWindow(), nullptr, &value, nullptr) ? value : -1;
     };
-    Until([&] { return alpha() < 200; }, [&] { Press(Control(dialog, SLIDER)); });
+    Retry([&] { return alpha() < 200; },
+          [&] {
+              Activate(dialog); // under Wine the map may have become active when it was made transparent
+              Press(Control(dialog, IDC_TRANSPARENCY_SLIDER));
+          });
     Say("  a click into the slider: the map's opacity is %d of 255", alpha());
-    Insist(alpha() >= 10 && alpha() < 200, "a map that one can see through");
+    Require(alpha() >= 10 && alpha() < 200, "a transparent map");
     TakePicture("17-transparency");
     PressKeys({VK_END});
     CloseBy(dialog, IDOK);
-    SeeStored("the End key and OK make it solid again", "alpha", "255");
+    SeeSaved("the End key and OK make it solid again", "alpha", "255");
 }
 
-void Read(int row, const char* title, int control, const char* says, const char* wanted,
-          const char* picture) {
-    const HWND dialog = OpenByRow(row, title);
+void Read(HWND dialog, int control, const char* name, const char* wanted, const char* picture) {
     const std::string text = ControlText(dialog, control);
-    Say("  %s: %s", says, text.substr(0, text.find_first_of("\r\n")).c_str());
-    Insist(text.find(wanted) != std::string::npos, wanted);
+    Say("  %s says: %s", name, text.substr(0, text.find_first_of("\r\n")).c_str());
+    Require(text.find(wanted) != std::string::npos, wanted);
     TakePicture(picture);
     CloseBy(dialog, IDOK);
 }
 
 void ReadHelp() {
-    constexpr int HELP_TEXT = 1068, PROGRAM = 1072;
-    Read(56, "Quorl Help", HELP_TEXT, "Help says", "index.html", "18-help");
-    Read(57, "About...", PROGRAM, "About says", "Quorl ", "19-about");
+    Read(OpenDialog<ACTION_HELP>("Quorl Help"), IDC_HELP_TEXT, "Help", "index.html", "18-help");
+    Read(OpenDialog<ACTION_ABOUT>("About..."), IDC_ABOUT_PROGRAM, "About", "Quorl ", "19-about");
 }
 
 } // namespace
 
 const std::vector<Chapter> DialogChapters = {
-    {"Options: the size of the desktop",                 SetOptions   },
-    {"Actions: a key of one's own",                      BindAKey     },
-    {"Customize Menu: one entry more",                   ComposeMenu  },
-    {"Name Region: the view gets a name",                NameTheView  },
-    {"Find Window: the view comes to it",                FindAWindow  },
-    {"Find Region: the view goes there",                 FindARegion  },
-    {"Resize Windows: a size in numbers",                ResizeAWindow},
-    {"Transparency: the map lets through what is below", SeeThrough   },
-    {"Help and About",                                   ReadHelp     },
+    {"Options: the size of the desktop", SetOptions},
+    {"Actions: a key of one's own", BindAKey},
+    {"Customize Menu: one entry more", ComposeMenu},
+    {"Name Region: the view gets a name", NameTheView},
+    {"Find Window: the view goes to it", FindAWindow},
+    {"Find Region: the view goes there", FindARegion},
+    {"Resize Windows: a size in numbers", ResizeAWindow},
+    {"Transparency: the map shows what is below", SeeThrough},
+    {"Help and About", ReadHelp},
 };

@@ -3,7 +3,6 @@
 
 #include "menus/menu_list.h"
 
-#include <algorithm>
 #include <vector>
 
 using Entries = std::vector<int>;
@@ -13,6 +12,6 @@ inline Entries Menu() {
 }
 
 inline void SetMenu(const Entries& entries) {
-    std::copy(entries.begin(), entries.end(), MenuList);
-    quorl_menu_count = static_cast<int>(entries.size());
+    SetMenuEntries(entries.data(), static_cast<int>(entries.size()));
+    SetMenuCount(static_cast<int>(entries.size()));
 }

@@ -1,39 +1,27 @@
+// Where an edge scroll goes.
 #include "mouse/edge_scroll.h"
 
-#include "core/directions.h"
+#include "core/steps.h"
 #include "support/quorl_test.h"
 
-TEST(EdgeDecision, TheFirstEdgeDecidesAndTheCursorLandsInsideTheOppositeOne) {
-    const struct {
-        POINT cursor;
-        int type, dir;
-        POINT view, landing;
-    } cases[] = {
-        {{1020, 766}, 3, DIR_RIGHT, {3072, 800},  {15, 766}  }, // sideways goes first
-        {{4, 300},    3, DIR_LEFT,  {1024, 800},  {1009, 300}},
-        {{500, 764},  3, DIR_DOWN,  {2048, 1568}, {500, 15}  },
-        {{500, 4},    2, DIR_UP,    {2048, 0},    {500, 785} }, // lands off the screen
-        {{1022, 300}, 0, DIR_RIGHT, {2053, 800},  {1034, 300}},
-        {{500, 766},  1, DIR_DOWN,  {2048, 900},  {500, 683} },
-        {{1019, 763}, 3, DIR_NONE,  {2048, 800},  {1019, 763}}, // just not at any edge
-        {{5, 5},      3, DIR_NONE,  {2048, 800},  {5, 5}     },
+TEST(EdgeStep, MovesTheViewAndTheCursorByTheScrollType) {
+    ResetOptions();
+    const auto step = [](POINT cursor, int type) {
+        Options.mousescroll_type = type;
+        const EdgeStep edge = EdgeStepAt(cursor, Options, {2048, 800, 3072, 1568}, 1024, 768);
+        return std::vector<LONG>{edge.dir, edge.view.x, edge.view.y, edge.landing.x, edge.landing.y};
     };
-    OptionsRecord options{};
-    options.border = 5;
-    options.minscroll = 5;
-    options.maxscroll = 100;
-    options.mousescroll = 800;
-    for (const auto& [cursor, type, dir, view, landing] : cases) {
-        SCOPED_TRACE(testing::PrintToString(cursor) + " type " + std::to_string(type));
-        options.mousescroll_type = type;
-        const EdgeStep step = EdgeStepAt(cursor, options, {2048, 800, 3072, 1568}, 1024, 768);
-        EXPECT_EQ(step.dir, dir);
-        EXPECT_EQ(step.view, view);
-        EXPECT_EQ(step.landing, landing);
-    }
+    using Step = std::vector<LONG>;
+    EXPECT_EQ(step({1020, 766}, 3), (Step{DIR_RIGHT, 3072, 800, 15, 766})) << "a corner";
+    EXPECT_EQ(step({4, 300}, 3), (Step{DIR_LEFT, 1024, 800, 1009, 300}));
+    EXPECT_EQ(step({500, 764}, 1), (Step{DIR_DOWN, 2048, 900, 500, 683}));
+    EXPECT_EQ(step({500, 4}, 2), (Step{DIR_UP, 2048, 0, 500, 785})) << "lands off the screen";
+    EXPECT_EQ(step({1022, 300}, 0), (Step{DIR_RIGHT, 2053, 800, 1034, 300}));
+    EXPECT_EQ(step({1019, 763}, 3), (Step{DIR_NONE, 2048, 800, 1019, 763}));
+    EXPECT_EQ(step({5, 5}, 3), (Step{DIR_NONE, 2048, 800, 5, 5}));
 }
 
-TEST(EdgeDecision, TheTimersTestReachesOnePixelFurther) {
+TEST(EdgeStep, TheDelayedTestToleratesOnePixelMore) {
     const auto edgesAt = [](POINT cursor) {
         int edges = 0;
         for (const int dir : {DIR_UP, DIR_DOWN, DIR_LEFT, DIR_RIGHT})

@@ -1,21 +1,20 @@
 #include "scroll/follow.h"
 
-#include "scroll/locked_windows.h"
 #include "scroll/scroll_view.h"
 #include "support/quorl_test.h"
+#include "windows/locked_windows.h"
 
-TEST(FollowDecision, AWindowOutOfViewAsksForAScroll) {
-    const auto need = [](const RECT& place) { return NeedToFollow(place, 1024, 768, {0, 0, 4096, 1536}); };
-    EXPECT_EQ(need({-4, -4, 501, 400}), FOLLOW_IN_VIEW) << "just inside the slack";
+TEST(NeedToFollow, IsToScrollToAWindowOutOfView) {
+    const auto need = [](const RECT& rect) { return NeedToFollow(rect, 1024, 768, {0, 0, 4096, 1536}); };
+    EXPECT_EQ(need({-4, -4, 501, 400}), FOLLOW_IN_VIEW) << "within the tolerance";
     EXPECT_EQ(need({-5, 0, 500, 400}), FOLLOW_SCROLL);
     EXPECT_EQ(need({0, -5, 500, 400}), FOLLOW_SCROLL);
-    EXPECT_EQ(need({928, 672, 1128, 872}), FOLLOW_IN_VIEW) << "its middle on the edge";
+    EXPECT_EQ(need({928, 672, 1128, 872}), FOLLOW_IN_VIEW) << "its middle is at the edge";
     EXPECT_EQ(need({929, 0, 1129, 400}), FOLLOW_SCROLL);
     EXPECT_EQ(need({0, 673, 400, 873}), FOLLOW_SCROLL);
-    EXPECT_EQ(need({4000, 1500, 4192, 1572}), FOLLOW_SCROLL) << "on the desktop's edge";
-    EXPECT_EQ(need({4000, 100, 4194, 400}), FOLLOW_IN_VIEW) << "off it: nothing brings it into view";
-    EXPECT_EQ(need({100, 1500, 400, 1574}), FOLLOW_IN_VIEW);
-    EXPECT_EQ(need({-32000, 0, -31840, 28}), FOLLOW_NOT) << "minimized";
+    EXPECT_EQ(need({4000, 1500, 4192, 1572}), FOLLOW_SCROLL) << "at the desktop's edge";
+    EXPECT_EQ(need({100, 1500, 400, 1574}), FOLLOW_IN_VIEW) << "off the desktop: out of reach";
+    EXPECT_EQ(need({-32000, 0, -31840, 28}), FOLLOW_NOTHING) << "minimized";
 }
 
 class Follow : public RunningQuorl {
@@ -24,64 +23,60 @@ class Follow : public RunningQuorl {
 
     void SetUp() override {
         RunningQuorl::SetUp();
-        ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value = 1;
+        ActionTable[ACTION_FOLLOW_ACTIVE].value = 1;
         Desk.foreground = editor;
     }
 };
 
-TEST_F(Follow, TheViewGoesToAWindowThatBecomesActiveOutOfSightOnceItAnswersIfTheUserWantsIt) {
-    RowOf(editor).answer = DeskAnswer::Hung;
-    Wait(100);
-    RowOf(editor).answer = DeskAnswer::Answers;
-    ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value = 0;
-    Wait(100);
-    EXPECT_EQ(VDesk.left, 0);
-    ActionTable[ROW_KEEP_ACTIVE_IN_VIEW].value = 1;
-    Desk.trace.clear();
+TEST_F(Follow, BringsTheActiveWindowToTheMiddleOfTheView) {
     Wait(100);
     EXPECT_EQ(VDesk, Rect(1088, 566, 2112, 1334));
-    EXPECT_EQ(PlaceOf(editor), Rect(412, 334, 612, 434)) << "in the middle of the screen";
-    EXPECT_TRUE(CameInOrder({"SetFocus", "SetActiveWindow", "BringWindowToTop", "SetForegroundWindow"}));
-    EXPECT_EQ(Desk.foreground, editor) << "it has the keyboard again";
+    EXPECT_EQ(RectOf(editor), Rect(412, 334, 612, 434));
+    EXPECT_TRUE(CalledInOrder({"SetFocus", "SetActiveWindow", "BringWindowToTop", "SetForegroundWindow"}));
+    EXPECT_EQ(Desk.foreground, editor) << "the scroll gave it to the map";
     Wait(200);
     EXPECT_EQ(VDesk.left, 1088);
-    EXPECT_EQ(CallsOf("EnumWindows"), 3) << "the map is fresh at each tick";
+    EXPECT_EQ(CountCalls("EnumWindows"), 3) << "each tick refreshes the map";
 
-    ScrollView(MainWnd, 0, 0, SV_ABSOLUTE, 30);
+    ScrollView(MainWnd, 0, 0, SV_ABSOLUTE, 0);
     Wait(100);
-    EXPECT_EQ(VDesk.left, 0) << "where the user goes the view stays";
+    EXPECT_EQ(VDesk.left, 0) << "where the user scrolls the view stays";
     Desk.foreground = editor;
-    Command(ROW_CENTER_ON_ACTIVE);
+    RunAction(ACTION_VIEW_TO_ACTIVE);
     EXPECT_EQ(VDesk.left, 1088);
 }
 
-TEST_F(Follow, AHeldButtonHoldsTheViewBackIfTheUserWantsIt) {
-    ActionTable[ROW_SUPPRESS_FOLLOW].value = 1;
+TEST_F(Follow, WaitsForAHungWindowAHeldButtonAndTheSetting) {
+    const auto stays = [] { return Wait(100), VDesk.left == 0; };
+    WindowOf(editor).response = DeskResponse::Hung;
+    EXPECT_TRUE(stays());
+    WindowOf(editor).response = DeskResponse::Responds;
+    ActionTable[ACTION_SUPPRESS_FOLLOW].value = 1;
     for (const int button : {VK_LBUTTON, VK_MBUTTON, VK_RBUTTON}) {
         HoldKey(button, 1);
-        Wait(100);
-        EXPECT_EQ(VDesk.left, 0) << button;
+        EXPECT_TRUE(stays()) << button;
         HoldKey(button, 0);
     }
+    ActionTable[ACTION_FOLLOW_ACTIVE].value = 0;
+    EXPECT_TRUE(stays());
+    ActionTable[ACTION_FOLLOW_ACTIVE].value = 1;
+    ActionTable[ACTION_SUPPRESS_FOLLOW].value = 0;
     HoldKey(VK_LBUTTON, 1);
-    ActionTable[ROW_SUPPRESS_FOLLOW].value = 0;
-    Wait(100);
-    EXPECT_GT(VDesk.left, 0) << "without the setting the button does not matter";
+    EXPECT_FALSE(stays());
 }
 
-TEST_F(Follow, AWindowThatStaysWhereItIsDoesNotDrawTheViewOnAndOn) {
+TEST_F(Follow, ScrollsToALockedWindowOnlyOnce) {
     LockWindow(editor);
     Wait(1000);
-    EXPECT_EQ(VDesk, Rect(1088, 566, 2112, 1334)) << "once";
-
-    RowOf(editor).place = {1400, 100, 1600, 200};
+    EXPECT_EQ(VDesk, Rect(1088, 566, 2112, 1334));
+    WindowOf(editor).rect = {1400, 100, 1600, 200};
     Wait(100);
-    EXPECT_EQ(VDesk.left, 2076) << "another place is gone to";
+    EXPECT_EQ(VDesk.left, 2076) << "once for each position";
 
-    ScrollView(MainWnd, 0, 0, SV_ABSOLUTE, 30);
-    Desk.foreground = OpenWindow("short", {0, 0, 90, 90});
+    ScrollView(MainWnd, 0, 0, SV_ABSOLUTE, 0);
+    Desk.foreground = OpenWindow("other", {0, 0, 90, 90});
     Wait(100);
     Desk.foreground = editor;
     Wait(1000);
-    EXPECT_EQ(VDesk.left, 988) << "and so is a window that becomes active anew, once";
+    EXPECT_EQ(VDesk.left, 988) << "once each time it becomes active";
 }

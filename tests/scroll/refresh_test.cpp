@@ -1,7 +1,7 @@
 #include "scroll/refresh.h"
 
-#include "scroll/window_table.h"
 #include "support/quorl_test.h"
+#include "windows/window_table.h"
 
 class Refresh : public RunningQuorl {
   protected:
@@ -9,22 +9,21 @@ class Refresh : public RunningQuorl {
     HWND other = OpenWindow("other", {600, 100, 900, 400});
 };
 
-TEST_F(Refresh, QuietTicksAskForEachWindowsPlaceAloneAndEachTwelfthRebuildsTheTable) {
-    RebuildWindowTable();                   // the Toolwin is in it, too
+TEST_F(Refresh, OnlyComparesRectsForElevenQuietTicks) {
+    RebuildWindowTable();                   // the map is in it, too
     OpenWindow("opened", {10, 10, 50, 50}); // changes no row
     Desk.trace.clear();
-    for (int tick = 1; tick <= 12; ++tick) {
-        EXPECT_EQ(Desk.trace.size(), 3U * static_cast<std::size_t>(tick - 1));
+    for (std::size_t tick = 0; tick < 12; ++tick) {
+        EXPECT_EQ(Desk.trace.size(), 3 * tick);
         RefreshTimer(MainWnd, WM_TIMER, REFRESH_TIMER, Desk.now);
     }
-    EXPECT_EQ(CallsOf("EnumWindows"), 1);
+    EXPECT_EQ(CountCalls("EnumWindows"), 1);
 }
 
-TEST_F(Refresh, AWindowThatMovedOrClosedIsNoticedATenthOfASecondLater) {
-    RowOf(editor).place.bottom += 1;
+TEST_F(Refresh, NoticesAMovedOrClosedWindow) {
+    WindowOf(editor).rect.bottom += 1;
     Wait(100);
-    EXPECT_EQ(CallsOf("EnumWindows"), 1);
-    EXPECT_TRUE(CameInOrder({"EnumWindows", "InvalidateRect", "UpdateWindow"})) << "the map follows";
+    EXPECT_TRUE(CalledInOrder({"EnumWindows", "InvalidateRect", "UpdateWindow"}));
     KillWindow(other);
     Wait(100);
     EXPECT_EQ(num_windows, 2);

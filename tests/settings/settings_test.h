@@ -1,4 +1,4 @@
-// The words for tests that read and write the settings file.
+// Reading and writing the settings file as its user does.
 #pragma once
 
 #include "settings/ini.h"
@@ -6,25 +6,23 @@
 
 #include <string>
 
-// The file's text.
 inline std::string& File() {
     return Desk.files[SETTINGS_FILE];
 }
 
-// The user has edited the file: these lines are all that it holds.
+// The file contains only these lines.
 inline void StoreFile(const std::string& lines) {
     File() = "[Quorl]\r\n" + lines;
 }
 
-// And Quorl, which runs, is told to load them.
+// Stores these lines and loads the file.
 inline void Load(const std::string& lines) {
     StoreFile(lines);
-    Command(48);
+    RunAction(ACTION_LOAD_SETTINGS);
 }
 
-// The value of a key as any program would read it.
-inline std::string Stored(const std::string& key) {
+inline std::string Stored(const char* key) {
     char text[4096];
-    GetPrivateProfileStringA(SETTINGS_SECTION, key.c_str(), "", text, sizeof text, SETTINGS_FILE);
+    GetPrivateProfileStringA(SETTINGS_SECTION, key, "", text, sizeof text, SETTINGS_FILE);
     return text;
 }

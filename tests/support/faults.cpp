@@ -1,4 +1,4 @@
-// Each platform call of a story fails once.
+// Runs scenarios in child processes, because Quorl can start only once in each.
 #include "support/faults.h"
 
 #include "support/quorl_test.h"
@@ -8,37 +8,37 @@
 
 #include <cstdio>
 
-enum Outcome { HELD, BROKEN, NOTHING_FAILED }; // the exit code of a story's process
+enum Outcome { PASSED, FAILED, NO_CALL_FAILED }; // exit code of the child
 
-constexpr unsigned PATIENCE = 30; // seconds
+constexpr unsigned TIMEOUT = 30; // seconds
 
-static int InItsOwnProcess(const std::function<Outcome()>& story) {
+static int RunInChild(const std::function<Outcome()>& scenario) {
     const pid_t process = fork();
     if (process == 0) {
-        alarm(PATIENCE);
-        const Outcome outcome = story();
+        alarm(TIMEOUT);
+        const Outcome outcome = scenario();
         std::fflush(stdout);
-        _exit(testing::Test::HasFailure() ? BROKEN : outcome);
+        _exit(testing::Test::HasFailure() ? FAILED : outcome);
     }
     int status = 0;
     waitpid(process, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : BROKEN;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : FAILED;
 }
 
-int FailEachCall(const std::function<void()>& story) {
-    int nth = 0, outcome = HELD;
-    while (outcome == HELD) {
+int FailEachCall(const std::function<void()>& scenario) {
+    int nth = 0, outcome = PASSED;
+    while (outcome == PASSED) {
         ++nth;
-        outcome = InItsOwnProcess([&] {
+        outcome = RunInChild([&] {
             Desk.fault = {"", nth, 0, 87, 0};
-            story();
-            return Desk.fault.hits ? HELD : NOTHING_FAILED;
+            scenario();
+            return Desk.fault.hits ? PASSED : NO_CALL_FAILED;
         });
     }
-    EXPECT_EQ(outcome, NOTHING_FAILED) << "with call " << nth << " failing";
+    EXPECT_EQ(outcome, NO_CALL_FAILED) << "with call " << nth << " failing";
     return nth - 1;
 }
 
-bool HoldsInItsOwnProcess(const std::function<void()>& story) {
-    return InItsOwnProcess([&] { return story(), HELD; }) == HELD;
+bool PassesInOwnProcess(const std::function<void()>& scenario) {
+    return RunInChild([&] { return scenario(), PASSED; }) == PASSED;
 }

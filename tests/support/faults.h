@@ -1,14 +1,12 @@
-// Bad luck, tried at every place: each platform call of a story fails once.
+// Failing platform calls one by one.
 #pragma once
 
 #include <functional>
 
-// Runs the story again and again, each time in a process of its own, with its first platform call failing,
-// then its second, and so on until no call is left to fail. An expectation of the story that does not hold, a
-// crash and a story that does not end within half a minute fail the test and tell which it was. Gives the
-// number of calls after whose failure it held.
-int FailEachCall(const std::function<void()>& story);
+// Runs the scenario repeatedly, each time in a child process: first with its first platform call failing,
+// then its second, until no call is left. The test fails, naming the call, if an expectation of the scenario
+// fails, or if it crashes or runs longer than 30 seconds. Returns the number of calls that failed.
+int FailEachCall(const std::function<void()>& scenario);
 
-// Runs the story in a process of its own. False when an expectation does not hold, and after a crash or half
-// a minute.
-bool HoldsInItsOwnProcess(const std::function<void()>& story);
+// Runs the scenario in a child process. False after a failed expectation, a crash or 30 seconds.
+bool PassesInOwnProcess(const std::function<void()>& scenario);

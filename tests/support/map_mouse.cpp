@@ -1,27 +1,25 @@
-// The mouse on the map.
+// Mouse input on the map, handled at once.
 #include "support/map_mouse.h"
 
-#include "core/state.h"
-
-void OnMap::SetUp() {
+void MapTest::SetUp() {
     RunningQuorl::SetUp();
-    RowOf(MainWnd).place = {100, 100, 364, 204}; // with its frame
+    WindowOf(MainWnd).rect = {100, 100, 364, 204}; // including the frame
 }
 
 void MoveOnMap(int x, int y) {
-    const POINT at = OnScreen(MainWnd, x, y);
+    const POINT at = ToScreen(MainWnd, x, y);
     MoveMouse(at.x, at.y);
-    Settle();
+    HandleMessages();
 }
 
 void PressOnMap(int button) {
     PressMouse(button, 1);
-    Settle();
+    HandleMessages();
 }
 
 void ReleaseOnMap(int button) {
     PressMouse(button, 0);
-    Settle();
+    HandleMessages();
 }
 
 void ClickOnMap(int x, int y, int button, std::initializer_list<int> keys) {

@@ -1,9 +1,10 @@
-// The words of the user.
+// Starting Quorl on the in-memory desktop and acting as its user.
 #include "support/quorl_test.h"
 
-#include "core/main.h"
+#include "app/main.h"
 #include "regions/region_table.h"
-#include "scroll/window_table.h"
+#include "status/status_strip.h"
+#include "windows/window_table.h"
 
 #include <cstring>
 #include <ostream>
@@ -30,8 +31,8 @@ void QuorlTest::SetUp() {
 }
 
 void QuorlTest::TearDown() {
-    EXPECT_EQ(Desk.surprises, 0) << "an unexpected box, or a call that would have blocked: " << LastBox();
-    // What a control has allocated goes with it, not with the process.
+    EXPECT_EQ(Desk.unexpected, 0) << "an unexpected box, or a call that would have blocked: " << LastBox();
+    // Controls free their memory when they are destroyed, which the end of the process does not do.
     Desk.fault = {};
     for (const DeskWindow& window : Desk.windows)
         if (window.handle && window.procedure && window.style & WS_CHILD)
@@ -40,69 +41,65 @@ void QuorlTest::TearDown() {
 
 void RunningQuorl::SetUp() {
     QuorlTest::SetUp();
-    ASSERT_EQ(StartQuorl(), 1);
-    Settle();
+    ASSERT_TRUE(StartQuorl());
+    HandleMessages();
     Desk.trace.clear();
 }
 
-int StartQuorl() {
+bool StartQuorl() {
     return StartUp(reinterpret_cast<HINSTANCE>(0x400000));
 }
 
 void Wait(DWORD milliseconds) {
-    Desk.until = Desk.now + milliseconds;
-    Desk.bRunDry = 0;
+    Desk.runUntil = Desk.now + milliseconds;
+    Desk.timeIsUp = 0;
     RunMessageLoop();
 }
 
-void Settle() {
+void HandleMessages() {
     Wait(0);
 }
 
-void Command(int row) {
-    PostMessageA(MainWnd, WM_HOTKEY, static_cast<WPARAM>(row), 0);
-    Settle();
+void RunAction(int id) {
+    PostMessageA(MainWnd, WM_HOTKEY, static_cast<WPARAM>(id), 0);
+    HandleMessages();
 }
 
-void WillAnswer(std::initializer_list<int> answers) {
-    Desk.answers.assign(answers.begin(), answers.end());
+void AnswerBoxes(std::initializer_list<int> answers) {
+    Desk.boxAnswers.assign(answers.begin(), answers.end());
 }
 
-void Bind(int row, int mods, int button) {
-    ActionTable[row].mouse_mods = mods;
-    ActionTable[row].mouse_btn = button;
+void BindMouse(int id, int mods, int button) {
+    ActionTable[id].mouse_mods = mods;
+    ActionTable[id].mouse_btn = button;
 }
 
-HWND OpenKnown(const char* title, const RECT& place, const char* className) {
-    const HWND window = OpenWindow(title, place, className);
+HWND OpenAndList(const char* title, const RECT& rect, const char* className) {
+    const HWND window = OpenWindow(title, rect, className);
     RebuildWindowTable();
     return window;
 }
 
-void Mark(const std::string& name, int left, int top) {
+void AddRegion(const std::string& name, int left, int top) {
     RegionRow& region = RegionTable[num_regions];
-    region = {num_regions, "", left, top, left + ScreenW(), top + ScreenH(), 0};
+    region = {"", left, top, left + ScreenW(), top + ScreenH(), 0};
     name.copy(region.name, sizeof region.name - 1);
     ++num_regions;
 }
 
-std::string LastTip() {
-    for (auto stroke = Desk.strokes.rbegin(); stroke != Desk.strokes.rend(); ++stroke)
-        if (stroke->what == "DrawTextExA" && RowOf(stroke->window).className == "w_ToolTip")
-            return stroke->text;
+std::string LastStatus() {
+    for (auto call = Desk.drawCalls.rbegin(); call != Desk.drawCalls.rend(); ++call)
+        if (call->call == "DrawTextExA" && WindowOf(call->window).className == TIP_CLASS)
+            return call->text;
     return "";
 }
 
-RECT PlaceOf(HWND window) {
-    return RowOf(window).place;
+RECT RectOf(HWND window) {
+    return WindowOf(window).rect;
 }
 
 RECT Rect(int left, int top, int right, int bottom) {
     return {left, top, right, bottom};
-}
-
-RECT Moved(const RECT& place, int dx, int dy) {
-    return {place.left + dx, place.top + dy, place.right + dx, place.bottom + dy};
 }
 
 POINT ViewCorner() {
@@ -113,7 +110,7 @@ std::string LastBox() {
     return Desk.boxes.empty() ? "" : Desk.boxes.back().text + "/" + Desk.boxes.back().caption;
 }
 
-int CameInOrder(std::initializer_list<const char*> calls) {
+bool CalledInOrder(std::initializer_list<const char*> calls) {
     const auto* next = calls.begin();
     for (const char* made : Desk.trace)
         if (next != calls.end() && !std::strcmp(made, *next))

@@ -5,85 +5,85 @@
 
 namespace {
 
-using Strokes = std::vector<std::string>;
+using Drawing = std::vector<std::string>;
 
-// "what rect", and what it is drawn with where that shows.
-std::string InWords(const DeskStroke& stroke) {
+// "call rect", and the pen and brush where they are visible.
+std::string Describe(const DeskDrawCall& drawn) {
     static const char* const styles[] = {" solid", " dashed", " dotted"};
-    std::string words = stroke.what + " " + testing::PrintToString(stroke.rect);
-    const std::string pen =
-        styles[stroke.pen.style] + std::to_string(stroke.pen.width) + " " + std::to_string(stroke.pen.color);
-    if (stroke.what == "DrawFocusRect")
-        return words;
-    if (stroke.what == "LineTo")
-        return words + pen + (stroke.rop == R2_MERGEPENNOT ? " inverting" : "");
-    return words + pen + (stroke.brush == BackBrush ? "" : " fill " + std::to_string(stroke.fill));
+    std::string text = drawn.call + " " + testing::PrintToString(drawn.rect);
+    if (drawn.call == "DrawFocusRect")
+        return text;
+    text += styles[drawn.pen.style] + std::to_string(drawn.pen.width) + " " + std::to_string(drawn.pen.color);
+    if (drawn.call == "LineTo")
+        return text + (drawn.rop == R2_MERGEPENNOT ? " inverting" : "");
+    return text + (drawn.brush == BackBrush ? "" : " fill " + std::to_string(drawn.fill));
 }
 
 class Map : public RunningQuorl {
   protected:
     HWND owner = OpenWindow("owner", {-1024, 0, 0, 768});
-    HWND dialog = OpenWindow("dialog", {100, 50, 612, 434}, "#32770");
+    HWND dialog = OpenWindow("dialog", {100, 50, 612, 434}, "Afx:400000:8");
 
     void SetUp() override {
         RunningQuorl::SetUp();
-        RowOf(MainWnd).place = {100, 100, 308, 183}; // the map itself is 200 by 75
-        RowOf(dialog).owner = owner;
+        WindowOf(MainWnd).rect = {100, 100, 308, 183}; // a client area of 200 by 75
+        WindowOf(dialog).owner = owner;
         VDesk = {1024, 768, 2048, 1536};
         Desk.foreground = dialog;
     }
 
-    // What one paint of the whole map draws.
-    static Strokes Painted() {
-        Desk.strokes.clear();
+    static Drawing Paint() {
+        Desk.drawCalls.clear();
         Repaint(MainWnd);
-        Strokes words;
-        for (const DeskStroke& stroke : Desk.strokes)
-            words.push_back(InWords(stroke));
-        return words;
+        Drawing drawing;
+        for (const DeskDrawCall& drawn : Desk.drawCalls)
+            drawing.push_back(Describe(drawn));
+        return drawing;
     }
 };
 
-TEST_F(Map, PaintsBackgroundRegionsWindowsAndViewInThisOrder) {
-    RowOf(owner).place = {0, 0, 1024, 768}; // has moved since the table was built
-    RegionTable[0] = {0, "home", 1024, 768, 5, 5, 0x123456};
-    num_regions = 1;
-
+TEST_F(Map, PaintsBackgroundRegionsWindowsAndViewInOrder) {
+    WindowOf(owner).rect = {0, 0, 1024, 768}; // moved since the table was built
+    AddRegion("home", 1024, 768);
+    RegionTable[0].color = 0x123456;
     const int objects = LiveObjects();
-    EXPECT_EQ(Painted(), (Strokes{
-                             "Rectangle (0, 0, 200, 75) solid1 0",
-                             "Rectangle (50, 37, 100, 74) solid1 0 fill 1193046",
-                             "LineTo (54, 39, 79, 39) solid2 255",
-                             "LineTo (79, 39, 79, 57) solid2 255",
-                             "LineTo (79, 57, 54, 57) solid2 255",
-                             "LineTo (54, 57, 54, 39) solid2 255",
-                             "DrawFocusRect (50, 37, 100, 74)",
-                             "LineTo (50, 37, 100, 37) dotted1 0 inverting",
-                             "LineTo (100, 37, 100, 74) dotted1 0 inverting",
-                             "LineTo (100, 74, 50, 74) dotted1 0 inverting",
-                             "LineTo (50, 74, 50, 37) dotted1 0 inverting",
-                         }));
+    EXPECT_EQ(Paint(), (Drawing{
+                           "Rectangle (0, 0, 200, 75) solid1 0",
+                           "Rectangle (50, 37, 100, 74) solid1 0 fill 1193046",
+                           "LineTo (54, 39, 79, 39) solid2 255",
+                           "LineTo (79, 39, 79, 57) solid2 255",
+                           "LineTo (79, 57, 54, 57) solid2 255",
+                           "LineTo (54, 57, 54, 39) solid2 255",
+                           "DrawFocusRect (50, 37, 100, 74)",
+                           "LineTo (50, 37, 100, 37) dotted1 0 inverting",
+                           "LineTo (100, 37, 100, 74) dotted1 0 inverting",
+                           "LineTo (100, 74, 50, 74) dotted1 0 inverting",
+                           "LineTo (50, 74, 50, 37) dotted1 0 inverting",
+                       }));
     EXPECT_EQ(LiveObjects(), objects);
     EXPECT_EQ(LiveContexts() + Desk.deletedInUse, 0);
 }
 
-TEST_F(Map, ADialogPulsesFromTheFirstPaintOnWhileItsOwnerIsDisabled) {
+TEST_F(Map, FlashesADialogWhileItsOwnerIsDisabled) {
     const std::size_t timers = Desk.timers.size();
     EnableWindow(owner, FALSE);
-    EXPECT_EQ(Painted().at(1), "LineTo (54, 39, 79, 39) solid2 50") << "the second paint";
-    Desk.strokes.clear();
+    EXPECT_EQ(Paint().at(1), "LineTo (54, 39, 79, 39) solid2 50") << "the second paint";
+    Desk.drawCalls.clear();
     Wait(50);
-    EXPECT_EQ(Desk.strokes.at(1).pen.color, 75U) << "the timer repaints";
+    EXPECT_EQ(Desk.drawCalls.at(1).pen.color, 75U) << "painted by the timer";
     EnableWindow(owner, TRUE);
-    EXPECT_EQ(Painted().at(1), "LineTo (54, 39, 79, 39) solid2 255");
+    EXPECT_EQ(Paint().at(1), "LineTo (54, 39, 79, 39) solid2 255");
     EXPECT_EQ(Desk.timers.size(), timers);
+    EXPECT_EQ(NextFlashLevel(275), 45) << "bright, then dark";
 }
 
-TEST(MapBox, OnlyAnActiveDialogOfADisabledOwnerPulses) {
-    EXPECT_EQ(KindOfBox(1, "#3277", WS_DISABLED), ACTIVE_BOX);
-    EXPECT_EQ(KindOfBox(1, "Afx:400000:8", WS_DISABLED), PULSING_BOX);
-    EXPECT_EQ(NextFlashLevel(256), 26);
-    EXPECT_EQ(NextFlashLevel(275), 45) << "wraps round and keeps its pace";
+TEST_F(Map, RepaintsWithNewColors) {
+    for (const UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_DEVMODECHANGE}) {
+        BackBrush = nullptr;
+        Desk.trace.clear();
+        SendMessageA(MainWnd, message, 0, 0);
+        EXPECT_TRUE(BackBrush && CountCalls("UpdateWindow")) << message;
+    }
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// Dialogs and the plain controls: buttons, edit boxes, list boxes, drop-down lists.
+// Dialogs and the standard controls: buttons, edit boxes, list boxes, drop-down lists.
 #pragma once
 
 #include "types.h"
@@ -52,18 +52,23 @@ constexpr LRESULT CB_ERR = -1;
 
 HWND WINAPI CreateDialogParamA(HINSTANCE instance, LPCSTR name, HWND parent, DLGPROC procedure,
                                LPARAM parameter);
+HWND WINAPI CreateDialogParamW(HINSTANCE instance, LPCWSTR name, HWND parent, DLGPROC procedure,
+                               LPARAM parameter);
 BOOL WINAPI EndDialog(HWND dialog, INT_PTR result);
 BOOL WINAPI IsDialogMessageA(HWND dialog, MSG* message);
 
 HWND WINAPI GetDlgItem(HWND dialog, int id);
-UINT WINAPI GetDlgItemInt(HWND dialog, int id, BOOL* bRead, BOOL bSigned);
-BOOL WINAPI SetDlgItemInt(HWND dialog, int id, UINT value, BOOL bSigned);
+UINT WINAPI GetDlgItemInt(HWND dialog, int id, BOOL* translated, BOOL isSigned);
+BOOL WINAPI SetDlgItemInt(HWND dialog, int id, UINT value, BOOL isSigned);
 UINT WINAPI GetDlgItemTextA(HWND dialog, int id, LPSTR text, int limit);
 BOOL WINAPI SetDlgItemTextA(HWND dialog, int id, LPCSTR text);
 LRESULT WINAPI SendDlgItemMessageA(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam);
+BOOL WINAPI SetDlgItemTextW(HWND dialog, int id, LPCWSTR text);
+LRESULT WINAPI SendDlgItemMessageW(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL WINAPI CheckDlgButton(HWND dialog, int id, UINT state);
 UINT WINAPI IsDlgButtonChecked(HWND dialog, int id);
 
 BOOL WINAPI SetWindowTextA(HWND window, LPCSTR text);
+BOOL WINAPI SetWindowTextW(HWND window, LPCWSTR text);
 HWND WINAPI ChildWindowFromPoint(HWND parent, POINT point);
 BOOL WINAPI ScreenToClient(HWND window, POINT* point);

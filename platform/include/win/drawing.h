@@ -13,6 +13,7 @@ struct DRAWTEXTPARAMS;
 
 constexpr int COLOR_BACKGROUND = 1;
 constexpr int COLOR_BTNFACE = 15;
+constexpr int COLOR_INFOTEXT = 23;
 constexpr int COLOR_INFOBK = 24;
 
 constexpr int TRANSPARENT = 1;
@@ -24,6 +25,8 @@ constexpr int R2_COPYPEN = 13;
 constexpr int R2_MERGEPENNOT = 14;
 
 constexpr int LOGPIXELSX = 88;
+
+constexpr DWORD SRCCOPY = 0x00CC0020;
 
 constexpr COLORREF CLR_INVALID = 0xffffffff;
 
@@ -60,9 +63,19 @@ HPEN WINAPI CreatePen(int style, int width, COLORREF color);
 HGDIOBJ WINAPI SelectObject(HDC context, HGDIOBJ object);
 BOOL WINAPI DeleteObject(HGDIOBJ object);
 
+HDC WINAPI CreateCompatibleDC(HDC context);
+BOOL WINAPI DeleteDC(HDC context);
+HBITMAP WINAPI CreateCompatibleBitmap(HDC context, int width, int height);
+BOOL WINAPI BitBlt(HDC to, int x, int y, int width, int height, HDC from, int fromX, int fromY,
+                   DWORD operation);
+
+COLORREF WINAPI SetTextColor(HDC context, COLORREF color);
 int WINAPI SetBkMode(HDC context, int mode);
 BOOL WINAPI GetTextExtentPoint32A(HDC context, LPCSTR text, int length, SIZE* extent);
 int WINAPI DrawTextExA(HDC context, LPSTR text, int length, RECT* rect, UINT format, DRAWTEXTPARAMS* params);
+
+BOOL WINAPI GetTextExtentPoint32W(HDC context, LPCWSTR text, int length, SIZE* extent);
+int WINAPI DrawTextExW(HDC context, LPWSTR text, int length, RECT* rect, UINT format, DRAWTEXTPARAMS* params);
 
 int WINAPI SetROP2(HDC context, int mode);
 BOOL WINAPI MoveToEx(HDC context, int x, int y, POINT* before);

@@ -1,4 +1,4 @@
-// The user's hands: keys, hotkeys, cursor, capture.
+// Keyboard, hotkeys, cursor, mouse capture.
 #pragma once
 
 #include "types.h"
@@ -8,7 +8,7 @@ constexpr UINT MOD_CONTROL = 2;
 constexpr UINT MOD_SHIFT = 4;
 constexpr UINT MOD_WIN = 8;
 
-// What a mouse message says is held.
+// Buttons and keys held, in wParam of mouse messages.
 constexpr WPARAM MK_LBUTTON = 1;
 constexpr WPARAM MK_RBUTTON = 2;
 constexpr WPARAM MK_SHIFT = 4;

@@ -1,4 +1,4 @@
-// The rest of the system: errors, modules, pictures, monitors, boxes, sounds, profile files.
+// Errors, modules, images, displays, message boxes, sounds, profile files.
 #pragma once
 
 #include "types.h"
@@ -9,6 +9,26 @@ struct MONITORINFO {
     RECT rcWork;
     DWORD dwFlags;
 };
+
+constexpr int CCHDEVICENAME = 32;
+
+struct MONITORINFOEXA : MONITORINFO {
+    char szDevice[CCHDEVICENAME];
+};
+
+constexpr DWORD MONITORINFOF_PRIMARY = 1;
+constexpr DWORD MONITOR_DEFAULTTONULL = 0;
+constexpr DWORD MONITOR_DEFAULTTOPRIMARY = 1;
+constexpr DWORD MONITOR_DEFAULTTONEAREST = 2;
+
+constexpr int SM_CXSCREEN = 0;
+constexpr int SM_CYSCREEN = 1;
+constexpr int SM_CXSMICON = 49;
+constexpr int SM_CYSMICON = 50;
+constexpr int SM_XVIRTUALSCREEN = 76;
+constexpr int SM_YVIRTUALSCREEN = 77;
+constexpr int SM_CXVIRTUALSCREEN = 78;
+constexpr int SM_CYVIRTUALSCREEN = 79;
 
 struct EXCEPTION_POINTERS;
 using LPTOP_LEVEL_EXCEPTION_FILTER = LONG(WINAPI*)(EXCEPTION_POINTERS*);
@@ -44,6 +64,9 @@ HMODULE WINAPI GetModuleHandleA(LPCSTR name);
 HMODULE WINAPI LoadLibraryA(LPCSTR name);
 BOOL WINAPI FreeLibrary(HMODULE module);
 FARPROC WINAPI GetProcAddress(HMODULE module, LPCSTR name);
+DWORD WINAPI GetModuleFileNameW(HMODULE module, LPWSTR path, DWORD size);
+UINT WINAPI GetSystemDirectoryA(LPSTR directory, UINT size);
+BOOL WINAPI SetProcessShutdownParameters(DWORD level, DWORD flags);
 BOOL WINAPI LockWorkStation();
 
 HANDLE WINAPI LoadImageA(HINSTANCE instance, LPCSTR name, UINT type, int width, int height, UINT flags);
@@ -52,6 +75,10 @@ HCURSOR WINAPI LoadCursorA(HINSTANCE instance, LPCSTR name);
 
 BOOL WINAPI EnumDisplayMonitors(HDC context, const RECT* clip, MONITORENUMPROC callback, LPARAM parameter);
 BOOL WINAPI GetMonitorInfoA(HMONITOR monitor, MONITORINFO* info);
+HMONITOR WINAPI MonitorFromRect(const RECT* rect, DWORD flags);
+HMONITOR WINAPI MonitorFromPoint(POINT point, DWORD flags);
+HMONITOR WINAPI MonitorFromWindow(HWND window, DWORD flags);
+int WINAPI GetSystemMetrics(int index);
 
 int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 BOOL WINAPI MessageBeep(UINT type);
@@ -62,12 +89,19 @@ DWORD WINAPI GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR absent,
                                       LPCSTR file);
 BOOL WINAPI WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file);
 
-// Files of the Windows folder, where the profile functions look for a bare name.
+// Files. The profile functions look for a bare name in the Windows folder.
 constexpr int MAX_PATH = 260;
+constexpr UINT CP_ACP = 0;
+DWORD WINAPI GetShortPathNameW(LPCWSTR path, LPWSTR shortPath, DWORD size);
+int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR from, int length, LPSTR to, int limit,
+                               LPCSTR defaultChar, BOOL* usedDefault);
+int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR from, int length, LPWSTR to, int limit);
+constexpr DWORD INVALID_FILE_ATTRIBUTES = 0xffffffff;
+DWORD WINAPI GetFileAttributesA(LPCSTR file);
 constexpr DWORD MOVEFILE_REPLACE_EXISTING = 1;
 constexpr DWORD MOVEFILE_WRITE_THROUGH = 8;
 UINT WINAPI GetWindowsDirectoryA(LPSTR folder, UINT size);
-BOOL WINAPI CopyFileA(LPCSTR from, LPCSTR to, BOOL bOnlyIfNew);
+BOOL WINAPI CopyFileA(LPCSTR from, LPCSTR to, BOOL failIfExists);
 BOOL WINAPI MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags);
 BOOL WINAPI DeleteFileA(LPCSTR file);
 constexpr DWORD FILE_ATTRIBUTE_READONLY = 1;

@@ -1,4 +1,4 @@
-// Types of the Windows calls, in the sizes that they have on Windows.
+// Basic types, with the sizes they have on Windows.
 #pragma once
 
 #include <cstddef>
@@ -28,9 +28,12 @@ using HRESULT = LONG;
 using COLORREF = DWORD;
 using LPSTR = char*;
 using LPCSTR = const char*;
+using WCHAR = wchar_t; // holds UTF-16 units, whatever its size
+using LPWSTR = WCHAR*;
+using LPCWSTR = const WCHAR*;
 using LPVOID = void*;
 
-// Handles are numbers in a pointer's dress: nothing lies behind them.
+// Handles are opaque. Those of windows and displays are numbers, not addresses.
 using HWND = struct DeskHandleOfWindow*;
 using HINSTANCE = struct DeskHandleOfModule*;
 using HMODULE = HINSTANCE;
@@ -74,6 +77,10 @@ constexpr WORD HIWORD(DWORD_PTR value) {
 constexpr LPARAM MAKELPARAM(int low, int high) {
     return static_cast<LPARAM>(static_cast<DWORD>(static_cast<WORD>(low)) |
                                static_cast<DWORD>(static_cast<WORD>(high)) << 16);
+}
+
+inline LPWSTR MAKEINTRESOURCEW(int id) {
+    return reinterpret_cast<LPWSTR>(static_cast<UINT_PTR>(static_cast<WORD>(id)));
 }
 
 inline LPSTR MAKEINTRESOURCEA(int id) {

@@ -1,4 +1,4 @@
-// Windows: classes, creation, places, styles, order, foreground.
+// Windows: classes, creation, rectangles, styles, z-order, foreground.
 #pragma once
 
 #include "types.h"
@@ -61,14 +61,32 @@ constexpr DWORD WS_OVERLAPPEDWINDOW = 0x00CF0000;
 
 constexpr DWORD WS_EX_TOPMOST = 0x00000008;
 constexpr DWORD WS_EX_TOOLWINDOW = 0x00000080;
+constexpr DWORD WS_EX_TRANSPARENT = 0x00000020;
 constexpr DWORD WS_EX_LAYERED = 0x00080000;
+constexpr DWORD WS_EX_NOACTIVATE = 0x08000000;
 
 constexpr int SW_HIDE = 0;
+constexpr int SW_SHOWNORMAL = 1;
+constexpr int SW_SHOWMINIMIZED = 2;
+constexpr int SW_SHOWMAXIMIZED = 3;
 constexpr int SW_MAXIMIZE = 3;
 constexpr int SW_SHOWNOACTIVATE = 4;
 constexpr int SW_SHOW = 5;
 constexpr int SW_MINIMIZE = 6;
+constexpr int SW_SHOWMINNOACTIVE = 7;
+constexpr int SW_SHOWNA = 8;
 constexpr int SW_RESTORE = 9;
+
+constexpr UINT WPF_RESTORETOMAXIMIZED = 2;
+
+struct WINDOWPLACEMENT {
+    UINT length;
+    UINT flags;
+    UINT showCmd;
+    POINT ptMinPosition;
+    POINT ptMaxPosition;
+    RECT rcNormalPosition; // relative to the work area, except for tool windows
+};
 
 constexpr int GWLP_HINSTANCE = -6;
 constexpr int GWLP_HWNDPARENT = -8;
@@ -82,6 +100,14 @@ constexpr DWORD LWA_ALPHA = 2;
 
 constexpr UINT SWP_NOSIZE = 1;
 constexpr UINT SWP_NOMOVE = 2;
+constexpr UINT SWP_NOZORDER = 4;
+constexpr UINT SWP_NOREDRAW = 8;
+constexpr UINT SWP_NOACTIVATE = 0x10;
+constexpr UINT SWP_SHOWWINDOW = 0x40;
+constexpr UINT SWP_HIDEWINDOW = 0x80;
+constexpr UINT SWP_ASYNCWINDOWPOS = 0x4000;
+inline const HWND HWND_TOP = nullptr;
+inline const HWND HWND_BOTTOM = reinterpret_cast<HWND>(static_cast<INT_PTR>(1));
 inline const HWND HWND_TOPMOST = reinterpret_cast<HWND>(static_cast<INT_PTR>(-1));
 inline const HWND HWND_NOTOPMOST = reinterpret_cast<HWND>(static_cast<INT_PTR>(-2));
 
@@ -104,6 +130,7 @@ HWND WINAPI GetDesktopWindow();
 HWND WINAPI GetParent(HWND window);
 int WINAPI GetClassNameA(HWND window, LPSTR text, int limit);
 int WINAPI GetWindowTextA(HWND window, LPSTR text, int limit);
+int WINAPI GetWindowTextW(HWND window, LPWSTR text, int limit);
 LONG_PTR WINAPI GetWindowLongPtrA(HWND window, int index);
 LONG_PTR WINAPI SetWindowLongPtrA(HWND window, int index, LONG_PTR value);
 ULONG_PTR WINAPI GetClassLongPtrA(HWND window, int index);
@@ -112,6 +139,9 @@ BOOL WINAPI GetWindowRect(HWND window, RECT* rect);
 BOOL WINAPI GetClientRect(HWND window, RECT* rect);
 BOOL WINAPI MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
 BOOL WINAPI SetWindowPos(HWND window, HWND after, int x, int y, int width, int height, UINT flags);
+BOOL WINAPI GetWindowPlacement(HWND window, WINDOWPLACEMENT* placement);
+BOOL WINAPI SetWindowPlacement(HWND window, const WINDOWPLACEMENT* placement);
+UINT WINAPI GetDpiForWindow(HWND window);
 BOOL WINAPI ShowWindow(HWND window, int command);
 BOOL WINAPI IsWindowVisible(HWND window);
 BOOL WINAPI IsWindowEnabled(HWND window);

@@ -1,0 +1,17 @@
+#include "app/crash.h"
+
+#include "core/platform.h"
+#include "scroll/gather.h"
+
+static LONG bFolding;
+
+// The state may be corrupt: a second exception, or one of another thread, must not start this again.
+static LONG WINAPI FoldOnCrash(EXCEPTION_POINTERS*) {
+    if (!InterlockedExchange(&bFolding, 1))
+        GatherWindows(false);
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+void FoldWindowsOnCrash() {
+    SetUnhandledExceptionFilter(FoldOnCrash);
+}

@@ -1,0 +1,22 @@
+#include "app/create.h"
+
+#include "app/quit.h"
+#include "core/state.h"
+#include "menus/menu_list.h"
+#include "scroll/desktop_size.h"
+#include "scroll/refresh.h"
+#include "scroll/scroll_view.h"
+#include "settings/settings.h"
+#include "windows/window_table.h"
+
+void OnCreate(HWND window) {
+    MainWnd = window;
+    ResetDesktop();
+    ResetView();
+    ResetOptions();
+    SetTimer(window, REFRESH_TIMER, REFRESH_PERIOD, RefreshTimer);
+    SetDefaultMenu();
+    RebuildWindowTable();
+    LoadSettingsAtStart();
+    EnableSaving();
+}

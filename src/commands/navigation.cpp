@@ -1,0 +1,86 @@
+// Moving the focus among windows by geometry, and tiling the windows in view.
+#include "commands/navigation.h"
+
+#include "commands/neighbour_sweep.h"
+#include "core/state.h"
+#include "status/status_strip.h"
+#include "windows/other_window.h"
+#include "windows/window_table.h"
+
+// The windows that the sweep can find; each is read once.
+static HWND Candidates[MAX_WINDOWS];
+static RECT CandidateRects[MAX_WINDOWS];
+
+static HWND StartWindow() {
+    const HWND active = GetForegroundWindow();
+    if (IsManagedWindow(active))
+        return active;
+    POINT cursor{};
+    GetCursorPos(&cursor);
+    const HWND under = WindowFromPoint(cursor);
+    return IsManagedWindow(under) ? under : nullptr;
+}
+
+static int CollectCandidates(HWND start) {
+    int count = 0;
+    for (int i = 0; i < num_windows; ++i) {
+        const HWND window = WindowTable[i].hwnd;
+        if (window != start && IsManagedWindow(window, &CandidateRects[count]))
+            Candidates[count++] = window;
+    }
+    return count;
+}
+
+int FocusNeighbour(const ActionCall& call) {
+    const auto direction = static_cast<Direction>(call.argument);
+    const HWND window = StartWindow();
+    RECT start = FarSide(ScreenRect, direction);
+    if (window && !GetOtherWindowRect(window, &start))
+        return 0;
+    const int count = CollectCandidates(window);
+    const int found = FindNeighbour({direction, start, CandidateRects, count, VDesk, Quorl});
+    char title[128] = "";
+    if (found < 0 || !GetWindowTextA(Candidates[found], title, 127)) {
+        MessageBeep(0);
+        return 0;
+    }
+    ShowTip("%s", title);
+    return ActivateWindow(Candidates[found]);
+}
+
+static bool IsCompletelyInView(HWND window) {
+    RECT rect{};
+    return IsManagedWindow(window, &rect) && rect.left >= ScreenRect.left && rect.right <= ScreenRect.right &&
+           rect.top >= ScreenRect.top && rect.bottom <= ScreenRect.bottom;
+}
+
+// The table starts with the topmost window. Activating the second repeatedly alternates between two windows;
+// activating the last goes through all.
+int CycleView(const ActionCall& call) {
+    HWND second = nullptr;
+    HWND last = nullptr;
+    int found = 0;
+    for (int i = 0; i < num_windows; ++i) {
+        if (!IsCompletelyInView(WindowTable[i].hwnd))
+            continue;
+        last = WindowTable[i].hwnd;
+        if (++found == 2)
+            second = last;
+    }
+    if (found < 2)
+        return 0;
+    return ActivateWindow(call.argument == CYCLE_SECOND ? second : last);
+}
+
+int TileView(const ActionCall& call) {
+    static HWND tiles[MAX_WINDOWS];
+    UINT count = 0;
+    for (int i = 0; i < num_windows; ++i) {
+        RECT rect{};
+        RECT shared{};
+        if (GetOtherWindowRect(WindowTable[i].hwnd, &rect) && IntersectRect(&shared, &rect, &ScreenRect))
+            tiles[count++] = WindowTable[i].hwnd;
+    }
+    TileOtherWindows(static_cast<UINT>(call.argument), ScreenRect, tiles, count);
+    return 0;
+}

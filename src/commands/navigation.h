@@ -1,0 +1,17 @@
+// Moving the focus among windows by geometry, and tiling the windows in view. None of this moves the view.
+#pragma once
+
+#include "actions/action_table.h"
+
+// Handler: activates the neighbour of the active window, or of the one under the cursor, in a direction (the
+// argument). 0, with a beep, if there is none or it has no title.
+int FocusNeighbour(const ActionCall& call);
+
+enum CycleTarget { CYCLE_SECOND, CYCLE_LAST };
+
+// Handler: activates the second window from the top that is completely in view, or the last. 0 if there are
+// fewer than two.
+int CycleView(const ActionCall& call);
+
+// Handler: tiles every window that is at least partly on the screen. The argument is MDITILE_*. Always 0.
+int TileView(const ActionCall& call);

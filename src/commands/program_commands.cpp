@@ -1,0 +1,32 @@
+#include "commands/program_commands.h"
+
+#include "core/state.h"
+#include "windows/other_window.h"
+
+#include <algorithm>
+
+int ToggleValue(const ActionCall& call) {
+    int& value = ActionTable[call.id].value;
+    value = !value;
+    return 0;
+}
+
+int DoNothing(const ActionCall& call) {
+    return call.argument;
+}
+
+int ChangeBorder(const ActionCall& call) {
+    // Only one side is clamped: a border outside the limits, from the settings file, must not jump.
+    const OptionDef& def = OptionDefs[OPTION_BORDER];
+    const int border = Options.border + call.argument;
+    Options.border = call.argument > 0 ? std::min(border, def.userMax) : std::max(border, def.userMin);
+    return 1;
+}
+
+int LockStation(const ActionCall&) {
+    return pLockWorkStation ? pLockWorkStation() : 0;
+}
+
+int StartScreenSaver(const ActionCall&) {
+    return BroadcastScreenSaver();
+}

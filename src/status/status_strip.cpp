@@ -1,0 +1,138 @@
+#include "status/status_strip.h"
+
+#include "actions/action_table.h"
+#include "core/rect.h"
+#include "core/state.h"
+
+#include <cstdarg>
+#include <cstdio>
+#include <cstring>
+
+static const UINT_PTR TIP_TIMER = 1000;
+static const UINT TIP_PERIOD = 1000; // milliseconds
+static const UINT TICKS_SHOWN = 1;   // the strip survives this many ticks and hides on the next
+static const int TEXT_LIMIT = 255;   // characters
+static const int TEXT_MARGIN = 2;    // pixels left of the text
+
+HWND TipWnd;
+
+namespace {
+
+struct TipRecord {
+    UINT_PTR timer;
+    UINT ticks;                    // since the last text
+    char text[TEXT_LIMIT + 1 + 4]; // DT_MODIFYSTRING may append four characters
+    HFONT font;
+};
+
+} // namespace
+
+static TipRecord TipState;
+
+static int TextHeight(const char* text) {
+    SIZE extent{};
+    const HDC context = GetDC(TipWnd);
+    GetTextExtentPoint32A(context, text, static_cast<int>(std::strlen(text)), &extent);
+    ReleaseDC(TipWnd, context);
+    return extent.cy;
+}
+
+void HideTip() {
+    if (TipWnd)
+        ShowWindow(TipWnd, SW_HIDE);
+}
+
+static void CALLBACK TipTimer(HWND, UINT, UINT_PTR, DWORD) {
+    if (TipState.ticks++ >= TICKS_SHOWN)
+        HideTip();
+}
+
+// Created hidden and not activated: a strip that took the foreground would take the keyboard from the program
+// that the user types into.
+static bool CreateTip() {
+    const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(MainWnd, GWLP_HINSTANCE));
+    const HWND window =
+        CreateWindowExA(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, TIP_CLASS, TIP_CLASS, WS_POPUP | WS_BORDER, -1, -1,
+                        -1, -1, nullptr, nullptr, instance, nullptr);
+    if (!window)
+        return false;
+    TipWnd = window;
+    TipState.timer = SetTimer(window, TIP_TIMER, TIP_PERIOD, TipTimer);
+    return true;
+}
+
+// Do not move it if it is already visible at the map's left edge, so consecutive texts do not flicker.
+static void PlaceTip(int textHeight) {
+    RECT map{};
+    RECT tip{};
+    GetWindowRect(MainWnd, &map);
+    GetWindowRect(TipWnd, &tip);
+    if (IsWindowVisible(TipWnd) && map.left == tip.left)
+        return;
+    const int above = Wrap(0LL + map.top - textHeight);
+    MoveWindow(TipWnd, map.left, above < 0 ? map.bottom : above, Width(map), textHeight, TRUE);
+    ShowWindow(TipWnd, SW_SHOWNOACTIVATE);
+}
+
+void ShowTip(const char* format, ...) {
+    if (!IsOn(ACTION_TOOLTIP) || (!TipWnd && !CreateTip()))
+        return;
+    std::va_list values;
+    va_start(values, format);
+    std::vsnprintf(TipState.text, TEXT_LIMIT + 1, format, values);
+    va_end(values);
+    PlaceTip(TextHeight(TipState.text));
+    Repaint(TipWnd);
+    TipState.ticks = 0;
+}
+
+static void TipCreate() {
+    TipState = {};
+    TipState.font = CreateFontA(14, 0, 0, 0, FW_LIGHT, 0, 0, 0, 0, 0, 0, 0, 0, "Arial");
+}
+
+// Runs twice for one close; the second time nothing is left to release.
+static void TipCleanup(HWND window) {
+    TipWnd = nullptr;
+    if (TipState.font)
+        DeleteObject(TipState.font);
+    TipState.font = nullptr;
+    KillTimer(window, TipState.timer);
+}
+
+static void TipPaint(HWND window) {
+    RECT area{};
+    GetClientRect(window, &area);
+    PAINTSTRUCT paint{};
+    const HDC context = BeginPaint(window, &paint);
+    SetBkMode(context, TRANSPARENT);
+    const HGDIOBJ before = SelectObject(context, TipState.font);
+    area.left += TEXT_MARGIN;
+    DrawTextExA(context, TipState.text, static_cast<int>(std::strlen(TipState.text)), &area,
+                DT_WORDBREAK | DT_NOPREFIX | DT_END_ELLIPSIS | DT_MODIFYSTRING, nullptr);
+    SelectObject(context, before);
+    EndPaint(window, &paint);
+}
+
+static LRESULT CALLBACK TipWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_CREATE: TipCreate(); return 0;
+    case WM_PAINT: TipPaint(window); return 0;
+    case WM_MOUSEMOVE: ShowWindow(window, SW_HIDE); return 0;
+    case WM_DESTROY:
+    case WM_CLOSE:
+    case WM_QUIT: TipCleanup(window); break;
+    default: break;
+    }
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+void RegisterTipClass(HINSTANCE instance) {
+    WNDCLASSA description{};
+    description.lpfnWndProc = TipWndProc;
+    description.hInstance = instance;
+    description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    description.hbrBackground = GetSysColorBrush(COLOR_INFOBK);
+    description.lpszClassName = TIP_CLASS;
+    RegisterClassA(&description);
+}

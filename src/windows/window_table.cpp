@@ -1,0 +1,91 @@
+#include "windows/window_table.h"
+
+#include "actions/action_table.h"
+#include "core/rect.h"
+#include "core/state.h"
+#include "status/status_strip.h"
+#include "windows/other_window.h"
+
+#include <cstring>
+
+WindowRow WindowTable[MAX_WINDOWS];
+int num_windows;
+
+constexpr DWORD DWMWA_CLOAKED = 14; // declared in a header of its own, which the in-memory desktop lacks
+
+// The shell's windows and the status strip stay on the screen. Since Windows 7 WorkerW can host the
+// wallpaper, and each further display has a taskbar.
+static const char* const FixedClasses[] = {"Progman", "Shell_TrayWnd", TIP_CLASS, "WorkerW",
+                                           "Shell_SecondaryTrayWnd"};
+
+// Tool bars that programs keep as top-level windows.
+static const char* const ToolbarClasses[] = {"BaseBar", "ToolbarWindow32", "ReBarWindow32"};
+
+// The callback of EnumWindows; FALSE ends the enumeration when the table is full.
+static BOOL CALLBACK AddWindowRow(HWND window, LPARAM) {
+    if (num_windows >= MAX_WINDOWS)
+        return FALSE;
+    WindowRow& row = WindowTable[num_windows++];
+    row = {window, {}}; // a window that has just gone keeps the empty rectangle until the next rebuild
+    GetWindowRect(window, &row.rect);
+    return TRUE;
+}
+
+void RebuildWindowTable() {
+    const int before = num_windows;
+    num_windows = 0;
+    if (!EnumWindows(AddWindowRow, 0) && num_windows == 0)
+        num_windows = before; // old rows are better than none
+}
+
+bool HasAnyWindowMoved() {
+    for (int i = 0; i < num_windows; ++i) {
+        RECT now{};
+        if (!GetWindowRect(WindowTable[i].hwnd, &now) || !IsSameRect(now, WindowTable[i].rect))
+            return true;
+    }
+    return false;
+}
+
+template <std::size_t Count>
+static bool IsOneOf(const char* name, const char* const (&names)[Count]) {
+    for (const char* candidate : names)
+        if (!std::strcmp(name, candidate))
+            return true;
+    return false;
+}
+
+static bool HasFixedClass(HWND window) {
+    char name[128] = "";
+    if (!GetClassNameA(window, name, 127) || IsOneOf(name, FixedClasses))
+        return true; // every class has a name: this window has just gone
+    return IsOn(ACTION_IGNORE_TOOLWINS) && IsOneOf(name, ToolbarClasses);
+}
+
+// Since Windows 8 the compositor can cloak windows that IsWindowVisible still reports as visible: those of
+// suspended programs and of other virtual desktops.
+static bool IsCloaked(HWND window) {
+    DWORD reasons = 0;
+    return pDwmGetWindowAttribute &&
+           pDwmGetWindowAttribute(window, DWMWA_CLOAKED, &reasons, sizeof reasons) >= 0 && reasons;
+}
+
+// Screen pixels are compared with the desktop's size, without the view's corner: a window beyond it is not
+// managed.
+static bool IsManagedRect(const RECT& rect) {
+    return rect.left != rect.right && rect.top != rect.bottom && rect.left <= Quorl.right &&
+           rect.top <= Quorl.bottom;
+}
+
+// The cheap tests come first; most windows of a system are invisible.
+bool IsManagedWindow(HWND window, RECT* rect) {
+    if (!window || !IsWindowEnabled(window) || !IsWindowVisible(window) || window == GetDesktopWindow() ||
+        IsIconic(window) || HasFixedClass(window) || window == MainWnd || IsCloaked(window))
+        return false;
+    RECT now{};
+    if (!GetOtherWindowRect(window, &now) || !IsManagedRect(now))
+        return false;
+    if (rect)
+        *rect = now;
+    return true;
+}

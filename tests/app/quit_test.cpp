@@ -1,0 +1,59 @@
+#include "app/quit.h"
+
+#include "app/main.h"
+#include "support/quorl_test.h"
+
+class Quit : public RunningQuorl {
+  protected:
+    HWND far = OpenWindow("far", {1100, 200, 1300, 300});
+};
+class QuitAtStart : public QuorlTest {};
+
+TEST_F(Quit, IgnoresQueuedCommandsAfterConfirmation) {
+    RunAction(ACTION_SAVE_SETTINGS);
+    const auto saved = Desk.files;
+    Desk.files.clear();
+    AnswerBoxes({IDYES, IDYES});
+    PostMessageA(MainWnd, WM_CLOSE, 0, 0);
+    Desk.foreground = far;
+    for (const WPARAM id : {ACTION_SCREEN_RIGHT, ACTION_ACTIVE_RIGHT_SCREEN}) // while the box is open
+        PostMessageA(MainWnd, WM_HOTKEY, id, 0);
+    HandleMessages();
+    EXPECT_EQ(RectOf(far).left, 76);
+    EXPECT_EQ(Desk.files, saved);
+    EXPECT_TRUE(ConfirmQuit(MainWnd));
+    SendMessageA(MainWnd, WM_ENDSESSION, 1, 0);
+    EXPECT_EQ(Desk.files, saved) << "saved again, without the bindings";
+}
+
+// The box about a refused hotkey lets the user quit before StartUp has finished.
+TEST_F(QuitAtStart, EndsTheMessageLoopAtOnceAndSavesNothing) {
+    const std::string stored = "[Quorl]\r\nAction28=-1|-1|4|112|0\r\n";
+    Desk.files["quorl.ini"] = stored;
+    Desk.fault = {"RegisterHotKey", 1, 0, ERROR_HOTKEY_ALREADY_REGISTERED, 0};
+    Desk.duringBox = [] {
+        Desk.duringBox = nullptr;
+        ConfirmQuit(MainWnd);
+    };
+    AnswerBoxes({IDYES, IDOK});
+    EXPECT_EQ(WinMain(nullptr, nullptr, nullptr, 0), 0);
+    EXPECT_FALSE(Desk.timeIsUp);
+    EXPECT_TRUE(Desk.tray.empty());
+    EXPECT_EQ(Desk.files["quorl.ini"], stored) << "nothing is saved before all hotkeys are registered";
+    EXPECT_TRUE(Hook.set.empty());
+}
+
+TEST_F(Quit, AtTheEndOfTheSessionSavesAndFoldsAsNeeded) {
+    const auto saves = [](int bWanted, WPARAM bEnds, LPARAM flags) {
+        Desk.files.clear();
+        ActionTable[ACTION_SAVE_AT_EXIT].value = bWanted;
+        SendMessageA(MainWnd, WM_ENDSESSION, bEnds, flags);
+        return !Desk.files.empty();
+    };
+    EXPECT_FALSE(saves(1, 0, 0)) << "the end was cancelled";
+    EXPECT_FALSE(saves(0, 1, 0));
+    EXPECT_TRUE(saves(1, 1, 0));
+    EXPECT_EQ(RectOf(far).left, 1100);
+    EXPECT_FALSE(saves(0, 1, ENDSESSION_CLOSEAPP));
+    EXPECT_EQ(RectOf(far).left, 76);
+}

@@ -1,0 +1,48 @@
+#include "support/quorl_test.h"
+
+class Navigation : public RunningQuorl {};
+
+TEST_F(Navigation, ActivatesTheNeighbourWithoutScrolling) {
+    const HWND left = OpenWindow("left", {0, 100, 200, 300});
+    const HWND right = OpenWindow("right", {1500, 100, 1700, 300}); // off the screen
+    OpenWindow("", {400, 500, 600, 600});                           // below, but without a title
+    const HWND middle = OpenAndList("middle", {400, 100, 600, 300});
+    const auto reached = [](ActionId id, HWND from) {
+        Desk.foreground = from;
+        RunAction(id);
+        return Desk.foreground;
+    };
+    EXPECT_EQ(reached(ACTION_FOCUS_RIGHT, middle), right);
+    EXPECT_EQ(reached(ACTION_FOCUS_LEFT, middle), left);
+    EXPECT_EQ(reached(ACTION_FOCUS_LEFT, right), middle) << "first in the table";
+    EXPECT_TRUE(Desk.beeps.empty());
+    EXPECT_EQ(reached(ACTION_FOCUS_DOWN, middle), middle);
+    EXPECT_EQ(reached(ACTION_FOCUS_UP, middle), middle);
+    EXPECT_EQ(Desk.beeps.size(), 2U);
+    EXPECT_EQ(VDesk.left, 0);
+
+    Desk.cursor = {500, 200};
+    EXPECT_EQ(reached(ACTION_FOCUS_RIGHT, nullptr), right) << "from the window under the cursor";
+    Desk.cursor = {500, 700};
+    EXPECT_EQ(reached(ACTION_FOCUS_RIGHT, nullptr), left) << "from the left edge of the screen";
+}
+
+TEST_F(Navigation, CyclesThroughWindowsCompletelyInView) {
+    const HWND bottom = OpenWindow("bottom", {0, 0, 100, 100});
+    const HWND second = OpenWindow("second", {924, 668, 1024, 768});
+    OpenWindow("partly", {1000, 0, 1100, 100});
+    OpenAndList("top", {200, 200, 300, 300});
+    RunAction(ACTION_NEXT_IN_VIEW);
+    EXPECT_EQ(Desk.foreground, second);
+    RunAction(ACTION_CYCLE_IN_VIEW);
+    EXPECT_EQ(Desk.foreground, bottom);
+}
+
+TEST_F(Navigation, TilesWindowsPartlyInView) {
+    const HWND partly = OpenWindow("partly", {1000, 700, 1200, 900});
+    OpenAndList("beside", {1024, 0, 1100, 100});
+    RunAction(ACTION_TILE_VERTICALLY);
+    EXPECT_EQ(Desk.tilings.back().how, MDITILE_VERTICAL);
+    EXPECT_EQ(Desk.tilings.back().rect, Rect(0, 0, 1024, 768));
+    EXPECT_EQ(Desk.tilings.back().windows, (std::vector<HWND>{MainWnd, partly}));
+}

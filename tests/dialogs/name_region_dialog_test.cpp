@@ -1,0 +1,64 @@
+// Marking the view's position as a region.
+#include "dialogs/dialog_test.h"
+#include "regions/region_table.h"
+
+constexpr COLORREF COLOR = RGB(1, 2, 3);
+
+class NameRegion : public DialogTest {
+  protected:
+    COLORREF SwatchColor() const {
+        const auto swatch = reinterpret_cast<LPARAM>(Item(IDC_REGION_COLOR));
+        return reinterpret_cast<DeskObject*>(SendMessageA(dialog, WM_CTLCOLORSTATIC, 0, swatch))->color;
+    }
+    void ClickSwatch() const {
+        const RECT rect = RectOf(Item(IDC_REGION_COLOR));
+        MoveMouse(rect.left + 5, rect.top + 5);
+        PressMouse(VK_LBUTTON, true);
+        PressMouse(VK_LBUTTON, false);
+        HandleMessages();
+    }
+};
+
+TEST_F(NameRegion, RenamesTheRegionAtTheCurrentView) {
+    AddRegion("around", -5, -5);
+    AddRegion("mail", 5, 0);
+    RegionTable[1].color = COLOR;
+    Open(ACTION_MARK_REGION);
+    EXPECT_EQ(Text(IDC_REGION_NAME), "");
+    EXPECT_EQ(SwatchColor(), Desk.systemColors[COLOR_BACKGROUND]);
+    Press(VK_ESCAPE);
+    RunAction(ACTION_VIEW_RIGHT_MIN);
+    Open(ACTION_MARK_REGION);
+    EXPECT_EQ(Text(IDC_REGION_NAME), "mail");
+    EXPECT_EQ(SwatchColor(), COLOR);
+    Type(IDC_REGION_NAME, "a name of more than thirty-one characters");
+    Click(IDOK);
+    ASSERT_EQ(num_regions, 2);
+    const RegionRow& region = RegionTable[1];
+    EXPECT_STREQ(region.name, "a name of more than thirty-one ");
+    EXPECT_EQ(Rect(region.left, region.top, region.right, region.bottom), Rect(5, 0, 1029, 768));
+}
+
+TEST_F(NameRegion, ANewRegionGetsItsColorAndHotkey) {
+    RunAction(ACTION_SCREEN_RIGHT);
+    const int objects = LiveObjects();
+    Open(ACTION_MARK_REGION);
+    Desk.colorChoices = {COLOR, std::nullopt};
+    ClickSwatch();
+    ClickSwatch(); // cancelled
+    EXPECT_EQ(Desk.colorDialogs.at(1).initial, COLOR);
+    AnswerBoxes({IDOK});
+    Click(IDOK);
+    EXPECT_EQ(LastBox(), "That's an invalid name, see./Fix name");
+    Type(IDC_REGION_NAME, "here");
+    RunAction(ACTION_SCREEN_RIGHT);
+    Click(IDOK);
+    EXPECT_EQ(LiveObjects(), objects) << "the brush is deleted";
+    ASSERT_EQ(num_regions, 1);
+    EXPECT_EQ(RegionTable[0].color, COLOR);
+    EXPECT_EQ(RegionTable[0].left, 2048) << "the view at OK";
+    RunAction(ACTION_SCREEN_LEFT);
+    PressHotkey(MOD_ALT | MOD_CONTROL | MOD_SHIFT, '0');
+    HandleMessages();
+    EXPECT_EQ(VDesk.left, 2048);
+}

@@ -1,0 +1,277 @@
+#include "fuzz/inputs.h"
+
+#include "actions/dispatch.h"
+#include "app/main.h"
+#include "dialogs/registry.h"
+#include "menus/menu_list.h"
+#include "hook/hook_message.h"
+#include "regions/region_table.h"
+#include "scroll/scroll_view.h"
+#include "windows/window_table.h"
+#include "settings/ini.h"
+#include "support/map_mouse.h"
+
+#include <algorithm>
+
+namespace {
+
+// Returns 0 after the last byte. Within one expression only braces guarantee reading from left to right.
+struct Bytes {
+    const char* next;
+    const char* end;
+
+    int Byte() { return next < end ? static_cast<unsigned char>(*next++) : 0; }
+    std::size_t Index(std::size_t count) { return static_cast<std::size_t>(Byte()) % count; }
+    int Below(int limit) {
+        const int high = Byte();
+        return (high * 256 + Byte()) % limit;
+    }
+    template <typename Item>
+    Item OneOf(std::initializer_list<Item> items) {
+        return items.begin()[Index(items.size())];
+    }
+};
+
+constexpr std::size_t MANY = 40; // boxes answered in one step; windows of other programs
+
+int Faults;               // platform calls that were made to fail
+std::vector<HWND> Others; // windows of other programs, destroyed ones included
+
+DeskWindow& SomeOther(Bytes& bytes) {
+    if (Others.empty())
+        Others.push_back(OpenWindow("first", {100, 100, 400, 300}));
+    return WindowOf(Others[bytes.Index(Others.size())]);
+}
+
+RECT SomeRect(Bytes& bytes) {
+    const int left = bytes.Below(6000) - 1000;
+    const int top = bytes.Below(3000) - 500;
+    return {left, top, left + bytes.Below(1400), top + bytes.Below(1000)};
+}
+
+void AnswerAll(int answer) {
+    Desk.boxAnswers.assign(MANY, answer);
+    Desk.colorChoices.assign(2, RGB(answer, 20, 30));
+}
+
+void RunAnyAction(Bytes& bytes) {
+    const int action = bytes.Byte() % (NUM_ACTIONS + 1);
+    if (action != ACTION_LOCK_STATION)
+        RunAction(action);
+}
+
+void JumpToRegion(Bytes& bytes) {
+    RunAction(FIRST_REGION_ID + bytes.Byte() - 5);
+}
+
+// An item that the menu does not have counts as closing it.
+void ChooseFromMenu(Bytes& bytes) {
+    const int before = Desk.unexpected;
+    const int choice = bytes.Byte() % 2 ? bytes.Byte() % NUM_ACTIONS : FIRST_REGION_ID + bytes.Byte();
+    Desk.menuChoices = {static_cast<UINT>(choice)};
+    RunAction(ACTION_SHOW_MENU);
+    Desk.unexpected = before;
+}
+
+void MoveTheMouse(Bytes& bytes) {
+    const int held = bytes.OneOf({0, VK_LBUTTON, VK_RBUTTON, VK_MBUTTON});
+    HoldKey(held, 1);
+    const POINT at{bytes.Below(1024), bytes.Below(768)};
+    MoveMouse(at.x, at.y);
+    if (bytes.Byte() % 2)
+        MoveMouse(bytes.Byte() % 2 ? 0 : ScreenW() - 1, Desk.cursor.y);
+    const UINT message =
+        bytes.OneOf<UINT>({WM_MOUSEMOVE, WM_NCMOUSEMOVE, WM_LBUTTONDOWN, WM_RBUTTONDOWN, WM_LBUTTONUP});
+    PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, message, 0);
+    HandleMessages();
+    HoldKey(held, 0);
+}
+
+void UseTheMap(Bytes& bytes) {
+    const auto keys = {VK_LSHIFT, VK_LCONTROL, VK_LMENU, VK_RSHIFT};
+    int held = bytes.Byte();
+    for (const int key : keys) {
+        HoldKey(key, held & 1);
+        held >>= 1;
+    }
+    const int button = bytes.OneOf({VK_LBUTTON, VK_RBUTTON, VK_MBUTTON});
+    const auto move = [&bytes](int x) { MoveOnMap(x, bytes.Byte() - 20); };
+    move(bytes.Byte() - 20);
+    PressOnMap(button);
+    for (int steps = bytes.Byte() % 3; steps > 0; --steps)
+        move(bytes.Byte() - 20);
+    ReleaseOnMap(button);
+    for (const int key : keys)
+        HoldKey(key, 0);
+}
+
+void OpenOther(Bytes& bytes) {
+    if (Others.size() >= MANY)
+        return;
+    const auto* title = bytes.OneOf({"editor", "", "a|b & c", "a title that is longer than a region's name"});
+    const RECT rect = SomeRect(bytes);
+    const auto* kind = bytes.OneOf({"Program", "SysListView32", "Shell_TrayWnd", "BaseBar"});
+    Others.push_back(OpenWindow(title, rect, kind));
+}
+
+void ChangeOther(Bytes& bytes) {
+    if (DeskWindow& window = SomeOther(bytes); window.handle)
+        window.rect = SomeRect(bytes);
+}
+
+void ChangeResponse(Bytes& bytes) {
+    DeskWindow& window = SomeOther(bytes);
+    window.response = static_cast<DeskResponse>(bytes.Byte() % 5);
+    window.error = bytes.OneOf<DWORD>({0, ERROR_TIMEOUT, ERROR_ACCESS_DENIED});
+    window.overridesMove = bytes.Byte() % 8 == 0;
+    window.moveOverride = SomeRect(bytes);
+    window.diesAtCall = bytes.Byte() % 8 == 0 ? bytes.Byte() : 0;
+}
+
+void EndOther(Bytes& bytes) {
+    if (const HWND window = SomeOther(bytes).handle)
+        KillWindow(window);
+}
+
+void ShowOther(Bytes& bytes) {
+    if (const HWND window = SomeOther(bytes).handle)
+        ShowWindow(window, bytes.OneOf({SW_HIDE, SW_SHOW, SW_MINIMIZE, SW_MAXIMIZE, SW_RESTORE}));
+}
+
+void GoToOther(Bytes& bytes) {
+    if (const HWND window = SomeOther(bytes).handle)
+        SetForegroundWindow(window);
+}
+
+void ChangeDisplays(Bytes& bytes) {
+    const int width = bytes.OneOf({1024, 640, 1920, 3840});
+    Desk.displays = {Rect(0, 0, width, width < 1900 ? width * 3 / 4 : width * 9 / 16)};
+    if (bytes.Byte() % 4 == 0)
+        Desk.displays.push_back(Rect(width, 0, width + 800, 600));
+    SendMessageA(MainWnd, WM_SETTINGCHANGE, 0, 0);
+}
+
+void LetTimePass(Bytes& bytes) {
+    Wait(static_cast<DWORD>(bytes.Byte()) * 20);
+}
+
+void FailACall(Bytes& bytes) {
+    ++Faults;
+    Desk.fault = {"", bytes.Byte() + 1, 0, 87, 0};
+}
+
+void UseADialog(Bytes& bytes) {
+    const HWND dialog = DialogHandles[bytes.Byte() % NUM_DIALOGS];
+    if (!dialog || !WindowOf(dialog).handle || WindowOf(dialog).children.empty())
+        return;
+    const std::vector<HWND>& children = WindowOf(dialog).children;
+    const HWND control = children[bytes.Index(children.size())];
+    const std::string& kind = WindowOf(control).className;
+    const DeskControl& kept = WindowOf(control).control;
+    const int rows = std::max(static_cast<int>(kept.items.size()), kept.itemCount);
+    if (kind == "Button" || kind == "BUTTON")
+        ClickControl(control);
+    else if (kind == "Edit" || kind == "EDIT")
+        TypeText(control, bytes.OneOf({"", "0", "7", "4096", "99999999999", "name|with & bar"}));
+    else if (rows > 0)
+        SelectItem(control, bytes.Byte() % rows);
+    HandleMessages();
+}
+
+void EditSettings(Bytes& bytes) {
+    const auto* key =
+        bytes.OneOf({"Quorl.right", "border", "num_regions", "quorl_menu_count", "quorl_menu", "Region0",
+                     "Action28", "minscroll", "quorl_pos.left", "delay", "alpha", "mousescroll_type"});
+    const auto* value = bytes.OneOf({"0", "-1", "2147483647", "-2147483648", "99999999999999", "1|2|3|4|5",
+                                     "|||||", "x|1|2|3|4|5", "200", "500", "-1|-1|6|39|0", "\"  a\""});
+    WritePrivateProfileStringA(SETTINGS_SECTION, key, value, SETTINGS_FILE);
+}
+
+void PressAKey(Bytes& bytes) {
+    PressKey(bytes.OneOf({VK_TAB, VK_RETURN, VK_ESCAPE, VK_SPACE, VK_LEFT, VK_DOWN}));
+    HandleMessages();
+}
+
+// Frequent steps are listed several times.
+const auto Steps = {
+    RunAnyAction, RunAnyAction, RunAnyAction, JumpToRegion,   ChooseFromMenu, MoveTheMouse,
+    UseTheMap,    UseTheMap,    OpenOther,    OpenOther,      ChangeOther,    ChangeResponse,
+    EndOther,     ShowOther,    GoToOther,    ChangeDisplays, LetTimePass,    LetTimePass,
+    FailACall,    UseADialog,   UseADialog,   UseADialog,     EditSettings,   PressAKey,
+};
+
+void ExpectValidState() {
+    EXPECT_TRUE(num_windows >= 0 && num_windows <= MAX_WINDOWS) << num_windows;
+    EXPECT_TRUE(num_regions >= 0 && num_regions <= MAX_REGIONS) << num_regions;
+    EXPECT_TRUE(quorl_menu_count >= 0 && quorl_menu_count <= MAX_MENU_ENTRIES) << quorl_menu_count;
+    EXPECT_TRUE(Quorl.right >= ScreenW() && Quorl.bottom >= ScreenH()) << Quorl.right << "x" << Quorl.bottom;
+    EXPECT_TRUE(LiveContexts() == 0 || Faults) << "its release may have failed";
+}
+
+void ExpectScrollingToBeClamped() {
+    for (const int corner : {-5000, 60000, 300, 0}) {
+        ScrollView(MainWnd, corner, corner, SV_ABSOLUTE, 0);
+        EXPECT_TRUE(VDesk.left >= 0 && VDesk.top >= 0 && VDesk.right <= Quorl.right &&
+                    VDesk.bottom <= Quorl.bottom)
+            << testing::PrintToString(VDesk) << " on " << testing::PrintToString(Quorl);
+    }
+}
+
+// A negative position of the map would not be loaded.
+void ExpectSavedToLoad() {
+    MoveWindow(MainWnd, 100, 100, 200, 100, TRUE);
+    RunAction(ACTION_SAVE_SETTINGS);
+    const std::string saved = Desk.files[SETTINGS_FILE];
+    RunAction(ACTION_LOAD_SETTINGS);
+    RunAction(ACTION_SAVE_SETTINGS);
+    EXPECT_EQ(Desk.files[SETTINGS_FILE], saved);
+}
+
+void ExpectWindowsAndResourcesBack() {
+    std::vector<HWND> windows; // FoldWindows walks those that are managed when the user says Yes
+    std::copy_if(Others.begin(), Others.end(), std::back_inserter(windows), [](HWND window) {
+        const DeskWindow& other = WindowOf(window);
+        return other.response == DeskResponse::Responds && !other.overridesMove && !other.diesAtCall &&
+               IsManagedWindow(window);
+    });
+    AnswerAll(IDYES);
+    RunAction(ACTION_EXIT);
+    EXPECT_TRUE(bQuitting);
+    ShutDown();
+    for (const HWND window : windows) {
+        const RECT rect = RectOf(window);
+        EXPECT_TRUE(rect.left >= 0 && rect.left < ScreenW() && rect.top >= 0 && rect.top < ScreenH())
+            << testing::PrintToString(rect);
+    }
+    EXPECT_TRUE(Desk.tray.empty());
+    for (const DeskHotkey& hotkey : Desk.hotkeys) // those of regions end with the process
+        EXPECT_TRUE(hotkey.window != MainWnd || hotkey.id >= FIRST_REGION_ID);
+    for (const DeskMenu& menu : Desk.menus)
+        EXPECT_TRUE(!menu.live || Faults);
+    EXPECT_EQ(Hook.set, (std::vector<int>{1, 0}));
+    EXPECT_TRUE(Desk.deletedInUse == 0 || Faults) << "objects deleted while selected";
+}
+
+} // namespace
+
+void TestRun(std::string_view input) {
+    Bytes bytes{input.data(), input.data() + input.size()};
+    PrepareDesk();
+    AnswerAll(IDOK);
+    StartQuorl();
+    while (bytes.next < bytes.end && !testing::Test::HasFailure()) {
+        const std::size_t step = bytes.Index(Steps.size());
+        SCOPED_TRACE(step);
+        AnswerAll(IDNO);
+        Desk.menuChoices.assign(MANY, 0);
+        Steps.begin()[step](bytes);
+        ExpectValidState();
+    }
+    Desk.fault = {};
+    // A display change takes effect at the next mouse move.
+    PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0);
+    HandleMessages();
+    ExpectScrollingToBeClamped();
+    ExpectSavedToLoad();
+    ExpectWindowsAndResourcesBack();
+}

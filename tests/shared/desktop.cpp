@@ -1,0 +1,157 @@
+#include "shared/desktop.h"
+
+#include <vector>
+
+static HANDLE Job; // closing it ends every program in it
+static std::vector<HANDLE> Programs;
+
+HANDLE Launch(std::string command) {
+    if (!Job) {
+        Job = CreateJobObjectA(nullptr, nullptr);
+        JOBOBJECT_EXTENDED_LIMIT_INFORMATION limit{};
+        limit.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+        SetInformationJobObject(Job, JobObjectExtendedLimitInformation, &limit, sizeof limit);
+    }
+    STARTUPINFOA startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION program{};
+    CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED, nullptr, nullptr,
+                   &startup, &program);
+    AssignProcessToJobObject(Job, program.hProcess);
+    ResumeThread(program.hThread);
+    CloseHandle(program.hThread);
+    Programs.push_back(program.hProcess);
+    return program.hProcess;
+}
+
+void EndPrograms() {
+    CloseHandle(Job);
+    Job = nullptr;
+    for (const HANDLE program : Programs) {
+        WaitForSingleObject(program, TIMEOUT);
+        CloseHandle(program);
+    }
+    Programs.clear();
+}
+
+HWND OpenWindow(const char* title, const RECT& rect, const char* behaviour) {
+    char path[MAX_PATH] = "", command[512];
+    GetModuleFileNameA(nullptr, path, sizeof path);
+    snprintf(command, sizeof command, "\"%s\" --play %s \"%s\" %ld %ld %ld %ld", path, behaviour, title,
+             rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top);
+    const HWND window = WaitForVisible(GetProcessId(Launch(command)), "Player", title);
+    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
+    return window;
+}
+
+static std::string Behaviour;
+
+static LRESULT CALLBACK PlayerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_APP && Behaviour == "hung")
+        Sleep(INFINITE);
+    if (message == WM_MOVING && Behaviour == "slow")
+        Sleep(500);
+    if (message == WM_MOVING && Behaviour == "dies")
+        ExitProcess(0);
+    if (message == WM_MOVING && Behaviour == "overrides") {
+        RECT* const rect = reinterpret_cast<RECT*>(lParam);
+        rect->left += 7;
+        rect->top += 9;
+        return TRUE;
+    }
+    if (message == WM_DESTROY)
+        PostQuitMessage(0);
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+bool PlayWindow(int count, char** arguments) {
+    if (count != 8 || std::string(arguments[1]) != "--play")
+        return false;
+    Behaviour = arguments[2];
+    WNDCLASSA type{};
+    type.lpfnWndProc = PlayerProc;
+    type.lpszClassName = "Player";
+    type.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    type.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
+    RegisterClassA(&type);
+    const HWND window =
+        CreateWindowA("Player", arguments[3], WS_OVERLAPPEDWINDOW, atoi(arguments[4]), atoi(arguments[5]),
+                      atoi(arguments[6]), atoi(arguments[7]), nullptr, nullptr, nullptr, nullptr);
+    ShowWindow(window, SW_SHOWNOACTIVATE);
+    UpdateWindow(window);
+    PostMessageA(window, WM_APP, 0, 0);
+    MSG message;
+    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+    }
+    return true;
+}
+
+HWND FindVisible(DWORD process, const char* windowClass, const char* title) {
+    HWND window = nullptr;
+    do
+        window = FindWindowExA(nullptr, window, windowClass, title);
+    while (window && (!IsWindowVisible(window) || (process && process != ProcessOf(window))));
+    return window;
+}
+
+HWND WaitForVisible(DWORD process, const char* windowClass, const char* title) {
+    HWND found = nullptr;
+    Eventually([&] { return (found = FindVisible(process, windowClass, title)) != nullptr; }, true);
+    return found;
+}
+
+DWORD ProcessOf(HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process;
+}
+
+void HoldKey(int key, bool down) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = static_cast<WORD>(key);
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(input.ki.wVk, MAPVK_VK_TO_VSC));
+    const bool extended = (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_LWIN || key == VK_RSHIFT;
+    input.ki.dwFlags = (down ? 0U : KEYEVENTF_KEYUP) | (extended ? KEYEVENTF_EXTENDEDKEY : 0U);
+    SendInput(1, &input, sizeof input);
+}
+
+static void Send(LONG x, LONG y, DWORD data, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi = {x, y, data, flags, 0, 0};
+    SendInput(1, &input, sizeof input);
+}
+
+void SendMouse(int x, int y) {
+    const auto scaled = [](int at, int metric) { return (at * 65536 + 32768) / GetSystemMetrics(metric); };
+    Send(scaled(x, SM_CXSCREEN), scaled(y, SM_CYSCREEN), 0, MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
+}
+
+// Under Wine a move that was only sent is replaced by the X server's pointer position after some 100 ms, and
+// one that follows SetCursorPos at once may be lost.
+void MoveMouse(int x, int y) {
+    SetCursorPos(x, y);
+    Sleep(60);
+    SendMouse(x, y);
+    Sleep(60);
+}
+
+void PressMouse(int button, bool down) {
+    const DWORD press = button == VK_LBUTTON   ? MOUSEEVENTF_LEFTDOWN
+                        : button == VK_RBUTTON ? MOUSEEVENTF_RIGHTDOWN
+                                               : MOUSEEVENTF_MIDDLEDOWN;
+    Send(0, 0, 0, down ? press : press << 1); // the flag of the release is the next bit
+}
+
+void TurnWheel() {
+    Send(0, 0, WHEEL_DELTA, MOUSEEVENTF_WHEEL);
+}
+
+void HandleMessages() {
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
+        DispatchMessageA(&message);
+}

@@ -4,10 +4,10 @@
 #include <cstdarg>
 
 DemoProgram Programs[NUM_PROGRAMS] = {
-    {"notepad",  "notepad",  "Notepad",         {60, 250, 560, 640},    nullptr},
-    {"winemine", "winemine", "WineMine",        {640, 330, 640, 330},   nullptr},
-    {"clock",    "clock",    "CLClass",         {700, 80, 920, 300},    nullptr},
-    {"regedit",  "regedit",  "RegEdit_RegEdit", {1330, 320, 1930, 670}, nullptr},
+    {"notepad", "notepad", "Notepad", {60, 250, 560, 640}, nullptr},
+    {"winemine", "winemine", "WineMine", {640, 330, 640, 330}, nullptr},
+    {"clock", "clock", "CLClass", {700, 80, 920, 300}, nullptr},
+    {"regedit", "regedit", "RegEdit_RegEdit", {1330, 320, 1930, 670}, nullptr},
 };
 static bool TakesPictures;
 
@@ -214,19 +214,19 @@ void QuitByTheMenu() {
 }
 
 const char* const OwnSettings[][2] = {
-    {"num_regions",      "3"                             },
-    {"Region0",          "home|0|0|1024|768|16763080"    },
-    {"Region1",          "mail|2048|0|3072|768|8454143"  },
-    {"Region2",          "web|1024|768|2048|1536|8454016"},
-    {"quorl_pos.left",   "160"                           },
-    {"quorl_pos.top",    "40"                            },
-    {"quorl_pos.right",  "460"                           },
-    {"quorl_pos.bottom", "220"                           },
-    {"Action36",         "-1|-1|6|78|0"                  }, // next region: Ctrl+Alt+N
-    {"Action37",         "-1|-1|6|80|0"                  }, // previous region: Ctrl+Alt+P
-    {"Action38",         "-1|-1|-1|-1|0"                 },
-    {"Action39",         "0|8|-1|-1|0"                   }, // left button: drag a window's box
-    {"Action114",        "-1|-1|-1|-1|0"                 }, // move the pointer along at the screen's edge
+    {"num_regions", "3"},
+    {"Region0", "home|0|0|1024|768|16763080"},
+    {"Region1", "mail|2048|0|3072|768|8454143"},
+    {"Region2", "web|1024|768|2048|1536|8454016"},
+    {"quorl_pos.left", "160"},
+    {"quorl_pos.top", "40"},
+    {"quorl_pos.right", "460"},
+    {"quorl_pos.bottom", "220"},
+    {"Action36", "-1|-1|6|78|0"}, // next region: Ctrl+Alt+N
+    {"Action37", "-1|-1|6|80|0"}, // previous region: Ctrl+Alt+P
+    {"Action38", "-1|-1|-1|-1|0"},
+    {"Action39", "0|8|-1|-1|0"},    // left button: drag a window's box
+    {"Action114", "-1|-1|-1|-1|0"}, // move the pointer along at the screen's edge
 };
 
 void StartWithSettings() {
@@ -319,18 +319,18 @@ void End() {
 }
 
 const std::vector<Chapter> DefaultChapters = {
-    {"Four programs and Quorl",                Start        },
-    {"Keys move the view over the desktop",    UseTheKeys   },
-    {"The map reacts to the mouse",            ClickOnTheMap},
-    {"The map is dragged to another position", DragTheMap   },
-    {"The menu opens at the mouse",            UseTheMenu   },
-    {"Quitting brings every window back",      QuitByTheMenu},
+    {"Four programs and Quorl", Start},
+    {"Keys move the view over the desktop", UseTheKeys},
+    {"The map reacts to the mouse", ClickOnTheMap},
+    {"The map is dragged to another position", DragTheMap},
+    {"The menu opens at the mouse", UseTheMenu},
+    {"Quitting brings every window back", QuitByTheMenu},
 };
 const std::vector<Chapter> SettingsChapters = {
     {"Regions and keys of one's own, from a settings file", StartWithSettings},
-    {"Regions are reached by keys and by the menu",         VisitRegions     },
-    {"A box on the map is a handle to its window",          DragABox         },
-    {"The mouse pushes the view at the screen's edge",      PushAtTheEdge    },
+    {"Regions are reached by keys and by the menu", VisitRegions},
+    {"A box on the map is a handle to its window", DragABox},
+    {"The mouse pushes the view at the screen's edge", PushAtTheEdge},
 };
 
 void RunChapters(const std::vector<Chapter>& chapters) {

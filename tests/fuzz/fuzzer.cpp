@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t leng
         FUZZED({reinterpret_cast<const char*>(data), length});
         std::memcpy(shared, counters, size);
     };
-    if (shared == MAP_FAILED || !HoldsInItsOwnProcess(run))
+    if (shared == MAP_FAILED || !PassesInOwnProcess(run))
         std::abort();
     std::memcpy(counters, shared, size);
     return 0;

@@ -7,20 +7,37 @@
 
 static bool wideCall; // the window procedure in progress receives UTF-16
 
+// Number of bytes of a UTF-8 character, by its first.
+static std::size_t CharacterLength(unsigned char lead) {
+    if (lead < 0xC0)
+        return 1;
+    if (lead < 0xE0)
+        return 2;
+    return lead < 0xF0 ? 3 : 4;
+}
+
+// The character at `at`, which moves behind it. A stray byte counts as Latin-1.
+static unsigned NextCharacter(const std::string& utf8, std::size_t& at) {
+    const auto lead = static_cast<unsigned char>(utf8[at]);
+    const std::size_t length = CharacterLength(lead);
+    const std::size_t start = at++;
+    if (length == 1 || start + length > utf8.size())
+        return lead;
+    unsigned code = lead & (0xFFU >> (length + 1));
+    for (std::size_t next = 1; next < length; ++next) {
+        const auto byte = static_cast<unsigned char>(utf8[start + next]);
+        if ((byte & 0xC0) != 0x80)
+            return lead;
+        code = code << 6 | (byte & 0x3FU);
+    }
+    at = start + length;
+    return code;
+}
+
 std::wstring ToWide(const std::string& utf8) {
     std::wstring wide;
     for (std::size_t at = 0; at < utf8.size();) {
-        const auto lead = static_cast<unsigned char>(utf8[at]);
-        const std::size_t length = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-        unsigned code = length == 1 ? lead : lead & (0xFFU >> (length + 1));
-        bool valid = length == 1 || at + length <= utf8.size();
-        for (std::size_t next = 1; valid && next < length; ++next) {
-            const auto byte = static_cast<unsigned char>(utf8[at + next]);
-            valid = (byte & 0xC0) == 0x80;
-            code = code << 6 | (byte & 0x3FU);
-        }
-        at += valid ? length : 1;
-        code = valid ? code : lead; // a stray byte counts as Latin-1
+        unsigned code = NextCharacter(utf8, at);
         if (code >= 0x10000) {
             wide += static_cast<wchar_t>(0xD800 + ((code - 0x10000) >> 10));
             code = 0xDC00 + ((code - 0x10000) & 0x3FF);
@@ -112,8 +129,8 @@ static LRESULT CallAnsiWindow(const DeskWindow& window, UINT message, WPARAM wPa
         return Call(window, false, message, wParam, lParam);
     std::string text(wParam + 1, 0);
     Call(window, false, message, wParam, reinterpret_cast<LPARAM>(text.data()));
-    return CopyWide(ToWide(FromAnsi(text.c_str())), reinterpret_cast<LPWSTR>(lParam),
-                    static_cast<int>(wParam));
+    text.resize(std::strlen(text.data()));
+    return CopyWide(ToWide(FromAnsi(text)), reinterpret_cast<LPWSTR>(lParam), static_cast<int>(wParam));
 }
 
 LRESULT CallWndProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

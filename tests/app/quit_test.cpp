@@ -16,8 +16,8 @@ TEST_F(Quit, IgnoresQueuedCommandsAfterConfirmation) {
     AnswerBoxes({IDYES, IDYES});
     PostMessageA(MainWnd, WM_CLOSE, 0, 0);
     Desk.foreground = far;
-    for (const WPARAM id : {ACTION_SCREEN_RIGHT, ACTION_ACTIVE_RIGHT_SCREEN}) // while the box is open
-        PostMessageA(MainWnd, WM_HOTKEY, id, 0);
+    for (const ActionId id : {ACTION_SCREEN_RIGHT, ACTION_ACTIVE_RIGHT_SCREEN}) // while the box is open
+        PostMessageA(MainWnd, WM_HOTKEY, static_cast<WPARAM>(id), 0);
     HandleMessages();
     EXPECT_EQ(RectOf(far).left, 76);
     EXPECT_EQ(Desk.files, saved);

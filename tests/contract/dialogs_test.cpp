@@ -94,10 +94,10 @@ TEST_F(Dialogs, PressedRadioButtonUnchecksTheVisibleOnesOfItsGroup) {
     const HWND dialog = ShowTemplate(IDD_OPTIONS);
     const auto checked = [dialog] {
         Numbers ids;
-        for (const UINT id : {IDC_OPTIONS_BY_MAX, IDC_OPTIONS_BY_SCREEN, IDC_OPTIONS_AT_ONCE,
-                              IDC_OPTIONS_LEFT_CLICK, IDC_OPTIONS_RIGHT_CLICK})
-            if (IsDlgButtonChecked(dialog, static_cast<int>(id)) == BST_CHECKED)
-                ids.push_back(id);
+        for (const int id : {IDC_OPTIONS_BY_MAX, IDC_OPTIONS_BY_SCREEN, IDC_OPTIONS_AT_ONCE,
+                             IDC_OPTIONS_LEFT_CLICK, IDC_OPTIONS_RIGHT_CLICK})
+            if (IsDlgButtonChecked(dialog, id) == BST_CHECKED)
+                ids.push_back(static_cast<UINT>(id));
         return ids;
     };
     const Numbers all{IDC_OPTIONS_BY_MAX, IDC_OPTIONS_AT_ONCE, IDC_OPTIONS_RIGHT_CLICK}; // the last is hidden

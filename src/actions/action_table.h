@@ -56,7 +56,7 @@ struct ActionDef {
     ActionId id;
     DWORD flags;                            // where it is offered if the system has what it needs
     int start;                              // its value before any settings are loaded
-    int (*handler)(const ActionCall& call); // null: not implemented. The result is the action's own.
+    int (*handler)(const ActionCall& call); // null: running it shows a message box
     int argument;                           // what distinguishes actions that share a handler
     const char* text;
     KeyBinding key = NO_KEY; // default bindings

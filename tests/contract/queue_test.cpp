@@ -51,14 +51,16 @@ TEST_F(Queue, AnInactiveWindowCanRefuseActivationByAPress) {
     EXPECT_EQ(GetForegroundWindow(), front);
 }
 
-TEST_F(Queue, OnlyAnExistingNotificationIconIsModified) {
+TEST_F(Queue, ANotificationIconIsAddedOnceAndModifiedOrDeletedOnlyThen) {
     NOTIFYICONDATAA icon{};
     icon.cbSize = NOTIFYICONDATAA_V1_SIZE;
     icon.hWnd = OpenOwn();
     icon.uFlags = NIF_ICON;
     icon.hIcon = LoadIconA(nullptr, IDI_APPLICATION);
     EXPECT_FALSE(Shell_NotifyIconA(NIM_MODIFY, &icon));
+    EXPECT_FALSE(Shell_NotifyIconA(NIM_DELETE, &icon));
     EXPECT_TRUE(Shell_NotifyIconA(NIM_ADD, &icon));
+    EXPECT_FALSE(Shell_NotifyIconA(NIM_ADD, &icon));
     EXPECT_TRUE(Shell_NotifyIconA(NIM_MODIFY, &icon));
     EXPECT_TRUE(Shell_NotifyIconA(NIM_DELETE, &icon));
 }

@@ -1,5 +1,4 @@
-// Windows: creation and destruction, order and titles, position and visibility; icons in the notification
-// area.
+// Windows: creation and destruction, order and titles, position and visibility.
 #include "contract/contract_test.h"
 
 namespace {
@@ -90,18 +89,9 @@ TEST_F(Windows, FromPointIsTheTopmostVisibleOneWithoutItsFarEdges) {
     EXPECT_EQ(WindowFromPoint({350, 350}), lower);
 }
 
-TEST_F(Windows, OpacityNeedsALayeredOneAndATrayIconIsAddedOnce) {
+TEST_F(Windows, OpacityNeedsALayeredOne) {
     EXPECT_TRUE(SetLayeredWindowAttributes(OpenOwn(WS_POPUP, WS_EX_LAYERED), 0, 128, LWA_ALPHA));
     EXPECT_FALSE(SetLayeredWindowAttributes(OpenOwn(), 0, 128, LWA_ALPHA));
-    NOTIFYICONDATAA icon{};
-    icon.cbSize = NOTIFYICONDATAA_V1_SIZE;
-    icon.hWnd = OpenOwn();
-    icon.uFlags = NIF_ICON;
-    icon.hIcon = LoadIconA(nullptr, IDI_APPLICATION);
-    EXPECT_FALSE(Shell_NotifyIconA(NIM_DELETE, &icon));
-    EXPECT_TRUE(Shell_NotifyIconA(NIM_ADD, &icon));
-    EXPECT_FALSE(Shell_NotifyIconA(NIM_ADD, &icon));
-    EXPECT_TRUE(Shell_NotifyIconA(NIM_DELETE, &icon));
 }
 
 } // namespace

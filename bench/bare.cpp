@@ -146,8 +146,9 @@ void BarePaint() {
 }
 
 static void MoveRow(const BareRow& row, int dx, UINT timeout) {
-    WindowPosition rect{row.rect.left + dx, row.rect.top, row.rect.right - row.rect.left,
-                        row.rect.bottom - row.rect.top};
+    struct {
+        LONG x, y, width, height;
+    } rect{row.rect.left + dx, row.rect.top, row.rect.right - row.rect.left, row.rect.bottom - row.rect.top};
     DWORD_PTR result = 0;
     SetLastError(0);
     SendMessageTimeoutA(row.hwnd, WM_MOVING, 0, reinterpret_cast<LPARAM>(&rect), SMTO_ABORTIFHUNG, timeout,

@@ -33,7 +33,7 @@ static void MouseMove() {
 }
 
 static void Fold() {
-    GatherWindows();
+    GatherWindows(FOLD_AT_EXIT);
 }
 
 // clang-format off

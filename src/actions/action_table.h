@@ -34,6 +34,7 @@ struct ActionCall {
     HWND window; // what the action repaints, or uses as owner
     int id;
     int argument;      // from the action's definition
+    HWND target;       // the window that commands on the active window act on; null if there is none
     ActionPoint point; // where the mouse was pressed; (0, 0) for a key or the menu
     int region;        // index of the region to jump to, or NO_REGION
 };

@@ -7,17 +7,18 @@ static int ShowNotImplemented() {
     return 0;
 }
 
-static int RunAction(HWND window, int id, ActionPoint point, int region) {
-    const ActionDef& def = ActionDefs[id];
-    return def.handler ? def.handler({window, id, def.argument, point, region}) : ShowNotImplemented();
+static int RunAction(ActionCall call) {
+    const ActionDef& def = ActionDefs[call.id];
+    call.argument = def.argument;
+    return def.handler ? def.handler(call) : ShowNotImplemented();
 }
 
-int DoAction(HWND window, int id, ActionPoint point) {
+int DoAction(HWND window, int id, HWND target, ActionPoint point) {
     if (bQuitting)
         return 0; // the windows are already back on the screen
     if (id > NUM_ACTIONS)
-        return RunAction(window, ACTION_VIEW_TO_REGION, point, id - FIRST_REGION_ID);
+        return RunAction({window, ACTION_VIEW_TO_REGION, 0, target, point, id - FIRST_REGION_ID});
     if (id < 0 || id == NUM_ACTIONS)
         return ShowNotImplemented();
-    return RunAction(window, id, point, NO_REGION);
+    return RunAction({window, id, 0, target, point, NO_REGION});
 }

@@ -8,7 +8,7 @@ static LONG bFolding;
 // The state may be corrupt: a second exception, or one of another thread, must not start this again.
 static LONG WINAPI FoldOnCrash(EXCEPTION_POINTERS*) {
     if (!InterlockedExchange(&bFolding, 1))
-        GatherWindows(false);
+        GatherWindows(FOLD_IN_CRASH);
     return EXCEPTION_CONTINUE_SEARCH;
 }
 

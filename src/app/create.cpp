@@ -4,6 +4,7 @@
 #include "core/state.h"
 #include "menus/menu_list.h"
 #include "scroll/desktop_size.h"
+#include "scroll/display_change.h"
 #include "scroll/refresh.h"
 #include "scroll/scroll_view.h"
 #include "settings/settings.h"
@@ -11,8 +12,9 @@
 
 void OnCreate(HWND window) {
     MainWnd = window;
+    UseCurrentDisplays();
     ResetDesktop();
-    ResetView();
+    SetView({0, 0});
     ResetOptions();
     SetTimer(window, REFRESH_TIMER, REFRESH_PERIOD, RefreshTimer);
     SetDefaultMenu();

@@ -4,6 +4,7 @@
 #include "actions/action_table.h"
 #include "app/crash.h"
 #include "app/main_window.h"
+#include "app/quit.h"
 #include "core/state.h"
 #include "dialogs/registry.h"
 #include "menus/tray.h"
@@ -92,6 +93,7 @@ bool StartUp(HINSTANCE instance) {
     FindOptionalFunctions();
     FindCompositor();
     RegisterTipClass(instance);
+    EndFirstAtLogoff();
     const DWORD exStyle = pSetLayeredWindowAttributes ? MAP_STYLE | WS_EX_LAYERED : MAP_STYLE;
     MainWnd = CreateWindowExA(exStyle, MAIN_CLASS, MAIN_CLASS, WS_POPUP | WS_THICKFRAME, 100, 100, 200, 100,
                               nullptr, nullptr, instance, nullptr);
@@ -106,7 +108,7 @@ bool StartUp(HINSTANCE instance) {
     TrayIcon(MainWnd, NIM_ADD);
     StartMouseHook();
     if (IsOn(ACTION_SHOW_TOOLWIN))
-        ShowWindow(MainWnd, SW_SHOW);
+        ShowWindow(MainWnd, SW_SHOWNA); // the user goes on typing into another program
     return true;
 }
 

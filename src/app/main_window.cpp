@@ -11,11 +11,18 @@
 #include "mouse/hook_mouse.h"
 #include "mouse/map_buttons.h"
 #include "mouse/map_hover.h"
+#include "scroll/display_change.h"
 #include "toolwin/map.h"
 #include "toolwin/placement.h"
+#include "windows/foreground.h"
 
 static LRESULT OnCreateMessage(HWND window, UINT, WPARAM, LPARAM) {
     OnCreate(window);
+    return 0;
+}
+
+static LRESULT OnDisplayMessage(HWND, UINT, WPARAM, LPARAM) {
+    OnDisplayChange();
     return 0;
 }
 
@@ -26,16 +33,28 @@ static LRESULT OnQuitMessage(HWND window, UINT, WPARAM, LPARAM) {
 }
 
 // wParam is 0 if another program cancelled the end of the session.
-static LRESULT OnSessionEnd(HWND, UINT, WPARAM wParam, LPARAM lParam) {
+static LRESULT OnSessionEnd(HWND window, UINT, WPARAM wParam, LPARAM) {
     if (wParam)
-        EndWithSession((lParam & ENDSESSION_CLOSEAPP) != 0);
+        EndSession(window);
     return 0;
+}
+
+// The map is used without taking the focus from the program that the user works with.
+static LRESULT OnMouseActivate(HWND, UINT, WPARAM, LPARAM) {
+    NoteForeground();
+    return MA_NOACTIVATE;
 }
 
 static LRESULT OnColorsChanged(HWND window, UINT, WPARAM, LPARAM) {
     BackBrush = GetSysColorBrush(COLOR_BACKGROUND);
     Repaint(window);
     return 0;
+}
+
+static LRESULT OnSettingChange(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (wParam == SPI_SETWORKAREA)
+        OnDisplayChange();
+    return OnColorsChanged(window, message, wParam, lParam);
 }
 
 static LRESULT OnSizeLimits(HWND, UINT, WPARAM, LPARAM lParam) {
@@ -50,7 +69,7 @@ static LRESULT OnHookMessage(HWND window, UINT, WPARAM wParam, LPARAM) {
 }
 
 static LRESULT OnHotkey(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    DoAction(window, static_cast<int>(wParam));
+    DoAction(window, static_cast<int>(wParam), GetForegroundWindow());
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
@@ -111,8 +130,10 @@ static const MessageHandler MessageHandlers[] = {
     {WM_CLOSE, OnQuitMessage},
     {WM_QUIT, OnQuitMessage},
     {WM_ENDSESSION, OnSessionEnd},
+    {WM_MOUSEACTIVATE, OnMouseActivate},
     {WM_SYSCOLORCHANGE, OnColorsChanged},
-    {WM_SETTINGCHANGE, OnColorsChanged},
+    {WM_SETTINGCHANGE, OnSettingChange},
+    {WM_DISPLAYCHANGE, OnDisplayMessage},
     {WM_DEVMODECHANGE, OnColorsChanged},
     {TRAY_MESSAGE, OnTray},
     {DESKTOP_SIZE_MESSAGE, OnDesktopSizeQuery},

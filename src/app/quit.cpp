@@ -17,27 +17,33 @@ static void SaveIfWanted() {
         SaveSettings();
 }
 
-void EndWithSession(bool bOnlyQuorl) {
-    if (bQuitting)
-        return; // everything is saved and folded
-    SaveIfWanted();
-    if (bOnlyQuorl)
-        GatherWindows();
-}
-
-// PostQuitMessage takes effect only in the message loop, so all later steps run first.
-bool ConfirmQuit(HWND window) {
-    if (MessageBoxA(window, "QUIT?", "QUIT?", MB_YESNO) != IDYES)
-        return false;
-    if (bQuitting)
-        return true; // two boxes were open, and this is the second: saving again would store cleared bindings
+static void Quit(HWND window, FoldReason reason) {
     bQuitting = true;
-    PostQuitMessage(0);
+    PostQuitMessage(0); // takes effect only in the message loop, after all that follows
     TrayIcon(window, NIM_DELETE);
     SaveIfWanted();
     ClearAllActionKeys();
-    GatherWindows();
+    GatherWindows(reason);
+}
+
+bool ConfirmQuit(HWND window) {
+    if (MessageBoxA(window, "QUIT?", "QUIT?", MB_YESNO) != IDYES)
+        return false;
+    if (!bQuitting) // if two boxes were open, this is the second: saving again would store cleared bindings
+        Quit(window, FOLD_AT_EXIT);
     return true;
+}
+
+// Also while a box or a fold of the exit waits for the user: everything else is done by then.
+void EndSession(HWND window) {
+    if (bQuitting)
+        GatherWindows(FOLD_AT_LOGOFF);
+    else
+        Quit(window, FOLD_AT_LOGOFF);
+}
+
+void EndFirstAtLogoff() {
+    SetProcessShutdownParameters(0x3FF, 0); // the first of all programs; the default is 0x280
 }
 
 int QuitAction(const ActionCall& call) {

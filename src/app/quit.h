@@ -13,6 +13,9 @@ bool ConfirmQuit(HWND window);
 // Handler. 1 if the user confirmed.
 int QuitAction(const ActionCall& call);
 
-// WM_ENDSESSION: Windows ends the process without returning to the message loop. Saves the settings if action
-// 72 is on. `bOnlyQuorl`: the session continues, for example after an update, so also folds the windows.
-void EndWithSession(bool bOnlyQuorl);
+// WM_ENDSESSION, at log-off or for an update: does all that exit does, within the few seconds that Windows
+// allows, and asks nothing. Windows may end the process without returning to the message loop.
+void EndSession(HWND window);
+
+// Has Windows end Quorl before other programs, so that these do not remember positions off the screen.
+void EndFirstAtLogoff();

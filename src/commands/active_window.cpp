@@ -30,65 +30,73 @@ static int ClampCoordinate(int coordinate, int size, int view, int desktop) {
     return coordinate;
 }
 
-// Pure: the position clamped to the desktop, in screen pixels. A window larger than the desktop is aligned to
-// its far edge.
-static WindowPosition ClampToDesktop(WindowPosition position, const RECT& vdesk, const RECT& quorl) {
-    position.x = ClampCoordinate(position.x, position.width, vdesk.left, quorl.right);
-    position.y = ClampCoordinate(position.y, position.height, vdesk.top, quorl.bottom);
-    return position;
+// Pure: the corner of a window of that size, clamped to the desktop. Screen pixels. A window larger than the
+// desktop is aligned to its far edge.
+static POINT ClampToDesktop(POINT corner, SIZE size, const RECT& vdesk, const RECT& quorl) {
+    return {ClampCoordinate(corner.x, size.cx, vdesk.left, quorl.right),
+            ClampCoordinate(corner.y, size.cy, vdesk.top, quorl.bottom)};
 }
 
-// The active window and its position; null if there is none or it has just gone.
-static HWND ActiveWindow(WindowPosition* position) {
-    const HWND active = GetForegroundWindow();
-    RECT rect{};
-    if (!active || !GetOtherWindowRect(active, &rect))
-        return nullptr;
-    *position = {rect.left, rect.top, Width(rect), Height(rect)};
-    return active;
+static void MoveOnDesktop(HWND window, const WindowFrame& frame, POINT corner) {
+    const SIZE size{Width(frame.visible), Height(frame.visible)};
+    PingMoveAndShow(window, frame, ClampToDesktop(corner, size, VDesk, Quorl));
+}
+
+// The target unless it is part of the shell, as the desktop and the taskbar are: those stay where they are.
+static HWND CommandTarget(const ActionCall& call) {
+    return call.target && !IsShellWindow(call.target) ? call.target : nullptr;
+}
+
+// The window to move and where it is; null if there is none or it has just gone.
+static HWND WindowToMove(const ActionCall& call, WindowFrame* frame) {
+    const HWND window = CommandTarget(call);
+    return window && ReadWindowFrame(window, frame) ? window : nullptr;
 }
 
 int MoveActiveWindow(const ActionCall& call) {
-    WindowPosition position{};
-    const HWND active = ActiveWindow(&position);
-    if (!active)
+    WindowFrame frame{};
+    const HWND window = WindowToMove(call, &frame);
+    if (!window)
         return 0;
     const POINT step = StepDelta(call.argument);
-    position.x = Wrap(0LL + position.x + step.x);
-    position.y = Wrap(0LL + position.y + step.y);
-    PingMoveAndShow(active, ClampToDesktop(position, VDesk, Quorl));
+    MoveOnDesktop(window, frame,
+                  {Wrap(0LL + frame.visible.left + step.x), Wrap(0LL + frame.visible.top + step.y)});
     return 1;
 }
 
 int MoveActiveToEdge(const ActionCall& call) {
-    WindowPosition position{};
-    const HWND active = ActiveWindow(&position);
-    if (!active)
+    WindowFrame frame{};
+    const HWND window = WindowToMove(call, &frame);
+    if (!window)
         return 0;
+    POINT corner{frame.visible.left, frame.visible.top};
     switch (call.argument) {
-    case DIR_LEFT: position.x = 0; break;
-    case DIR_RIGHT: position.x = Wrap(0LL + ScreenW() - position.width); break;
-    case DIR_UP: position.y = 0; break;
-    case DIR_DOWN: position.y = Wrap(0LL + ScreenH() - position.height); break;
+    case DIR_LEFT: corner.x = 0; break;
+    case DIR_RIGHT: corner.x = Wrap(0LL + ScreenW() - Width(frame.visible)); break;
+    case DIR_UP: corner.y = 0; break;
+    case DIR_DOWN: corner.y = Wrap(0LL + ScreenH() - Height(frame.visible)); break;
     default: break;
     }
-    PingMoveAndShow(active, ClampToDesktop(position, VDesk, Quorl));
+    MoveOnDesktop(window, frame, corner);
     return 1;
 }
 
-int CenterActiveWindow(const ActionCall&) {
-    WindowPosition position{};
-    const HWND active = ActiveWindow(&position);
-    if (!active)
+int CenterActiveWindow(const ActionCall& call) {
+    WindowFrame frame{};
+    const HWND window = WindowToMove(call, &frame);
+    if (!window)
         return 0;
-    position.x = ScreenW() / 2 - position.width / 2;
-    position.y = ScreenH() / 2 - position.height / 2;
-    PingMoveAndShow(active, position);
+    PingMoveAndShow(window, frame,
+                    {ScreenW() / 2 - Width(frame.visible) / 2, ScreenH() / 2 - Height(frame.visible) / 2});
     return 1;
 }
 
-int ToggleActiveTopmost(const ActionCall&) {
-    ToggleTopmost(GetForegroundWindow());
+// Hiding it gave the foreground away.
+int ToggleActiveTopmost(const ActionCall& call) {
+    if (const HWND window = CommandTarget(call)) {
+        ToggleTopmost(window);
+        ReturnForeground(window);
+    }
     return 1;
 }
 
@@ -98,7 +106,7 @@ static void Play(const BeepSequence& sequence) {
 }
 
 int LockActiveWindow(const ActionCall& call) {
-    const HWND active = GetForegroundWindow();
+    const HWND active = call.target;
     char title[256] = "";
     GetWindowTextA(active, title, 255);
     if (!IsManagedWindow(active))

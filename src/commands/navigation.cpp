@@ -2,6 +2,7 @@
 #include "commands/navigation.h"
 
 #include "commands/neighbour_sweep.h"
+#include "core/displays.h"
 #include "core/state.h"
 #include "status/status_strip.h"
 #include "windows/other_window.h"
@@ -11,10 +12,9 @@
 static HWND Candidates[MAX_WINDOWS];
 static RECT CandidateRects[MAX_WINDOWS];
 
-static HWND StartWindow() {
-    const HWND active = GetForegroundWindow();
-    if (IsManagedWindow(active))
-        return active;
+static HWND StartWindow(HWND target) {
+    if (IsManagedWindow(target))
+        return target;
     POINT cursor{};
     GetCursorPos(&cursor);
     const HWND under = WindowFromPoint(cursor);
@@ -25,17 +25,20 @@ static int CollectCandidates(HWND start) {
     int count = 0;
     for (int i = 0; i < num_windows; ++i) {
         const HWND window = WindowTable[i].hwnd;
-        if (window != start && IsManagedWindow(window, &CandidateRects[count]))
-            Candidates[count++] = window;
+        WindowFrame frame{};
+        if (window == start || !IsManagedWindow(window, &frame))
+            continue;
+        CandidateRects[count] = frame.visible;
+        Candidates[count++] = window;
     }
     return count;
 }
 
 int FocusNeighbour(const ActionCall& call) {
     const auto direction = static_cast<Direction>(call.argument);
-    const HWND window = StartWindow();
+    const HWND window = StartWindow(call.target);
     RECT start = FarSide(ScreenRect, direction);
-    if (window && !GetOtherWindowRect(window, &start))
+    if (window && !GetVisibleRect(window, &start))
         return 0;
     const int count = CollectCandidates(window);
     const int found = FindNeighbour({direction, start, CandidateRects, count, VDesk, Quorl});
@@ -49,9 +52,10 @@ int FocusNeighbour(const ActionCall& call) {
 }
 
 static bool IsCompletelyInView(HWND window) {
-    RECT rect{};
-    return IsManagedWindow(window, &rect) && rect.left >= ScreenRect.left && rect.right <= ScreenRect.right &&
-           rect.top >= ScreenRect.top && rect.bottom <= ScreenRect.bottom;
+    WindowFrame frame{};
+    const RECT& rect = frame.visible;
+    return IsManagedWindow(window, &frame) && rect.left >= ScreenRect.left &&
+           rect.right <= ScreenRect.right && rect.top >= ScreenRect.top && rect.bottom <= ScreenRect.bottom;
 }
 
 // The table starts with the topmost window. Activating the second repeatedly alternates between two windows;
@@ -72,15 +76,22 @@ int CycleView(const ActionCall& call) {
     return ActivateWindow(call.argument == CYCLE_SECOND ? second : last);
 }
 
+static bool ShowsOn(HWND window, const RECT& display) {
+    WindowFrame frame{};
+    RECT shared{};
+    return IsManagedWindow(window, &frame) && IntersectRect(&shared, &frame.visible, &display);
+}
+
+// Without a window the call would tile all there are, those of the shell too.
 int TileView(const ActionCall& call) {
     static HWND tiles[MAX_WINDOWS];
+    RECT active{};
+    const DisplayArea display = GetVisibleRect(call.target, &active) ? DisplayNear(active) : PrimaryDisplay();
     UINT count = 0;
-    for (int i = 0; i < num_windows; ++i) {
-        RECT rect{};
-        RECT shared{};
-        if (GetOtherWindowRect(WindowTable[i].hwnd, &rect) && IntersectRect(&shared, &rect, &ScreenRect))
+    for (int i = 0; i < num_windows; ++i)
+        if (ShowsOn(WindowTable[i].hwnd, display.rect))
             tiles[count++] = WindowTable[i].hwnd;
-    }
-    TileOtherWindows(static_cast<UINT>(call.argument), ScreenRect, tiles, count);
+    if (count)
+        TileOtherWindows(static_cast<UINT>(call.argument), display.work, tiles, count);
     return 0;
 }

@@ -13,5 +13,6 @@ enum CycleTarget { CYCLE_SECOND, CYCLE_LAST };
 // fewer than two.
 int CycleView(const ActionCall& call);
 
-// Handler: tiles every window that is at least partly on the screen. The argument is MDITILE_*. Always 0.
+// Handler: tiles the managed windows that show on the display of the active window, or else on the primary
+// one, in its work area. The argument is MDITILE_*. Always 0.
 int TileView(const ActionCall& call);

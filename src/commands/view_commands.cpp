@@ -79,5 +79,5 @@ int GoToScreen(const ActionCall& call) {
 }
 
 int CenterOnActive(const ActionCall& call) {
-    return CenterOnActiveWindow(call.window);
+    return CenterOnWindow(call.window, call.target);
 }

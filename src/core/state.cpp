@@ -10,6 +10,7 @@ HINSTANCE AppInstance;
 HBRUSH BackBrush;
 HICON TrayImage;
 bool bQuitting;
+bool bDisplaysChanging;
 
 decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;
 decltype(&LockWorkStation) pLockWorkStation;

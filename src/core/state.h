@@ -4,9 +4,10 @@
 #include "core/options.h"
 #include "core/platform.h"
 
+constexpr char TIP_CLASS[] = "w_ToolTip"; // class and title of the status strip
 constexpr char MAIN_CLASS[] = "Quorltop"; // class and title of the map, and the test for another instance
 
-// Screen pixels: the union of all displays and the origin. Written by core/displays.cpp.
+// Screen pixels: the union of all displays, with its corner at 0. Written by core/displays.cpp.
 extern RECT ScreenRect;
 
 // Desktop pixels: the whole desktop. right and bottom are its width and height everywhere, from one screen to
@@ -16,7 +17,6 @@ extern RECT Quorl;
 // Desktop pixels: the part of Quorl that the screen shows. Written by scroll/scroll_view.cpp.
 extern RECT VDesk;
 
-// The screen's size, counted from the origin even if a display is left of it or above it.
 inline int ScreenW() {
     return ScreenRect.right;
 }
@@ -33,6 +33,9 @@ extern HICON TrayImage;       // 16 by 16 pixels
 // Set when the user confirms "QUIT?", by app/quit.cpp: messages still in the queue must not move windows that
 // are back on the screen.
 extern bool bQuitting;
+
+// Set while the displays change, by scroll/display_change.cpp: Quorl moves nothing until they have settled.
+extern bool bDisplaysChanging;
 
 // Null if the running system lacks the function.
 extern decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;

@@ -155,7 +155,7 @@ static void OnTest(HWND dialog) {
     if (row == NO_SELECTION)
         MessageBeep(0);
     else
-        DoAction(MainWnd, row);
+        DoAction(MainWnd, row, GetForegroundWindow());
 }
 
 // Only one of the two lists has a selection.

@@ -200,7 +200,7 @@ static void OnAccept(HWND dialog, int) {
     if (Options.hook_present)
         ReadMouseOptions(dialog); // first: a box during the folding lets the user close this dialog
     if (Quorl.right < before.right || Quorl.bottom < before.bottom)
-        GatherWindows();
+        GatherWindows(FOLD_TO_SMALLER_DESKTOP);
     Repaint(MainWnd);
     ShiftWindows(0, 0);
     CloseDialog(dialog);

@@ -1,5 +1,6 @@
 #include "dialogs/registry.h"
 
+#include "core/displays.h"
 #include "core/rect.h"
 #include "core/state.h"
 #include "windows/other_window.h"
@@ -14,9 +15,10 @@ HWND DialogHandles[NUM_DIALOGS];
 static void RaiseDialog(HWND dialog) {
     RECT rect{};
     GetWindowRect(dialog, &rect);
-    const int width = Width(rect);
-    const int height = Height(rect);
-    MoveWindow(dialog, (ScreenW() - width / 2) / 2, (ScreenH() - height / 2) / 2, width, height, TRUE);
+    const int x = (ScreenW() - Width(rect) / 2) / 2;
+    const int y = (ScreenH() - Height(rect) / 2) / 2;
+    const RECT moved = ToWindows(KeepInReach({x, y, x + Width(rect), y + Height(rect)}));
+    MoveWindow(dialog, moved.left, moved.top, Width(moved), Height(moved), TRUE);
     RaiseWindow(dialog);
 }
 

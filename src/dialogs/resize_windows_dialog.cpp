@@ -25,20 +25,19 @@ static void OnSelect(HWND dialog) {
     if (data == LB_ERR)
         return;
     ResizeTarget = reinterpret_cast<HWND>(data);
-    RECT rect{};
-    if (!GetOtherWindowRect(ResizeTarget, &rect))
+    SIZE size{};
+    if (!GetOtherWindowSize(ResizeTarget, &size))
         return;
-    SetDlgItemInt(dialog, IDC_RESIZE_WIDTH, static_cast<UINT>(Width(rect)), FALSE);
-    SetDlgItemInt(dialog, IDC_RESIZE_HEIGHT, static_cast<UINT>(Height(rect)), FALSE);
+    SetDlgItemInt(dialog, IDC_RESIZE_WIDTH, static_cast<UINT>(size.cx), FALSE);
+    SetDlgItemInt(dialog, IDC_RESIZE_HEIGHT, static_cast<UINT>(size.cy), FALSE);
 }
 
 static void OnApply(HWND dialog) {
-    RECT rect{};
-    if (!ResizeTarget || !GetOtherWindowRect(ResizeTarget, &rect))
+    if (!ResizeTarget)
         return;
     const int width = static_cast<int>(GetDlgItemInt(dialog, IDC_RESIZE_WIDTH, nullptr, FALSE));
     const int height = static_cast<int>(GetDlgItemInt(dialog, IDC_RESIZE_HEIGHT, nullptr, FALSE));
-    MoveIfAlive(ResizeTarget, {rect.left, rect.top, width, height});
+    ResizeIfAlive(ResizeTarget, {width, height});
 }
 
 static void OnCommand(HWND dialog, int id, int notification) {

@@ -4,6 +4,7 @@
 #include "menus/menu_list.h"
 #include "regions/region_table.h"
 #include "status/status_strip.h"
+#include "windows/foreground.h"
 #include "windows/other_window.h"
 
 #include <algorithm>
@@ -109,11 +110,24 @@ static int TrackActionMenu(HWND window) {
     return choice;
 }
 
+// The user goes on typing where he was before the menu opened, unless the choice led elsewhere.
+static void ReturnFocus(HWND window, HWND active, int activations) {
+    if (active && GetForegroundWindow() == window && ActivationCount() == activations &&
+        !IsOn(ACTION_FOLLOW_ACTIVE))
+        ReturnForeground(active);
+}
+
 int ShowActionMenu(HWND window) {
+    NoteForeground();
+    const HWND active = LastActiveWindow();
     ActivateWindow(window);
     HideTip(); // the strip must not cover the menu
     const int choice = TrackActionMenu(window);
-    return choice ? DoAction(window, choice) : 0;
+    PostMessageA(window, WM_NULL, 0, 0); // else the next menu of a tray icon can close at once
+    const int activations = ActivationCount();
+    const int result = choice ? DoAction(window, choice, active) : 0;
+    ReturnFocus(window, active, activations);
+    return result;
 }
 
 int DisplayMenu(const ActionCall& call) {

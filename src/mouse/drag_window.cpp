@@ -37,7 +37,7 @@ HWND WindowAtDesktopPoint(int x, int y) {
     for (int i = 0; i < num_windows; ++i) {
         const HWND window = WindowTable[i].hwnd;
         RECT rect{};
-        if (GetOtherWindowRect(window, &rect) &&
+        if (GetVisibleRect(window, &rect) &&
             ContainsDesktopPoint(Offset(rect, VDesk.left, VDesk.top), x, y) && IsManagedWindow(window))
             return window;
     }
@@ -48,13 +48,12 @@ static void MoveByCursor(HWND target, int x, int y) {
     const POINT by = MapToDesktopDistance(Wrap(0LL + x - DragState.x), Wrap(0LL + y - DragState.y));
     DragState.x = x;
     DragState.y = y;
-    RECT rect{};
-    if (!GetOtherWindowRect(target, &rect))
+    WindowFrame frame{};
+    if (!ReadWindowFrame(target, &frame))
         return;
-    // Beyond the desktop's far edges the window would no longer be managed, and exit would not bring it back.
-    const RECT moved = Offset(rect, by.x, by.y);
-    MoveIfAlive(target, {std::min(moved.left, Quorl.right), std::min(moved.top, Quorl.bottom), Width(rect),
-                         Height(rect)});
+    // Beyond the desktop's far edges the window would no longer be managed.
+    const RECT moved = Offset(frame.visible, by.x, by.y);
+    MoveIfAlive(target, frame, {std::min(moved.left, Quorl.right), std::min(moved.top, Quorl.bottom)});
 }
 
 static void DragWindowOnMap(HWND target, int x, int y) {

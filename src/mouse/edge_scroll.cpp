@@ -1,11 +1,13 @@
 #include "mouse/edge_scroll.h"
 
 #include "actions/action_table.h"
-#include "core/arithmetic.h"
+#include "core/rect.h"
+#include "core/displays.h"
 #include "core/keys.h"
 #include "core/state.h"
 #include "core/steps.h"
 #include "scroll/scroll_view.h"
+#include "windows/window_table.h"
 
 static const UINT_PTR DELAY_TIMER = 2002;
 static const int INSET = 3; // the cursor lands this many borders inside the opposite edge
@@ -37,50 +39,62 @@ static SIZE ScrollSize(const OptionsRecord& options, int screenW, int screenH) {
     }
 }
 
-static int EdgeAt(POINT cursor, int border, int screenW, int screenH) {
-    if (cursor.x > screenW - border)
+static int EdgeAt(POINT cursor, int border, const RECT& edges) {
+    if (cursor.x > edges.right - border)
         return DIR_RIGHT;
-    if (cursor.x < border)
+    if (cursor.x < edges.left + border)
         return DIR_LEFT;
-    if (cursor.y > screenH - border)
+    if (cursor.y > edges.bottom - border)
         return DIR_DOWN;
-    return cursor.y < border ? DIR_UP : DIR_NONE;
+    return cursor.y < edges.top + border ? DIR_UP : DIR_NONE;
 }
 
-EdgeStep EdgeStepAt(POINT cursor, const OptionsRecord& options, const RECT& vdesk, int screenW, int screenH) {
+EdgeStep EdgeStepAt(POINT cursor, const OptionsRecord& options, const RECT& vdesk, const RECT& edges) {
     const int inset = INSET * options.border;
-    const SIZE by = ScrollSize(options, screenW, screenH);
-    EdgeStep step{EdgeAt(cursor, options.border, screenW, screenH), {vdesk.left, vdesk.top}, cursor};
+    const SIZE by = ScrollSize(options, Width(vdesk), Height(vdesk));
+    EdgeStep step{EdgeAt(cursor, options.border, edges), {vdesk.left, vdesk.top}, cursor};
     switch (step.dir) {
     case DIR_RIGHT:
         step.view.x = Wrap(0LL + vdesk.left + by.cx);
-        step.landing.x = inset - by.cx + screenW;
+        step.landing.x = inset - by.cx + edges.right;
         break;
     case DIR_LEFT:
         step.view.x = Wrap(0LL + vdesk.left - by.cx);
-        step.landing.x = by.cx - inset;
+        step.landing.x = by.cx - inset + edges.left;
         break;
     case DIR_DOWN:
         step.view.y = Wrap(0LL + vdesk.top + by.cy);
-        step.landing.y = inset - by.cy + screenH;
+        step.landing.y = inset - by.cy + edges.bottom;
         break;
     case DIR_UP:
         step.view.y = Wrap(0LL + vdesk.top - by.cy);
-        step.landing.y = by.cy - inset;
+        step.landing.y = by.cy - inset + edges.top;
         break;
     default: break;
     }
     return step;
 }
 
-bool IsStillAtEdge(POINT cursor, int dir, int border, int screenW, int screenH) {
+bool IsStillAtEdge(POINT cursor, int dir, int border, const RECT& edges) {
     switch (dir) {
-    case DIR_UP: return cursor.y <= border;
-    case DIR_DOWN: return cursor.y >= screenH - border;
-    case DIR_LEFT: return cursor.x <= border;
-    case DIR_RIGHT: return cursor.x >= screenW - border;
+    case DIR_UP: return cursor.y <= edges.top + border;
+    case DIR_DOWN: return cursor.y >= edges.bottom - border;
+    case DIR_LEFT: return cursor.x <= edges.left + border;
+    case DIR_RIGHT: return cursor.x >= edges.right - border;
     default: return false;
     }
+}
+
+// A game or a film: the user is not looking for another window.
+static bool IsFullScreenProgramActive() {
+    const HWND active = GetForegroundWindow();
+    WindowFrame frame{};
+    if (!IsManagedWindow(active, &frame) || (GetWindowLongPtrA(active, GWL_STYLE) & WS_CAPTION) == WS_CAPTION)
+        return false;
+    const RECT display = DisplayNear(frame.visible).rect;
+    const RECT& rect = frame.visible;
+    return rect.left <= display.left && rect.top <= display.top && rect.right >= display.right &&
+           rect.bottom >= display.bottom;
 }
 
 static bool ScrollsNow(int delay, EdgeCause cause) {
@@ -107,9 +121,9 @@ static bool ScrollTo(HWND window, POINT view) {
 // moved to another edge, the view still scrolls in the first direction.
 static void CALLBACK DelayedScrollTimer(HWND window, UINT, UINT_PTR, DWORD) {
     POINT cursor{};
-    if (GetCursorPos(&cursor) && IsStillAtEdge(cursor, edge_dir, Options.border, ScreenW(), ScreenH()) &&
-        ScrollTo(window, PendingScroll.view))
-        SetCursorPos(PendingScroll.landing.x, PendingScroll.landing.y);
+    if (ReadCursor(&cursor) && IsStillAtEdge(cursor, edge_dir, Options.border, OuterEdges(cursor)) &&
+        !IsFullScreenProgramActive() && ScrollTo(window, PendingScroll.view))
+        MoveCursor(PendingScroll.landing);
     Repaint(window);
     KillTimer(window, PendingScroll.timer);
     PendingScroll.timer = 0;
@@ -130,7 +144,7 @@ static void ScrollAtEdge(HWND window, const EdgeStep& step, EdgeCause cause) {
     if (!ScrollsNow(Options.mousescroll_delay, cause))
         return;
     if (ScrollTo(window, step.view) && MayJump())
-        SetCursorPos(step.landing.x, step.landing.y);
+        MoveCursor(step.landing);
     Repaint(window);
 }
 
@@ -142,9 +156,9 @@ bool EdgeScroll(HWND window, POINT cursor, EdgeCause cause) {
     if (edge_busy)
         return false;
     edge_busy = true;
-    const EdgeStep step = EdgeStepAt(cursor, Options, VDesk, ScreenW(), ScreenH());
+    const EdgeStep step = EdgeStepAt(cursor, Options, VDesk, OuterEdges(cursor));
     edge_dir = step.dir;
-    if (step.dir)
+    if (step.dir && !IsFullScreenProgramActive())
         ScrollAtEdge(window, step, cause);
     edge_busy = false;
     return step.dir != DIR_NONE;

@@ -23,8 +23,9 @@ struct EdgeStep {
     POINT landing; // the new position of the cursor, which may be off the screen; screen pixels
 };
 
-// Pure: the edge at the cursor and the scroll it causes. In a corner, left and right take precedence.
-EdgeStep EdgeStepAt(POINT cursor, const OptionsRecord& options, const RECT& vdesk, int screenW, int screenH);
+// Pure: the edge at the cursor and the scroll it causes; `edges` are those of OuterEdges. In a corner, left
+// and right take precedence.
+EdgeStep EdgeStepAt(POINT cursor, const OptionsRecord& options, const RECT& vdesk, const RECT& edges);
 
 // Pure: whether the cursor is still at that edge, with one pixel more tolerance than EdgeStepAt.
-bool IsStillAtEdge(POINT cursor, int dir, int border, int screenW, int screenH);
+bool IsStillAtEdge(POINT cursor, int dir, int border, const RECT& edges);

@@ -1,10 +1,11 @@
 #include "mouse/hook_mouse.h"
 
 #include "actions/action_table.h"
+#include "core/displays.h"
 #include "core/keys.h"
 #include "core/state.h"
 #include "mouse/edge_scroll.h"
-#include "scroll/desktop_size.h"
+#include "scroll/display_change.h"
 #include "status/status_strip.h"
 #include "windows/other_window.h"
 
@@ -18,7 +19,9 @@ static HWND Outermost(HWND window) {
 }
 
 // Focus follows the mouse. A window without a title is left alone.
-static void ActivateWindowUnder(POINT cursor) {
+static void ActivateWindowUnderCursor() {
+    POINT cursor{};
+    GetCursorPos(&cursor);
     const HWND under = WindowFromPoint(cursor);
     if (under == GetForegroundWindow())
         return;
@@ -41,7 +44,7 @@ static int OnMove(HWND window, POINT cursor, EdgeCause cause) {
     if (IsOn(ACTION_QUICK_REDRAW) && IsAnyButtonHeld())
         Repaint(MainWnd);
     if (IsOn(ACTION_XWIN_MOUSE))
-        ActivateWindowUnder(cursor);
+        ActivateWindowUnderCursor();
     return 0;
 }
 
@@ -77,7 +80,7 @@ static const MouseHandler MouseHandlers[] = {
 
 int OnHookMouse(HWND window, UINT mouseMessage) {
     POINT cursor{};
-    if (!GetCursorPos(&cursor))
+    if (!ReadCursor(&cursor))
         return 0; // another desktop, for example while the workstation is locked
     for (const MouseHandler& row : MouseHandlers)
         if (row.message == mouseMessage)

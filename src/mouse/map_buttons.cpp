@@ -2,6 +2,7 @@
 
 #include "actions/dispatch.h"
 #include "core/rect.h"
+#include "windows/foreground.h"
 
 namespace {
 
@@ -59,7 +60,7 @@ static void RunBinding(HWND window, int button, LPARAM lParam) {
     const POINT at = MousePosition(lParam);
     const int action = MatchMouseAction(GetHeldFlags(), button);
     if (action != NO_ACTION)
-        DoAction(window, action, {static_cast<int>(at.x), static_cast<int>(at.y)});
+        DoAction(window, action, LastActiveWindow(), {static_cast<int>(at.x), static_cast<int>(at.y)});
 }
 
 // The capture comes last: a menu that the action opens would release it.

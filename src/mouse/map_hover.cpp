@@ -7,6 +7,7 @@
 #include "status/status_strip.h"
 #include "toolwin/map_coordinates.h"
 #include "toolwin/placement.h"
+#include "windows/foreground.h"
 
 static bool bMoving; // the map is being dragged; the first move with another combination ends that
 
@@ -64,7 +65,7 @@ void OnToolwinMouseMove(HWND window, int x, int y, WPARAM buttons) {
         return;
     const int action = MatchMouseAction(flags, 0);
     if (action != NO_ACTION)
-        DoAction(window, action, {x, y});
+        DoAction(window, action, LastActiveWindow(), {x, y});
     if (action == NO_ACTION || action == ACTION_SHOW_MENU)
         DescribePoint({x, y});
     LastMapPoint = {x, y};

@@ -1,6 +1,5 @@
 #include "scroll/desktop_size.h"
 
-#include "core/displays.h"
 #include "core/rect.h"
 #include "core/state.h"
 #include "scroll/shift.h"
@@ -30,26 +29,27 @@ static const SizeChange SizeChanges[] = {
     {0, -1, false, true}, // REMOVE_BOTTOM
 };
 
+RECT ChosenDesktop;
+
 static int LimitSize(long long size) {
     return static_cast<int>(std::min(size, 0LL + LARGEST_DESKTOP));
 }
 
 void ResetDesktop() {
-    MonitorUnion();
-    Quorl = {ScreenRect.left, ScreenRect.top, LimitSize(4LL * ScreenW()), LimitSize(2LL * ScreenH())};
+    SetDesktop({ScreenRect.left, ScreenRect.top, LimitSize(4LL * ScreenW()), LimitSize(2LL * ScreenH())});
 }
 
 void SetDesktop(const RECT& desktop) {
-    Quorl = desktop;
+    ChosenDesktop = desktop;
+    FitDesktop();
 }
 
 void SetDesktopSize(int width, int height) {
-    Quorl.right = width;
-    Quorl.bottom = height;
+    SetDesktop({Quorl.left, Quorl.top, width, height});
 }
 
-void MeasureScreen() {
-    MonitorUnion();
+void FitDesktop() {
+    Quorl = ChosenDesktop;
     Quorl.right = std::max<LONG>(Quorl.right, ScreenW());
     Quorl.bottom = std::max<LONG>(Quorl.bottom, ScreenH());
 }
@@ -62,6 +62,8 @@ static int ChangedSize(int size, int screens, int screen) {
 }
 
 int ChangeDesktopSize(const ActionCall& call) {
+    if (!MayScroll())
+        return 0; // the windows could not follow
     const SizeChange& change = SizeChanges[call.argument];
     SetDesktopSize(ChangedSize(Quorl.right, change.width, ScreenW()),
                    ChangedSize(Quorl.bottom, change.height, ScreenH()));

@@ -3,19 +3,21 @@
 
 #include "actions/action_table.h"
 
-// Measures the displays and sets the default desktop: four by two screens, each side at most LARGEST_DESKTOP
-// pixels.
+// What the user chose. Quorl is larger while the screen is larger: windows beyond the desktop are not
+// managed.
+extern RECT ChosenDesktop;
+
+// Sets the default desktop: four by two screens, each side at most LARGEST_DESKTOP pixels.
 void ResetDesktop();
 
-// Sets the desktop's width and height, in pixels, without checking them.
+// Sets the desktop's width and height as the user chose them, in pixels.
 void SetDesktopSize(int width, int height);
 
-// Sets the desktop to a rectangle from the settings file, without checking it.
+// Sets the desktop to a rectangle from the settings file.
 void SetDesktop(const RECT& desktop);
 
-// Measures the displays again. A desktop smaller than the screen in either direction grows to it, for example
-// after a change to a larger display: windows beyond the desktop are not managed.
-void MeasureScreen();
+// Adapts the desktop to the size of the screen, after a change of displays.
+void FitDesktop();
 
 enum DesktopSide {
     ADD_RIGHT,

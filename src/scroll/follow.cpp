@@ -9,7 +9,6 @@
 #include "windows/other_window.h"
 #include "windows/window_table.h"
 
-static const int MINIMIZED = -32000; // left edge that Windows gives minimized windows
 static const int SLACK = 4; // pixels: the frame of a maximized window lies this far outside the screen
 
 namespace {
@@ -25,14 +24,12 @@ struct UnmovedRecord {
 
 static UnmovedRecord Unmoved;
 
-FollowNeed NeedToFollow(const RECT& rect, int screenW, int screenH, const RECT& quorl) {
-    if (rect.left <= MINIMIZED)
-        return FOLLOW_NOTHING;
+bool NeedToFollow(const RECT& rect, int screenW, int screenH, const RECT& quorl) {
     const POINT middle = MiddleOf(rect);
     if (rect.left >= -SLACK && rect.top >= -SLACK && middle.x <= screenW + SLACK &&
         middle.y <= screenH + SLACK)
-        return FOLLOW_IN_VIEW;
-    return middle.x > quorl.right || middle.y > quorl.bottom ? FOLLOW_IN_VIEW : FOLLOW_SCROLL;
+        return false;
+    return middle.x <= quorl.right && middle.y <= quorl.bottom;
 }
 
 // The user drags something and does not want the view to move.
@@ -51,8 +48,8 @@ static void ScrollToActive(HWND active, const RECT& rect) {
     if (IsKnownUnmoved(active, rect) || !IsAlive(active))
         return;
     RECT now{};
-    CenterOnActiveWindow(active);
-    const bool bStayed = GetOtherWindowRect(active, &now) && IsSameRect(now, rect);
+    CenterOnWindow(active, active);
+    const bool bStayed = GetVisibleRect(active, &now) && IsSameRect(now, rect);
     Unmoved = {bStayed ? active : nullptr, rect, Quorl, IsLockedWindow(active)};
 }
 
@@ -60,27 +57,23 @@ bool FollowActiveWindow() {
     if (!IsOn(ACTION_FOLLOW_ACTIVE))
         return false;
     const HWND active = GetForegroundWindow();
-    RECT rect{};
+    WindowFrame frame{};
     if (active != Unmoved.window)
         Unmoved.window = nullptr;
-    if (!IsManagedWindow(active, &rect))
+    const bool bLeftBehind = IsLeftBehind(active);
+    if (!IsManagedWindow(active, &frame) || frame.bMinimized)
         return false;
-    const FollowNeed need = NeedToFollow(rect, ScreenW(), ScreenH(), Quorl);
-    if (need == FOLLOW_SCROLL && !IsSuppressed())
-        ScrollToActive(active, rect);
-    return need != FOLLOW_NOTHING;
+    if (NeedToFollow(frame.visible, ScreenW(), ScreenH(), Quorl) && !bLeftBehind && !IsSuppressed())
+        ScrollToActive(active, frame.visible);
+    return true;
 }
 
 bool CenterOnWindow(HWND window, HWND target) {
-    RECT rect{};
-    if (!IsManagedWindow(target, &rect))
+    WindowFrame frame{};
+    if (!IsManagedWindow(target, &frame))
         return false;
-    const POINT middle = MiddleOf(rect);
-    ScrollView(window, Wrap(0LL + middle.x + VDesk.left), Wrap(0LL + middle.y + VDesk.top), SV_CENTER,
+    const POINT middle = MiddleOf(frame.visible);
+    ScrollView(window, Wrap(0LL + middle.x + VDesk.left), Wrap(0LL + middle.y + VDesk.top), SV_WINDOW,
                ACTION_VIEW_TO_ACTIVE);
-    return ActivateWindow(target);
-}
-
-bool CenterOnActiveWindow(HWND window) {
-    return CenterOnWindow(window, GetForegroundWindow());
+    return ReturnForeground(target);
 }

@@ -1,11 +1,41 @@
 #include "scroll/gather.h"
 
+#include "core/displays.h"
 #include "core/rect.h"
 #include "core/state.h"
 #include "windows/other_window.h"
 #include "windows/window_table.h"
 
 static const int LAST_PIXELS = 5; // pixels: so little of a window could not be grabbed
+
+namespace {
+
+// What differs between the reasons to fold.
+struct FoldRule {
+    UINT timeout;    // milliseconds that a window may take to respond
+    DWORD timeLimit; // milliseconds for all of them; then moves are only posted. 0: no limit
+    bool bReport;    // a refusal shows a box
+};
+
+// A window, read before any window has been moved.
+struct FoldRow {
+    HWND window;
+    WindowFrame frame;
+    bool bMoves;          // its own rectangle is folded
+    bool bOwnsNormalRect; // minimized or maximized: the rectangle that restoring gives it is checked
+};
+
+} // namespace
+
+static const FoldRule FoldRules[] = {
+    {FOLD_TIMEOUT, 0, true},       // FOLD_AT_EXIT
+    {FOLD_TIMEOUT, 0, true},       // FOLD_TO_SMALLER_DESKTOP
+    {SCROLL_TIMEOUT, 3000, false}, // FOLD_AT_LOGOFF
+    {FOLD_TIMEOUT, 0, false},      // FOLD_IN_CRASH
+};
+
+static FoldRow Folds[MAX_WINDOWS];
+static int FoldCount; // calls of GatherWindows
 
 // Pure: one coordinate of a window's corner, folded onto a screen of that size. Screen pixels.
 static int FoldCoordinate(int corner, int screen) {
@@ -15,23 +45,78 @@ static int FoldCoordinate(int corner, int screen) {
     return folded > screen - LAST_PIXELS ? screen - folded : folded;
 }
 
-static MoveResult FoldWindow(HWND window, const RECT& before) {
-    return PingAndMove(window,
-                       {FoldCoordinate(before.left, ScreenW()), FoldCoordinate(before.top, ScreenH()),
-                        Width(before), Height(before)},
-                       FOLD_TIMEOUT);
+// A display may not show that part of the screen, or a taskbar cover it.
+static RECT FoldRect(const RECT& rect) {
+    const POINT corner{FoldCoordinate(rect.left, ScreenW()), FoldCoordinate(rect.top, ScreenH())};
+    return KeepInReach(Offset(rect, Wrap(0LL + corner.x - rect.left), Wrap(0LL + corner.y - rect.top)));
 }
 
-// The message box runs a message loop, in which the refresh timer may rebuild the table, so fold a copy.
-void GatherWindows(bool bReport) {
-    static HWND windows[MAX_WINDOWS];
-    RebuildWindowTable();
-    const int count = num_windows;
-    for (int i = 0; i < count; ++i)
-        windows[i] = WindowTable[i].hwnd;
-    for (int i = 0; i < count; ++i) {
-        RECT before{};
-        if (IsManagedWindow(windows[i], &before) && FoldWindow(windows[i], before) == MOVE_REFUSED && bReport)
-            MessageBoxA(nullptr, "Not a timeout! A window won't restore!", "ok", MB_OK);
+// Windows that scrolling leaves alone may be out of reach as well: it moved them before they were disabled,
+// minimized or cloaked.
+static bool IsLost(HWND window, WindowFrame* frame) {
+    return IsUserWindow(window) && !IsIconic(window) && ReadWindowFrame(window, frame) &&
+           Width(frame->visible) && Height(frame->visible) && !IsTitleInReach(frame->visible);
+}
+
+static int ReadFolds() {
+    for (int i = 0; i < num_windows; ++i) {
+        const HWND window = WindowTable[i].hwnd;
+        FoldRow& row = Folds[i];
+        row.window = window;
+        row.bMoves = IsManagedWindow(window, &row.frame) || IsLost(window, &row.frame);
+        row.bOwnsNormalRect = IsUserWindow(window) && (IsIconic(window) || IsZoomed(window));
     }
+    return num_windows;
+}
+
+static void FoldNormalRect(HWND window) {
+    RECT normal{};
+    if (ReadNormalRect(window, &normal) && !IsTitleInReach(normal))
+        SetNormalRect(window, FoldRect(normal));
+}
+
+static MoveResult FoldWindow(const FoldRow& row, UINT timeout) {
+    const RECT folded = FoldRect(row.frame.visible);
+    const MoveResult result = PingAndMove(row.window, row.frame, {folded.left, folded.top}, timeout);
+    if (result == MOVE_TIMED_OUT)
+        PostMove(row.window, row.frame, {folded.left, folded.top});
+    return result;
+}
+
+static void PostFold(const FoldRow& row) {
+    const RECT folded = FoldRect(row.frame.visible);
+    if (row.bMoves)
+        PostMove(row.window, row.frame, {folded.left, folded.top});
+}
+
+static void FoldRowBy(const FoldRule& rule, const FoldRow& row) {
+    if (row.bMoves && FoldWindow(row, rule.timeout) == MOVE_REFUSED && rule.bReport)
+        MessageBoxA(nullptr, "Not a timeout! A window won't restore!", "ok", MB_OK);
+    if (row.bOwnsNormalRect)
+        FoldNormalRect(row.window);
+}
+
+// The displays may have changed since they were last measured, and Quorl no longer waits for them to settle.
+static void MeasureForLastTime() {
+    DisplayLayout now;
+    MonitorUnion(&now);
+    if (now.count)
+        UseDisplays(now);
+}
+
+// From the bottom to the top: owners are below the windows that they own.
+void GatherWindows(FoldReason reason) {
+    if (bDisplaysChanging && !bQuitting)
+        return; // nothing could be moved
+    const FoldRule& rule = FoldRules[reason];
+    const int fold = ++FoldCount;
+    if (bQuitting)
+        MeasureForLastTime();
+    RebuildWindowTable();
+    const DWORD start = GetTickCount();
+    for (int i = ReadFolds() - 1; i >= 0 && fold == FoldCount; --i)
+        if (rule.timeLimit && GetTickCount() - start >= rule.timeLimit)
+            PostFold(Folds[i]);
+        else
+            FoldRowBy(rule, Folds[i]);
 }

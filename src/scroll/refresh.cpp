@@ -2,6 +2,7 @@
 
 #include "core/state.h"
 #include "scroll/follow.h"
+#include "windows/foreground.h"
 #include "windows/window_table.h"
 
 // A new window changes no row, so rebuild the table this often in any case.
@@ -17,7 +18,11 @@ static bool IsRefreshDue() {
     return true;
 }
 
+// While the displays change, the table keeps the positions from before the change.
 void CALLBACK RefreshTimer(HWND window, UINT, UINT_PTR, DWORD) {
+    NoteForeground();
+    if (bDisplaysChanging)
+        return;
     const bool bFollowed = FollowActiveWindow();
     if (!IsRefreshDue() && !HasAnyWindowMoved() && !bFollowed)
         return;

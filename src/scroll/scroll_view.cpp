@@ -5,14 +5,32 @@
 #include "core/state.h"
 #include "scroll/shift.h"
 #include "status/status_strip.h"
+#include "windows/other_window.h"
 
 static int ScrollCount; // calls of ScrollView
+
+namespace {
+
+// The window that IsLeftBehind describes; null if there is none.
+struct LeftBehindRecord {
+    HWND window;
+    POINT corner; // desktop pixels
+};
+
+} // namespace
+
+static LeftBehindRecord LeftBehind;
+
+static POINT DesktopCorner(const RECT& rect) {
+    return {Wrap(0LL + rect.left + VDesk.left), Wrap(0LL + rect.top + VDesk.top)};
+}
 
 // Pure: the distance from the current view to (x, y) in that mode, in pixels.
 static POINT ScrollDistance(const RECT& vdesk, int x, int y, ScrollMode mode) {
     switch (mode) {
     case SV_ABSOLUTE: return {Wrap(0LL + x - vdesk.left), Wrap(0LL + y - vdesk.top)};
     case SV_CENTER:
+    case SV_WINDOW:
         return {Wrap(0LL + x - Width(vdesk) / 2 - vdesk.left), Wrap(0LL + y - Height(vdesk) / 2 - vdesk.top)};
     case SV_RELATIVE: break;
     }
@@ -42,8 +60,9 @@ ViewStep ClampStep(const RECT& vdesk, POINT distance, const RECT& quorl, int scr
     return step;
 }
 
-void ResetView() {
-    VDesk = ScreenRect;
+void SetView(POINT corner) {
+    const RECT view{corner.x, corner.y, Wrap(0LL + corner.x + ScreenW()), Wrap(0LL + corner.y + ScreenH())};
+    VDesk = ClampStep(view, {0, 0}, Quorl, ScreenW(), ScreenH()).view;
 }
 
 // Shown for every second call. The view's coordinates replace it, so it is seen only if windows respond
@@ -54,16 +73,38 @@ static void ShowCount(int id) {
     ++ScrollCount;
 }
 
-static void ShowView() {
+void ShowView() {
     ShowTip("VDesk: %d,%d - %d,%d", static_cast<int>(VDesk.left), static_cast<int>(VDesk.top),
             static_cast<int>(VDesk.right), static_cast<int>(VDesk.bottom));
 }
 
+// Windows denies the foreground to a process that did not receive the last input.
+static void TakeForeground() {
+    RECT rect{};
+    SetForegroundWindow(MainWnd);
+    const HWND active = GetForegroundWindow();
+    LeftBehind.window = active != MainWnd && GetVisibleRect(active, &rect) ? active : nullptr;
+    LeftBehind.corner = DesktopCorner(rect);
+}
+
+bool IsLeftBehind(HWND active) {
+    RECT rect{};
+    if (active == LeftBehind.window && GetVisibleRect(active, &rect)) {
+        const POINT corner = DesktopCorner(rect);
+        if (corner.x == LeftBehind.corner.x && corner.y == LeftBehind.corner.y)
+            return true;
+    }
+    LeftBehind.window = nullptr;
+    return false;
+}
+
 bool ScrollView(HWND window, int x, int y, ScrollMode mode, int id) {
+    if (!MayScroll())
+        return false;
     ShowCount(id);
     const RECT before = VDesk;
-    if (IsOn(ACTION_FOLLOW_ACTIVE))
-        SetForegroundWindow(MainWnd);
+    if (IsOn(ACTION_FOLLOW_ACTIVE) && mode != SV_WINDOW)
+        TakeForeground(); // not for a window that gets it: this would close the user's menus
     const ViewStep step = ClampStep(before, ScrollDistance(before, x, y, mode), Quorl, ScreenW(), ScreenH());
     VDesk = step.view;
     ShiftWindows(Wrap(0LL - step.dx), Wrap(0LL - step.dy));

@@ -6,6 +6,25 @@
 #include "windows/locked_windows.h"
 #include "windows/window_table.h"
 
+namespace {
+
+// A row of the window table, read before any window has been moved.
+struct ShiftRow {
+    HWND window;
+    WindowFrame frame;
+    bool bMoves; // managed and not locked
+    POINT by;    // pixels
+};
+
+} // namespace
+
+static ShiftRow Shifts[MAX_WINDOWS];
+static bool bShifting;
+
+bool MayScroll() {
+    return !bQuitting && !bDisplaysChanging && !bShifting;
+}
+
 // One axis. `view` is the near edge of the view, `desktop` the size of the desktop.
 static int ShiftedCoordinate(int coordinate, int delta, int size, int view, int desktop, int border) {
     int shifted = Wrap(0LL + coordinate + delta);
@@ -14,29 +33,66 @@ static int ShiftedCoordinate(int coordinate, int delta, int size, int view, int 
     return Wrap(0LL + shifted + view) < 0 ? Wrap(0LL - view) : shifted;
 }
 
-WindowPosition ShiftedPosition(const RECT& window, int dx, int dy, const RECT& vdesk, const RECT& quorl,
-                               int border) {
-    const int width = Width(window);
-    const int height = Height(window);
-    return {ShiftedCoordinate(window.left, dx, width, vdesk.left, quorl.right, border),
-            ShiftedCoordinate(window.top, dy, height, vdesk.top, quorl.bottom, border), width, height};
+POINT ShiftedCorner(const RECT& window, int dx, int dy, const RECT& vdesk, const RECT& quorl, int border) {
+    return {ShiftedCoordinate(window.left, dx, Width(window), vdesk.left, quorl.right, border),
+            ShiftedCoordinate(window.top, dy, Height(window), vdesk.top, quorl.bottom, border)};
 }
 
-static void ShiftWindow(HWND window, const RECT& before, int dx, int dy) {
-    if (IsOn(ACTION_RESTORE_MAXIMIZED) && !RestoreIfZoomed(window))
+// Programs that carry their palettes along would otherwise have them moved twice.
+static int ReadPositions(POINT by) {
+    for (int i = 0; i < num_windows; ++i) {
+        ShiftRow& row = Shifts[i];
+        row.window = WindowTable[i].hwnd;
+        row.bMoves = IsManagedWindow(row.window, &row.frame) && !IsLockedWindow(row.window);
+        row.by = by;
+    }
+    return num_windows;
+}
+
+// The window may have been hidden or closed since its position was read.
+static void MoveRow(ShiftRow& row) {
+    if (!row.bMoves || !IsWindowVisible(row.window))
         return;
-    PingMoveAndShow(window, ShiftedPosition(before, dx, dy, VDesk, Quorl, Options.border));
+    if (IsOn(ACTION_RESTORE_MAXIMIZED) && !RestoreIfZoomed(row.window, &row.frame))
+        return;
+    PingMoveAndShow(row.window, row.frame,
+                    ShiftedCorner(row.frame.visible, row.by.x, row.by.y, VDesk, Quorl, Options.border));
+}
+
+static void ScrollRow(ShiftRow& row) {
+    if (IsListView(row.window) && !ScrollListView(row.window, row.by.x, row.by.y))
+        return; // the ping would wait a second time for the same program
+    MoveRow(row);
+}
+
+// From the bottom to the top: owners are below the windows that they own. Ends when the user quits meanwhile.
+static void MoveAll(int count, void (*move)(ShiftRow& row)) {
+    bShifting = true;
+    for (int i = count - 1; i >= 0 && !bQuitting; --i)
+        move(Shifts[i]);
+    bShifting = false;
 }
 
 void ShiftWindows(int dx, int dy) {
-    if (bQuitting)
+    if (MayScroll())
+        MoveAll(ReadPositions({dx, dy}), ScrollRow);
+}
+
+// How far a window has to move so that it is where the table had it on the desktop.
+static POINT DistanceToTable(const WindowRow& row, const WindowFrame& frame, const DisplayLayout& before) {
+    const LONG left = Wrap(0LL + frame.visible.left - frame.margins.left);
+    const LONG top = Wrap(0LL + frame.visible.top - frame.margins.top);
+    return {Wrap(0LL + row.rect.left - before.all.left + WindowTableView.x - VDesk.left - left),
+            Wrap(0LL + row.rect.top - before.all.top + WindowTableView.y - VDesk.top - top)};
+}
+
+void ReturnUnseenWindows(const DisplayLayout& before) {
+    if (!MayScroll())
         return;
-    for (int i = 0; i < num_windows; ++i) {
-        const HWND window = WindowTable[i].hwnd;
-        if (IsListView(window) && !ScrollListView(window, dx, dy))
-            continue; // the ping would wait a second time for the same program
-        RECT before{};
-        if (IsManagedWindow(window, &before) && !IsLockedWindow(window))
-            ShiftWindow(window, before, dx, dy);
+    const int count = ReadPositions({});
+    for (int i = 0; i < count; ++i) {
+        Shifts[i].bMoves = Shifts[i].bMoves && !IsShownBy(before, WindowTable[i].rect);
+        Shifts[i].by = DistanceToTable(WindowTable[i], Shifts[i].frame, before);
     }
+    MoveAll(count, MoveRow);
 }

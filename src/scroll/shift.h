@@ -1,13 +1,20 @@
 // Moving all windows together.
 #pragma once
 
-#include "windows/other_window.h"
+#include "core/displays.h"
+
+// Whether windows may be moved together now: not once the user has quit, not while the displays change, and
+// not inside another scroll, which a message box in its midst makes possible.
+bool MayScroll();
 
 // Moves every managed, unlocked window by (dx, dy) pixels and shows it. A window that does not respond stays
-// and costs SCROLL_TIMEOUT. Does nothing once the user has quit.
+// and costs SCROLL_TIMEOUT. Does nothing unless MayScroll.
 void ShiftWindows(int dx, int dy);
 
-// Pure: the position, in screen pixels, of a window moved by (dx, dy) and clamped to the desktop. The far
-// edges are compared with the desktop's size in screen pixels, without the view's corner.
-WindowPosition ShiftedPosition(const RECT& window, int dx, int dy, const RECT& vdesk, const RECT& quorl,
-                               int border);
+// After a change of displays: moves every managed, unlocked window that no display of the old layout showed
+// to its position on the desktop. Windows moves all others itself.
+void ReturnUnseenWindows(const DisplayLayout& before);
+
+// Pure: the corner, in screen pixels, of a window moved by (dx, dy) and clamped to the desktop. The far edges
+// are compared with the desktop's size in screen pixels, without the view's corner.
+POINT ShiftedCorner(const RECT& window, int dx, int dy, const RECT& vdesk, const RECT& quorl, int border);

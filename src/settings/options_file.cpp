@@ -1,6 +1,7 @@
 #include "settings/options_file.h"
 
 #include "actions/action_table.h"
+#include "core/displays.h"
 #include "core/rect.h"
 #include "core/state.h"
 #include "menus/menu_list.h"
@@ -74,29 +75,34 @@ static void ReadDesktop(LPCSTR file) {
     RECT desktop = Quorl;
     ReadRect(file, DesktopKeys, &desktop, LARGEST_DESKTOP);
     SetDesktop(desktop);
-    MeasureScreen();
 }
 
-// False for a position on a display that is gone. The map is never smaller than its minimum.
-static bool IsOnScreen(const RECT& rect) {
-    const RECT map{rect.left, rect.top, std::max<LONG>(rect.right, Wrap(0LL + rect.left + MIN_TOOLWIN.cx)),
-                   std::max<LONG>(rect.bottom, Wrap(0LL + rect.top + MIN_TOOLWIN.cy))};
-    RECT shared{};
-    return IntersectRect(&shared, &map, &ScreenRect);
+// The map is never smaller than its minimum.
+static RECT WithMinimumSize(const RECT& rect) {
+    return {rect.left, rect.top, std::max<LONG>(rect.right, Wrap(0LL + rect.left + MIN_TOOLWIN.cx)),
+            std::max<LONG>(rect.bottom, Wrap(0LL + rect.top + MIN_TOOLWIN.cy))};
 }
 
+// A position on a display that is gone is ignored; one that only a taskbar or the gap between displays hides
+// is corrected.
 static void ReadMapRect(LPCSTR file) {
     RECT rect{-1, -1, -1, -1}; // absent keys
     ReadRect(file, MapKeys, &rect, INT_MAX);
-    if (rect.left > 0 && IsOnScreen(rect))
-        MoveWindow(MainWnd, rect.left, rect.top, Width(rect), Height(rect), TRUE);
+    const RECT map = WithMinimumSize(rect);
+    if (rect.left <= 0 || !IsOnDisplay(map))
+        return;
+    const RECT reachable = KeepInReach(map);
+    const RECT moved =
+        ToWindows(Offset(rect, Wrap(0LL + reachable.left - map.left), Wrap(0LL + reachable.top - map.top)));
+    MoveWindow(MainWnd, moved.left, moved.top, Width(moved), Height(moved), TRUE);
 }
 
-// If the rectangle cannot be read, the stored one stays.
+// With the invisible frame, which a window that is not shown yet does not have when it is read again. If the
+// rectangle cannot be read, the stored one stays.
 static void WriteMapRect(LPCSTR file) {
     RECT rect{};
     if (GetWindowRect(MainWnd, &rect))
-        WriteRect(file, MapKeys, rect);
+        WriteRect(file, MapKeys, FromWindows(rect));
 }
 
 static void ReadMenu(LPCSTR file) {
@@ -136,7 +142,7 @@ void LoadOptions(LPCSTR file) {
 
 void SaveOptions(LPCSTR file) {
     WriteNumbers(file);
-    WriteRect(file, DesktopKeys, Quorl);
+    WriteRect(file, DesktopKeys, ChosenDesktop);
     WriteMapRect(file);
     WriteMenu(file);
 }

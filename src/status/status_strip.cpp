@@ -1,8 +1,10 @@
 #include "status/status_strip.h"
 
 #include "actions/action_table.h"
+#include "core/displays.h"
 #include "core/rect.h"
 #include "core/state.h"
+#include "windows/other_window.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -65,12 +67,14 @@ static bool CreateTip() {
 static void PlaceTip(int textHeight) {
     RECT map{};
     RECT tip{};
-    GetWindowRect(MainWnd, &map);
-    GetWindowRect(TipWnd, &tip);
+    GetVisibleRect(MainWnd, &map);
+    GetVisibleRect(TipWnd, &tip);
     if (IsWindowVisible(TipWnd) && map.left == tip.left)
         return;
     const int above = Wrap(0LL + map.top - textHeight);
-    MoveWindow(TipWnd, map.left, above < 0 ? map.bottom : above, Width(map), textHeight, TRUE);
+    const int top = above < DisplayNear(map).rect.top ? map.bottom : above;
+    const RECT strip = ToWindows({map.left, top, map.right, Wrap(0LL + top + textHeight)});
+    MoveWindow(TipWnd, strip.left, strip.top, Width(strip), Height(strip), TRUE);
     ShowWindow(TipWnd, SW_SHOWNOACTIVATE);
 }
 

@@ -3,8 +3,6 @@
 
 #include "core/platform.h"
 
-constexpr char TIP_CLASS[] = "w_ToolTip"; // class and title
-
 extern HWND TipWnd; // the strip; null until its first text
 
 // Registers the strip's class; call once, before the map exists.

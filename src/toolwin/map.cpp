@@ -90,7 +90,7 @@ static void CALLBACK FlashTimer(HWND window, UINT, UINT_PTR, DWORD) {
     RECT map{};
     GetClientRect(window, &map);
     RECT active{};
-    GetOtherWindowRect(GetForegroundWindow(), &active);
+    GetVisibleRect(GetForegroundWindow(), &active);
     const RECT box = WindowBox(active, map, VDesk, Quorl);
     InvalidateRect(window, &box, TRUE);
     UpdateWindow(window);
@@ -112,10 +112,10 @@ static void DrawActiveBox(const MapPaint& paint, const RECT& box) {
 }
 
 static void DrawWindow(const MapPaint& paint, HWND window) {
-    RECT rect{};
-    if (!IsManagedWindow(window, &rect))
+    WindowFrame frame{};
+    if (!IsManagedWindow(window, &frame))
         return;
-    const RECT box = WindowBox(rect, paint.map, VDesk, Quorl);
+    const RECT box = WindowBox(frame.visible, paint.map, VDesk, Quorl);
     if (window == paint.active)
         DrawActiveBox(paint, box);
     else

@@ -3,8 +3,9 @@
 #include "core/rect.h"
 #include "core/state.h"
 #include "core/steps.h"
-#include "scroll/desktop_size.h"
+#include "scroll/display_change.h"
 #include "status/status_strip.h"
+#include "windows/other_window.h"
 
 // One axis: the near edge first, then the far one.
 static void SnapEdges(LONG& nearEdge, LONG& farEdge, int border, int screen) {
@@ -26,21 +27,17 @@ RECT SnapRect(const RECT& rect, int border, int screenW, int screenH) {
     return snapped;
 }
 
-static bool MoveTo(const RECT& rect) {
-    return MoveWindow(MainWnd, rect.left, rect.top, Width(rect), Height(rect), TRUE) != 0;
-}
-
 bool MoveToolwin(int dx, int dy) {
-    RECT before{};
-    if (!GetWindowRect(MainWnd, &before))
+    WindowFrame frame{};
+    if (!ReadWindowFrame(MainWnd, &frame))
         return false;
     MeasureScreen(); // the displays may have changed since the last move
-    RECT rect = Offset(before, dx, dy);
+    RECT rect = Offset(frame.visible, dx, dy);
     if (IsOn(ACTION_SNAP))
         rect = SnapRect(rect, Options.border, ScreenW(), ScreenH());
     ShowTip("Toolwin: %d,%d - %d,%d", static_cast<int>(rect.left), static_cast<int>(rect.top),
             static_cast<int>(rect.right), static_cast<int>(rect.bottom));
-    return MoveTo(rect);
+    return MoveOwnWindow(MainWnd, frame, rect);
 }
 
 int StepToolwin(const ActionCall& call) {
@@ -49,13 +46,14 @@ int StepToolwin(const ActionCall& call) {
 }
 
 int ResizeToolwin(const ActionCall& call) {
-    RECT rect{};
-    if (!GetWindowRect(MainWnd, &rect))
+    WindowFrame frame{};
+    if (!ReadWindowFrame(MainWnd, &frame))
         return 0;
     const POINT step = StepDelta(call.argument);
+    RECT rect = frame.visible;
     rect.right = Wrap(0LL + rect.right + step.x);
     rect.bottom = Wrap(0LL + rect.bottom + step.y);
-    return MoveTo(rect);
+    return MoveOwnWindow(MainWnd, frame, rect);
 }
 
 int ToggleToolwin(const ActionCall&) {

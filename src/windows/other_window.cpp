@@ -1,9 +1,90 @@
 #include "windows/other_window.h"
 
-#include <cstring>
+#include "core/displays.h"
+#include "core/rect.h"
+#include "core/state.h"
 
-bool GetOtherWindowRect(HWND window, RECT* rect) {
-    return GetWindowRect(window, rect) != 0;
+#include <cstdlib>
+#include <cstring>
+#include <initializer_list>
+
+static const int MINIMIZED = -32000; // left edge, in the coordinates of Windows, of minimized windows
+static const int MAX_MARGIN = 48;  // pixels: more is a window just being restored, or the ghost of a hung one
+static const int MARGIN_ERROR = 2; // pixels by which the margins of a program that is not DPI aware vary
+
+constexpr DWORD DWMWA_EXTENDED_FRAME_BOUNDS = 9; // declared in a header that the in-memory desktop lacks
+
+namespace {
+
+// Sent with WM_MOVING in place of a RECT, which has the same size: right and bottom hold width and height. In
+// the coordinates of Windows.
+struct WindowPosition {
+    LONG x, y, width, height;
+};
+
+} // namespace
+
+static bool IsMargin(LONG margin) {
+    return margin >= 0 && margin <= MAX_MARGIN;
+}
+
+// Only margins that are plausible: a program's picture may be scaled, or not drawn yet.
+static RECT ReadMargins(HWND window, const RECT& rect) {
+    RECT visible{};
+    if (!pDwmGetWindowAttribute || rect.left <= MINIMIZED ||
+        pDwmGetWindowAttribute(window, DWMWA_EXTENDED_FRAME_BOUNDS, &visible, sizeof visible) < 0 ||
+        visible.left >= visible.right || visible.top >= visible.bottom)
+        return {};
+    const RECT margins{Wrap(0LL + visible.left - rect.left), Wrap(0LL + visible.top - rect.top),
+                       Wrap(0LL + rect.right - visible.right), Wrap(0LL + rect.bottom - visible.bottom)};
+    const bool bPlausible = IsMargin(margins.left) && IsMargin(margins.top) && IsMargin(margins.right) &&
+                            IsMargin(margins.bottom);
+    return bPlausible ? margins : RECT{};
+}
+
+static RECT Shrink(const RECT& rect, const RECT& margins) {
+    return {Wrap(0LL + rect.left + margins.left), Wrap(0LL + rect.top + margins.top),
+            Wrap(0LL + rect.right - margins.right), Wrap(0LL + rect.bottom - margins.bottom)};
+}
+
+// Moves an edge to the edge of the screen or of the desktop that it misses by the error of its margin.
+static void SnapEdge(LONG* edge, LONG* margin, LONG screen, LONG desktop, int outward) {
+    for (const LONG target : {screen, desktop}) {
+        const long long missed = 0LL + target - *edge;
+        if (std::abs(missed) > MARGIN_ERROR)
+            continue;
+        *edge = target;
+        *margin = Wrap(*margin - missed * outward);
+        return;
+    }
+}
+
+static void SnapFrame(WindowFrame* frame) {
+    RECT& visible = frame->visible;
+    RECT& margins = frame->margins;
+    SnapEdge(&visible.left, &margins.left, 0, Wrap(0LL - VDesk.left), -1);
+    SnapEdge(&visible.top, &margins.top, 0, Wrap(0LL - VDesk.top), -1);
+    SnapEdge(&visible.right, &margins.right, ScreenW(), Wrap(0LL + Quorl.right - VDesk.left), 1);
+    SnapEdge(&visible.bottom, &margins.bottom, ScreenH(), Wrap(0LL + Quorl.bottom - VDesk.top), 1);
+}
+
+bool ReadWindowFrame(HWND window, WindowFrame* frame) {
+    RECT rect{};
+    if (!GetWindowRect(window, &rect))
+        return false;
+    const RECT margins = ReadMargins(window, rect);
+    *frame = {FromWindows(Shrink(rect, margins)), margins, rect.left <= MINIMIZED, false};
+    if (!IsSameRect(margins, {}))
+        SnapFrame(frame);
+    return true;
+}
+
+bool GetVisibleRect(HWND window, RECT* rect) {
+    WindowFrame frame{};
+    if (!ReadWindowFrame(window, &frame))
+        return false;
+    *rect = frame.visible;
+    return true;
 }
 
 // A send that hangs would hang Quorl, so every message to another program goes through here.
@@ -21,40 +102,136 @@ static bool PingWithPosition(HWND window, WindowPosition* position, UINT timeout
     return SendBounded(window, WM_MOVING, 0, reinterpret_cast<LPARAM>(position), timeout);
 }
 
-static void Move(HWND window, const WindowPosition& position) {
+// What to tell Windows for a visible corner.
+static WindowPosition PositionFor(const WindowFrame& frame, POINT corner) {
+    const RECT& margins = frame.margins;
+    const RECT outer =
+        ToWindows({Wrap(0LL + corner.x - margins.left), Wrap(0LL + corner.y - margins.top), 0, 0});
+    return {outer.left, outer.top, Wrap(0LL + Width(frame.visible) + margins.left + margins.right),
+            Wrap(0LL + Height(frame.visible) + margins.top + margins.bottom)};
+}
+
+// Windows moves windows itself while the displays change, and skips one that was moved meanwhile.
+static bool MayMove() {
+    return !bDisplaysChanging || bQuitting;
+}
+
+static void MoveCorner(HWND window, const WindowPosition& position, UINT flags) {
+    SetWindowPos(window, nullptr, position.x, position.y, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
+}
+
+static void MoveAndSize(HWND window, const WindowPosition& position) {
     MoveWindow(window, position.x, position.y, position.width, position.height, TRUE);
 }
 
-// The error after a timeout: 0 on the oldest systems, ERROR_TIMEOUT on all others.
-static bool IsTimeout(DWORD error) {
-    return error == 0 || error == ERROR_TIMEOUT;
+// Between displays of different scale the size read before the move is wrong after it, so do not set it
+// unless it changes.
+static void Move(HWND window, const WindowPosition& position, bool bSetSize) {
+    if (bSetSize)
+        MoveAndSize(window, position);
+    else
+        MoveCorner(window, position, 0);
 }
 
-MoveResult PingAndMove(HWND window, WindowPosition position, UINT timeout) {
+// The error after a timeout: 0 on the oldest systems, ERROR_TIMEOUT on all others. A program with higher
+// rights denies access; it was never moved.
+static MoveResult ResultOf(DWORD error) {
+    if (error == 0 || error == ERROR_TIMEOUT)
+        return MOVE_TIMED_OUT;
+    return error == ERROR_ACCESS_DENIED || error == ERROR_INVALID_WINDOW_HANDLE ? NOT_MOVED : MOVE_REFUSED;
+}
+
+MoveResult PingAndMove(HWND window, const WindowFrame& frame, POINT corner, UINT timeout) {
+    if (!MayMove())
+        return NOT_MOVED;
+    const WindowPosition sent = PositionFor(frame, corner);
+    WindowPosition position = sent;
     if (!PingWithPosition(window, &position, timeout))
-        return IsTimeout(GetLastError()) ? MOVE_TIMED_OUT : MOVE_REFUSED;
-    Move(window, position);
+        return ResultOf(GetLastError());
+    Move(window, position, frame.bSetSize || position.width != sent.width || position.height != sent.height);
     return MOVED;
 }
 
-void PingMoveAndShow(HWND window, const WindowPosition& position) {
-    if (PingAndMove(window, position, SCROLL_TIMEOUT) == MOVED)
-        ShowWindow(window, SW_SHOW);
+void PingMoveAndShow(HWND window, const WindowFrame& frame, POINT corner) {
+    if (PingAndMove(window, frame, corner, SCROLL_TIMEOUT) == MOVED)
+        ShowWindow(window, SW_SHOWNA);
 }
 
-void MoveIfAlive(HWND window, const WindowPosition& position) {
-    if (IsAlive(window))
-        Move(window, position);
+void MoveIfAlive(HWND window, const WindowFrame& frame, POINT corner) {
+    if (MayMove() && IsAlive(window))
+        Move(window, PositionFor(frame, corner), frame.bSetSize);
 }
 
-bool RestoreIfZoomed(HWND window) {
+void PostMove(HWND window, const WindowFrame& frame, POINT corner) {
+    if (MayMove())
+        MoveCorner(window, PositionFor(frame, corner), SWP_ASYNCWINDOWPOS);
+}
+
+bool GetOtherWindowSize(HWND window, SIZE* size) {
+    RECT rect{};
+    if (!GetWindowRect(window, &rect))
+        return false;
+    *size = {Width(rect), Height(rect)};
+    return true;
+}
+
+void ResizeIfAlive(HWND window, SIZE size) {
+    RECT rect{};
+    if (MayMove() && GetWindowRect(window, &rect) && IsAlive(window))
+        MoveAndSize(window, {rect.left, rect.top, size.cx, size.cy});
+}
+
+bool RestoreIfZoomed(HWND window, WindowFrame* frame) {
     if (!IsZoomed(window))
         return true;
-    if (!IsAlive(window))
+    if (!MayMove() || !IsAlive(window))
         return false;
     ShowWindow(window, SW_HIDE);
     ShowWindow(window, SW_RESTORE);
+    WindowFrame restored{};
+    if (ReadWindowFrame(window, &restored))
+        frame->margins = restored.margins; // narrower than those of a maximized window
+    frame->bSetSize = true;
     return true;
+}
+
+// Windows counts normal rectangles from the corner of the display's work area, except those of tool windows.
+static POINT WorkspaceOffset(HWND window, const RECT& rect) {
+    if (GetWindowLongPtrA(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW)
+        return {0, 0};
+    const DisplayArea display = DisplayNear(rect);
+    return {display.work.left - display.rect.left, display.work.top - display.rect.top};
+}
+
+bool ReadNormalRect(HWND window, RECT* rect) {
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    if (!GetWindowPlacement(window, &placement))
+        return false;
+    const RECT normal = FromWindows(placement.rcNormalPosition);
+    const POINT offset = WorkspaceOffset(window, normal);
+    *rect = Offset(normal, offset.x, offset.y);
+    return true;
+}
+
+// SW_SHOWMINIMIZED, which GetWindowPlacement returns, would activate the window.
+void SetNormalRect(HWND window, const RECT& rect) {
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    if (!MayMove() || !IsAlive(window) || !GetWindowPlacement(window, &placement))
+        return;
+    const POINT offset = WorkspaceOffset(window, rect);
+    placement.rcNormalPosition = ToWindows(Offset(rect, -offset.x, -offset.y));
+    placement.showCmd = IsIconic(window) ? SW_SHOWMINNOACTIVE : SW_SHOWNA;
+    SetWindowPlacement(window, &placement);
+}
+
+bool MoveOwnWindow(HWND window, const WindowFrame& frame, const RECT& visible) {
+    WindowFrame sized = frame;
+    sized.visible = visible;
+    const WindowPosition position = PositionFor(sized, {visible.left, visible.top});
+    return MoveWindow(window, position.x, position.y, position.width, position.height, TRUE) != 0;
 }
 
 bool IsListView(HWND window) {
@@ -74,17 +251,35 @@ bool RaiseWindow(HWND window) {
     return SetForegroundWindow(window) != 0;
 }
 
+static int Activations;
+
+int ActivationCount() {
+    return Activations;
+}
+
 // SetFocus and SetActiveWindow act on our own windows, the other two on any.
-bool ActivateWindow(HWND window) {
-    if (!IsAlive(window))
-        return false;
+static bool FocusAndRaise(HWND window) {
+    ++Activations;
     SetFocus(window);
     return RaiseWindow(window);
+}
+
+bool ActivateWindow(HWND window) {
+    return IsAlive(window) && FocusAndRaise(window);
+}
+
+// SetForegroundWindow does not wait for the window, unlike the others.
+bool ReturnForeground(HWND window) {
+    if (IsAlive(window))
+        return FocusAndRaise(window);
+    ++Activations;
+    return SetForegroundWindow(window) != 0;
 }
 
 void FocusOtherWindow(HWND window) {
     if (!IsAlive(window))
         return;
+    ++Activations;
     SetForegroundWindow(window);
     SetFocus(window);
     SetActiveWindow(window);
@@ -101,7 +296,8 @@ void ToggleTopmost(HWND window) {
 }
 
 void TileOtherWindows(UINT how, const RECT& rect, const HWND* windows, UINT count) {
-    TileWindows(nullptr, how, &rect, count, windows);
+    const RECT area = ToWindows(rect);
+    TileWindows(nullptr, how, &area, count, windows);
 }
 
 bool BroadcastScreenSaver() {

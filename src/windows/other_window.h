@@ -1,6 +1,6 @@
 // Windows of other programs. Every message to one, and every call that moves, shows or activates one, is
 // here. Messages have a timeout, and other calls follow a message that the window responded to, so that a
-// hung program cannot block Quorl. Positions are in screen pixels.
+// hung program cannot block Quorl. Positions are in screen pixels. Nothing moves while the displays change.
 #pragma once
 
 #include "core/platform.h"
@@ -8,33 +8,64 @@
 constexpr UINT SCROLL_TIMEOUT = 100; // milliseconds that a window may take to respond while scrolling
 constexpr UINT FOLD_TIMEOUT = 1000;  // milliseconds, when windows are brought back onto the screen
 
-// A window's corner and size. Sent with WM_MOVING in place of a RECT, which has the same size: right and
-// bottom hold width and height.
-struct WindowPosition {
-    LONG x, y, width, height;
+// Where a window is. Since Windows 10 a sizable window has an invisible frame, and a maximized one extends
+// past its work area, so the rectangle that Windows reports is not the one that the user sees.
+struct WindowFrame {
+    RECT visible;    // what the user sees
+    RECT margins;    // pixels by which the rectangle of Windows extends past `visible`, per side; all 0 if
+                     // unknown
+    bool bMinimized; // it is where Windows puts minimized windows
+    bool bSetSize;   // it has another size than `visible`, which a move gives it
 };
 
-// The window's current rectangle. False if it is gone.
-bool GetOtherWindowRect(HWND window, RECT* rect);
+// False if the window is gone.
+bool ReadWindowFrame(HWND window, WindowFrame* frame);
+
+// The same, without the frame.
+bool GetVisibleRect(HWND window, RECT* rect);
 
 // Whether the window processes messages: it responded to WM_NULL within SCROLL_TIMEOUT. Ask before a call
 // that would wait for a hung program.
 bool IsAlive(HWND window);
 
-enum MoveResult { MOVED, MOVE_TIMED_OUT, MOVE_REFUSED };
+enum MoveResult {
+    MOVED,
+    NOT_MOVED,      // it is gone, or of a program with higher rights, whose windows stay where they are
+    MOVE_TIMED_OUT, // it did not respond in time
+    MOVE_REFUSED,
+};
 
-// The ping: sends WM_MOVING with the position, which the window may change, and moves the window there. A
-// window that does not respond within `timeout` milliseconds stays where it is.
-MoveResult PingAndMove(HWND window, WindowPosition position, UINT timeout);
+// The ping: sends WM_MOVING with the position, which the window may change, and moves its visible corner
+// there. A window that does not respond within `timeout` milliseconds stays where it is.
+MoveResult PingAndMove(HWND window, const WindowFrame& frame, POINT corner, UINT timeout);
 
-// The same within SCROLL_TIMEOUT, and shows the window that has moved.
-void PingMoveAndShow(HWND window, const WindowPosition& position);
+// The same within SCROLL_TIMEOUT, and shows the window that has moved, without activating it.
+void PingMoveAndShow(HWND window, const WindowFrame& frame, POINT corner);
 
 // Moves the window without a ping, if it is alive.
-void MoveIfAlive(HWND window, const WindowPosition& position);
+void MoveIfAlive(HWND window, const WindowFrame& frame, POINT corner);
 
-// Restores a maximized window, hidden meanwhile. False if it does not respond.
-bool RestoreIfZoomed(HWND window);
+// Moves the window without waiting for it: a hung program obeys when it responds again.
+void PostMove(HWND window, const WindowFrame& frame, POINT corner);
+
+// The size that Windows reports, with the invisible frame. False if the window is gone.
+bool GetOtherWindowSize(HWND window, SIZE* size);
+
+// Sets that size if the window is alive; its corner stays.
+void ResizeIfAlive(HWND window, SIZE size);
+
+// The rectangle that a minimized or maximized window has when it is restored. False if the window is gone.
+bool ReadNormalRect(HWND window, RECT* rect);
+
+// Changes that rectangle without activating the window or restoring it. Nothing happens if it is not alive.
+void SetNormalRect(HWND window, const RECT& rect);
+
+// Moves one of Quorl's own windows, and sizes it. False if Windows refuses.
+bool MoveOwnWindow(HWND window, const WindowFrame& frame, const RECT& visible);
+
+// Restores a maximized window, hidden meanwhile; a move then gives it its maximized size. False if it does
+// not respond.
+bool RestoreIfZoomed(HWND window, WindowFrame* frame);
 
 // Scrolls the contents of a list view by (dx, dy) pixels. False if it does not respond.
 bool ScrollListView(HWND window, int dx, int dy);
@@ -45,6 +76,14 @@ bool IsListView(HWND window);
 // Gives the window the focus and the foreground and raises it. False if it does not respond, or if Windows
 // denies the foreground.
 bool ActivateWindow(HWND window);
+
+// The same, but a window that does not respond gets the foreground too: it is the one that the user works
+// with. False if Windows denies it.
+bool ReturnForeground(HWND window);
+
+// How often a window of another program has been activated from here. GetForegroundWindow returns it only
+// once its program has processed that.
+int ActivationCount();
 
 // Makes the window the foreground window and gives it the focus, which also raises it. Does nothing if it
 // does not respond.

@@ -3,20 +3,24 @@
 #include "actions/action_table.h"
 #include "core/rect.h"
 #include "core/state.h"
-#include "status/status_strip.h"
-#include "windows/other_window.h"
 
 #include <cstring>
 
 WindowRow WindowTable[MAX_WINDOWS];
 int num_windows;
+POINT WindowTableView;
 
 constexpr DWORD DWMWA_CLOAKED = 14; // declared in a header of its own, which the in-memory desktop lacks
 
-// The shell's windows and the status strip stay on the screen. Since Windows 7 WorkerW can host the
-// wallpaper, and each further display has a taskbar.
-static const char* const FixedClasses[] = {"Progman", "Shell_TrayWnd", TIP_CLASS, "WorkerW",
-                                           "Shell_SecondaryTrayWnd"};
+// The shell's windows stay on the screen. Since Windows 7 WorkerW can host the wallpaper, and each further
+// display has a taskbar.
+static const char* const ShellClasses[] = {"Progman", "Shell_TrayWnd", "WorkerW", "Shell_SecondaryTrayWnd"};
+
+// Start, the task switcher and the overflow of the notification area: they are in the foreground while they
+// are open, and a command then means no window.
+static const char* const ShellPopupClasses[] = {"Windows.UI.Core.CoreWindow", "XamlExplorerHostIslandWindow",
+                                                "MultitaskingViewFrame", "NotifyIconOverflowWindow",
+                                                "TopLevelWindowForOverflowXamlIsland"};
 
 // Tool bars that programs keep as top-level windows.
 static const char* const ToolbarClasses[] = {"BaseBar", "ToolbarWindow32", "ReBarWindow32"};
@@ -34,6 +38,7 @@ static BOOL CALLBACK AddWindowRow(HWND window, LPARAM) {
 void RebuildWindowTable() {
     const int before = num_windows;
     num_windows = 0;
+    WindowTableView = {VDesk.left, VDesk.top};
     if (!EnumWindows(AddWindowRow, 0) && num_windows == 0)
         num_windows = before; // old rows are better than none
 }
@@ -57,7 +62,7 @@ static bool IsOneOf(const char* name, const char* const (&names)[Count]) {
 
 static bool HasFixedClass(HWND window) {
     char name[128] = "";
-    if (!GetClassNameA(window, name, 127) || IsOneOf(name, FixedClasses))
+    if (!GetClassNameA(window, name, 127) || IsOneOf(name, ShellClasses) || !std::strcmp(name, TIP_CLASS))
         return true; // every class has a name: this window has just gone
     return IsOn(ACTION_IGNORE_TOOLWINS) && IsOneOf(name, ToolbarClasses);
 }
@@ -77,15 +82,38 @@ static bool IsManagedRect(const RECT& rect) {
            rect.top <= Quorl.bottom;
 }
 
+static bool HasBoth(LONG_PTR style, LONG_PTR first, LONG_PTR second) {
+    return (style & first) && (style & second);
+}
+
+// Overlays, as of games and recorders, cover the whole screen: they would cover the map, and dragging on it
+// would hit them. A tool window that belongs to a program has an owner.
+static bool IsOverlay(HWND window) {
+    const LONG_PTR style = GetWindowLongPtrA(window, GWL_EXSTYLE);
+    const bool bCovers = HasBoth(style, WS_EX_NOACTIVATE, WS_EX_TOOLWINDOW) ||
+                         HasBoth(style, WS_EX_LAYERED, WS_EX_TRANSPARENT);
+    return bCovers && !GetWindowLongPtrA(window, GWLP_HWNDPARENT);
+}
+
+bool IsUserWindow(HWND window) {
+    return window && IsWindowVisible(window) && window != GetDesktopWindow() && window != MainWnd &&
+           !HasFixedClass(window) && !IsOverlay(window);
+}
+
 // The cheap tests come first; most windows of a system are invisible.
-bool IsManagedWindow(HWND window, RECT* rect) {
-    if (!window || !IsWindowEnabled(window) || !IsWindowVisible(window) || window == GetDesktopWindow() ||
-        IsIconic(window) || HasFixedClass(window) || window == MainWnd || IsCloaked(window))
+bool IsManagedWindow(HWND window, WindowFrame* frame) {
+    if (!window || !IsWindowEnabled(window) || !IsUserWindow(window) || IsIconic(window) || IsCloaked(window))
         return false;
-    RECT now{};
-    if (!GetOtherWindowRect(window, &now) || !IsManagedRect(now))
+    WindowFrame now{};
+    if (!ReadWindowFrame(window, &now) || !IsManagedRect(now.visible))
         return false;
-    if (rect)
-        *rect = now;
+    if (frame)
+        *frame = now;
     return true;
+}
+
+bool IsShellWindow(HWND window) {
+    char name[128] = "";
+    GetClassNameA(window, name, 127);
+    return IsOneOf(name, ShellClasses) || IsOneOf(name, ShellPopupClasses);
 }

@@ -1,19 +1,23 @@
 // The snapshot of all top-level windows, and which of them Quorl may move.
 #pragma once
 
-#include "core/platform.h"
+#include "windows/other_window.h"
 
 constexpr int MAX_WINDOWS = 32000;
 
-// A top-level window and its rectangle when the table was built.
+// A top-level window and its rectangle when the table was built, as GetWindowRect returns it: it is compared
+// with what that returns later.
 struct WindowRow {
     HWND hwnd;
-    RECT rect; // screen pixels
+    RECT rect; // in the coordinates of Windows
 };
 
 // Every top-level window, managed or not, in the order of EnumWindows: the topmost first.
 extern WindowRow WindowTable[MAX_WINDOWS];
 extern int num_windows;
+
+// The corner of the view when the table was built, in desktop pixels.
+extern POINT WindowTableView;
 
 // Empties the table and enumerates again. If the enumeration fails at once, the old rows stay.
 void RebuildWindowTable();
@@ -22,5 +26,13 @@ void RebuildWindowTable();
 bool HasAnyWindowMoved();
 
 // Whether Quorl may move and show this window. Asks Windows each time; false for the null handle and a window
-// that is gone. `rect` receives the rectangle of a managed window, in screen pixels.
-bool IsManagedWindow(HWND window, RECT* rect = nullptr);
+// that is gone. `frame` receives where a managed window is.
+bool IsManagedWindow(HWND window, WindowFrame* frame = nullptr);
+
+// Whether this is a window that the user works with, even if scrolling leaves it alone because it is
+// disabled, minimized, cloaked or beyond the desktop: visible, and not of the shell, an overlay, the map or
+// the strip.
+bool IsUserWindow(HWND window);
+
+// Whether it is the desktop, a taskbar or another part of the shell, which commands must not move.
+bool IsShellWindow(HWND window);

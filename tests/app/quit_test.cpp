@@ -43,17 +43,19 @@ TEST_F(QuitAtStart, EndsTheMessageLoopAtOnceAndSavesNothing) {
     EXPECT_TRUE(Hook.set.empty());
 }
 
-TEST_F(Quit, AtTheEndOfTheSessionSavesAndFoldsAsNeeded) {
-    const auto saves = [](int bWanted, WPARAM bEnds, LPARAM flags) {
-        Desk.files.clear();
-        ActionTable[ACTION_SAVE_AT_EXIT].value = bWanted;
-        SendMessageA(MainWnd, WM_ENDSESSION, bEnds, flags);
-        return !Desk.files.empty();
-    };
-    EXPECT_FALSE(saves(1, 0, 0)) << "the end was cancelled";
-    EXPECT_FALSE(saves(0, 1, 0));
-    EXPECT_TRUE(saves(1, 1, 0));
-    EXPECT_EQ(RectOf(far).left, 1100);
-    EXPECT_FALSE(saves(0, 1, ENDSESSION_CLOSEAPP));
-    EXPECT_EQ(RectOf(far).left, 76);
+TEST_F(Quit, AtLogoffFoldsEverythingWithinSecondsAndAsksNothing) {
+    std::vector<HWND> hung(40);
+    for (HWND& window : hung)
+        WindowOf(window = OpenWindow("hung", {1100, 200, 1300, 300})).response = DeskResponse::TimesOut;
+    SendMessageA(MainWnd, WM_ENDSESSION, 0, 0); // cancelled
+    EXPECT_FALSE(bQuitting);
+    const DWORD before = Desk.now;
+    LogOff();
+    EXPECT_EQ(Desk.now - before, 3000U);
+    EXPECT_EQ(Desk.rememberedRects[far].left, 76) << "its program ended after Quorl";
+    EXPECT_TRUE(Desk.tray.empty() && Desk.hotkeys.empty() && Desk.quitPosted && !Desk.files.empty());
+    for (const HWND window : hung) {
+        WakeWindow(window);
+        EXPECT_EQ(RectOf(window).left, 76) << "the move was posted";
+    }
 }

@@ -27,6 +27,6 @@ TEST_F(ProgramCommands, LockTheStationAndStartTheScreenSaver) {
 
 TEST_F(ProgramCommands, ReportAnActionWithoutAHandler) {
     AnswerBoxes({IDOK});
-    EXPECT_EQ(DoAction(MainWnd, ACTION_FLASH_VIEW), 0);
+    EXPECT_EQ(DoAction(MainWnd, ACTION_FLASH_VIEW, nullptr), 0);
     EXPECT_EQ(LastBox(), "Actually, I don't handle that one yet./Sorry.");
 }

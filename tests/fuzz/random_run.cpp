@@ -270,7 +270,7 @@ void TestRun(std::string_view input) {
     Desk.fault = {};
     // A display change takes effect at the next mouse move.
     PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0);
-    HandleMessages();
+    Wait(2000);
     ExpectScrollingToBeClamped();
     ExpectSavedToLoad();
     ExpectWindowsAndResourcesBack();

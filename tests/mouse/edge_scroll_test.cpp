@@ -8,7 +8,7 @@ TEST(EdgeStep, MovesTheViewAndTheCursorByTheScrollType) {
     ResetOptions();
     const auto step = [](POINT cursor, int type) {
         Options.mousescroll_type = type;
-        const EdgeStep edge = EdgeStepAt(cursor, Options, {2048, 800, 3072, 1568}, 1024, 768);
+        const EdgeStep edge = EdgeStepAt(cursor, Options, {2048, 800, 3072, 1568}, {0, 0, 1024, 768});
         return std::vector<LONG>{edge.dir, edge.view.x, edge.view.y, edge.landing.x, edge.landing.y};
     };
     using Step = std::vector<LONG>;
@@ -25,7 +25,7 @@ TEST(EdgeStep, TheDelayedTestToleratesOnePixelMore) {
     const auto edgesAt = [](POINT cursor) {
         int edges = 0;
         for (const int dir : {DIR_UP, DIR_DOWN, DIR_LEFT, DIR_RIGHT})
-            edges |= IsStillAtEdge(cursor, dir, 5, 1024, 768) ? dir : 0;
+            edges |= IsStillAtEdge(cursor, dir, 5, {0, 0, 1024, 768}) ? dir : 0;
         return edges;
     };
     EXPECT_EQ(edgesAt({1019, 763}), DIR_RIGHT | DIR_DOWN);

@@ -102,6 +102,7 @@ TEST_F(HookMouse, MovesAndReleasesDetectAChangeOfDisplay) {
         const int before = ScreenW();
         Desk.displays = {Rect(0, 0, before - 100, 600)};
         SendHookMessage(message, MIDDLE);
+        Wait(1500);
         EXPECT_EQ(ScreenW(), before - 100) << message;
     }
 }

@@ -6,15 +6,14 @@
 
 TEST(NeedToFollow, IsToScrollToAWindowOutOfView) {
     const auto need = [](const RECT& rect) { return NeedToFollow(rect, 1024, 768, {0, 0, 4096, 1536}); };
-    EXPECT_EQ(need({-4, -4, 501, 400}), FOLLOW_IN_VIEW) << "within the tolerance";
-    EXPECT_EQ(need({-5, 0, 500, 400}), FOLLOW_SCROLL);
-    EXPECT_EQ(need({0, -5, 500, 400}), FOLLOW_SCROLL);
-    EXPECT_EQ(need({928, 672, 1128, 872}), FOLLOW_IN_VIEW) << "its middle is at the edge";
-    EXPECT_EQ(need({929, 0, 1129, 400}), FOLLOW_SCROLL);
-    EXPECT_EQ(need({0, 673, 400, 873}), FOLLOW_SCROLL);
-    EXPECT_EQ(need({4000, 1500, 4192, 1572}), FOLLOW_SCROLL) << "at the desktop's edge";
-    EXPECT_EQ(need({100, 1500, 400, 1574}), FOLLOW_IN_VIEW) << "off the desktop: out of reach";
-    EXPECT_EQ(need({-32000, 0, -31840, 28}), FOLLOW_NOTHING) << "minimized";
+    EXPECT_EQ(need({-4, -4, 501, 400}), false) << "within the tolerance";
+    EXPECT_EQ(need({-5, 0, 500, 400}), true);
+    EXPECT_EQ(need({0, -5, 500, 400}), true);
+    EXPECT_EQ(need({928, 672, 1128, 872}), false) << "its middle is at the edge";
+    EXPECT_EQ(need({929, 0, 1129, 400}), true);
+    EXPECT_EQ(need({0, 673, 400, 873}), true);
+    EXPECT_EQ(need({4000, 1500, 4192, 1572}), true) << "at the desktop's edge";
+    EXPECT_EQ(need({100, 1500, 400, 1574}), false) << "off the desktop: out of reach";
 }
 
 class Follow : public RunningQuorl {

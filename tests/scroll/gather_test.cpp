@@ -17,7 +17,7 @@ TEST_F(Fold, BringsBackEveryManagedWindow) {
     WindowOf(left).moveOverride = {7, 8, 400, 300};
     const HWND late = OpenWindow("opened since the last refresh", {2043, -768, 2100, 50});
     SetWindowPos(late, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE); // the first to be folded
-    GatherWindows();
+    GatherWindows(FOLD_AT_EXIT);
     EXPECT_EQ(RectOf(far), Rect(4, 132, 104, 232)) << "off the last pixels, though locked";
     EXPECT_EQ(WindowOf(left).received.at(0).record, Rect(924, 668, 400, 300)) << "corner and size";
     EXPECT_EQ(RectOf(left), Rect(7, 8, 407, 308)) << "the window changed the position";
@@ -29,17 +29,17 @@ TEST_F(Fold, WaitsASecondForEachWindowWithoutAReport) {
     WindowOf(far).response = WindowOf(left).response = DeskResponse::TimesOut;
     WindowOf(left).error = 0; // as on the oldest systems
     const DWORD before = Desk.now;
-    GatherWindows();
+    GatherWindows(FOLD_AT_EXIT);
     EXPECT_EQ(Desk.now - before, 2000U);
     EXPECT_EQ(RectOf(far).left, 2044);
 }
 
 TEST_F(Fold, ReportsARefusalAndGoesOn) {
     WindowOf(left).response = DeskResponse::Fails;
-    WindowOf(left).error = ERROR_ACCESS_DENIED;
+    WindowOf(left).error = 87;
     AnswerBoxes({IDOK});
     Desk.duringBox = [] { OpenAndList("box", {10, 10, 20, 20}); }; // moves all rows of the table
-    GatherWindows();
+    GatherWindows(FOLD_AT_EXIT);
     EXPECT_EQ(LastBox(), "Not a timeout! A window won't restore!/ok");
     EXPECT_EQ(RectOf(far).left, 4);
 }

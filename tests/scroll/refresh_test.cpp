@@ -14,7 +14,7 @@ TEST_F(Refresh, OnlyComparesRectsForElevenQuietTicks) {
     OpenWindow("opened", {10, 10, 50, 50}); // changes no row
     Desk.trace.clear();
     for (std::size_t tick = 0; tick < 12; ++tick) {
-        EXPECT_EQ(Desk.trace.size(), 3 * tick);
+        EXPECT_EQ(Desk.trace.size(), 4 * tick);
         RefreshTimer(MainWnd, WM_TIMER, REFRESH_TIMER, Desk.now);
     }
     EXPECT_EQ(CountCalls("EnumWindows"), 1);

@@ -12,13 +12,12 @@ class Shift : public RunningQuorl {
 
 TEST_F(Shift, ClampsToTheDesktop) {
     const auto shifted = [](const RECT& window, int dx, int dy) {
-        const auto to = ShiftedPosition(window, dx, dy, {1000, 500, 2024, 1268}, {0, 0, 4096, 1536}, 5);
-        return Rect(to.x, to.y, to.width, to.height);
+        return ShiftedCorner(window, dx, dy, {1000, 500, 2024, 1268}, {0, 0, 4096, 1536}, 5);
     };
-    EXPECT_EQ(shifted({4000, 1500, 4400, 1700}, 96, 36), Rect(4096, 1536, 400, 200));
-    EXPECT_EQ(shifted({4000, 1500, 4400, 1700}, 97, 37), Rect(3691, 1331, 400, 200)) << "past the far edges";
-    EXPECT_EQ(shifted({-900, -450, -500, -150}, -200, -100), Rect(-1000, -500, 400, 300));
-    EXPECT_EQ(shifted({4000, 1500, 9000, 4000}, 200, 200), Rect(-909, -500, 5000, 2500)) << "too large";
+    EXPECT_EQ(shifted({4000, 1500, 4400, 1700}, 96, 36), (POINT{4096, 1536}));
+    EXPECT_EQ(shifted({4000, 1500, 4400, 1700}, 97, 37), (POINT{3691, 1331})) << "past the far edges";
+    EXPECT_EQ(shifted({-900, -450, -500, -150}, -200, -100), (POINT{-1000, -500}));
+    EXPECT_EQ(shifted({4000, 1500, 9000, 4000}, 200, 200), (POINT{-909, -500})) << "too large";
 }
 
 TEST_F(Shift, PingsMovesAndShowsWindowsAndScrollsListViews) {
@@ -27,7 +26,7 @@ TEST_F(Shift, PingsMovesAndShowsWindowsAndScrollsListViews) {
     ShiftWindows(30, -7);
     EXPECT_EQ(RectOf(editor), Rect(130, 93, 530, 393));
     EXPECT_EQ(WindowOf(editor).received.at(0).record, Rect(130, 93, 400, 300)) << "corner and size";
-    EXPECT_TRUE(CalledInOrder({"SendMessageTimeoutA", "MoveWindow", "ShowWindow"}));
+    EXPECT_TRUE(CalledInOrder({"SendMessageTimeoutA", "SetWindowPos", "ShowWindow"}));
     EXPECT_TRUE(WindowOf(other).received.empty()) << "locked";
     const DeskMessage& got = WindowOf(list).received.at(0);
     EXPECT_TRUE(got.message == LVM_SCROLL && got.wParam == 30 && got.lParam == -7);

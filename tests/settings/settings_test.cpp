@@ -5,6 +5,7 @@
 #include "app/create.h"
 #include "menus/menu_list.h"
 #include "regions/region_table.h"
+#include "scroll/desktop_size.h"
 #include "settings/settings_test.h"
 
 class Settings : public RunningQuorl {};
@@ -12,7 +13,7 @@ class Settings : public RunningQuorl {};
 // Changes every setting from its default, each number to a different one.
 static void ChangeAll() {
     Options = {6, 101, 7, 801, 102, 254, 2, 3, Options.hook_present};
-    Quorl = {1, 4, 5000, 1600};
+    SetDesktop({1, 4, 5000, 1600});
     MoveWindow(MainWnd, 40, 50, 300, 200, TRUE);
     SwapMenuEntries(0, 1);
     InsertMenuEntry(-1, -2);

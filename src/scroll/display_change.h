@@ -1,0 +1,15 @@
+// Displays that come, go, or change: Quorl waits until Windows has settled, then shows the same part of the
+// desktop as before.
+#pragma once
+
+#include "core/platform.h"
+
+// Measures the displays at start.
+void UseCurrentDisplays();
+
+// Measures the displays, and waits for them to settle if others are found than the last time.
+void MeasureScreen();
+
+// Windows has announced a change: waits for the displays to settle, again from the start if it waits already.
+// Until then nothing moves, and all coordinates stay as they are.
+void OnDisplayChange();

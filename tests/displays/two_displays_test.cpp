@@ -1,0 +1,151 @@
+// A second display left of the primary one and above it.
+#include "displays/display_test.h"
+
+#include "hook/hook_message.h"
+#include "scroll/desktop_size.h"
+#include "status/status_strip.h"
+#include "support/map_mouse.h"
+
+static POINT AfterMouseAt(int x, int y) {
+    Desk.cursor = {x, y};
+    PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0);
+    HandleMessages();
+    return ViewCorner();
+}
+
+TEST_F(TwoDisplays, WindowsScrollThereAndBack) {
+    const std::vector<HWND> windows{OpenWindow("a", {-2500, -290, -2000, 300}),
+                                    OpenWindow("b", {-30, 0, 600, 400}),
+                                    OpenWindow("c", {1500, 800, 1900, 1000})};
+    const auto rects = [&] {
+        return std::vector{RectOf(windows[0]), RectOf(windows[1]), RectOf(windows[2])};
+    };
+    const auto before = rects();
+    Wait(2000);
+    for (const ActionId id : {ACTION_VIEW_RIGHT_MIN, ACTION_SCREEN_RIGHT, ACTION_SCREEN_DOWN}) {
+        RunAction(id);
+        EXPECT_EQ(RectOf(windows[2]), Moved(before[2], -VDesk.left, -VDesk.top)) << id;
+    }
+    EXPECT_EQ(ViewCorner(), (POINT{4480, 1440}));
+    Exit();
+    EXPECT_EQ(rects(), before);
+}
+
+TEST_F(TwoDisplays, OnlyTheOuterEdgesScroll) {
+    ActionTable[ACTION_FOLLOW_MOUSE].value = 1;
+    ActionTable[ACTION_SHIFT_SUPPRESS].value = 0;
+    Options.mousescroll_type = EDGE_BY_MAX;
+    AfterMouseAt(500, 500); // the first one never scrolls
+    EXPECT_EQ(AfterMouseAt(1, 500), (POINT{0, 0})) << "the seam";
+    EXPECT_EQ(AfterMouseAt(-2, 500), (POINT{0, 0}));
+    EXPECT_EQ(AfterMouseAt(1918, 500), (POINT{100, 0}));
+    EXPECT_EQ(Desk.cursor, (POINT{1920 - 100 + 15, 500}));
+    EXPECT_EQ(AfterMouseAt(500, 1078), (POINT{100, 100})) << "the taller display does not continue here";
+    EXPECT_EQ(AfterMouseAt(500, 2), (POINT{100, 0}));
+    EXPECT_EQ(AfterMouseAt(-2558, 500), (POINT{0, 0}));
+    EXPECT_EQ(Desk.cursor, (POINT{-2560 + 100 - 15, 500}));
+}
+
+TEST_F(TwoDisplays, TheMapLivesOnTheLeftOneAcrossARestart) {
+    MoveWindow(MainWnd, -1000, -300, 200, 100, TRUE);
+    RunAction(ACTION_TOOLWIN_LEFT_MIN);
+    const RECT map = RectOf(MainWnd);
+    EXPECT_EQ(VisibleRect(MainWnd), Rect(-998, -300, -812, -207));
+    EXPECT_EQ(RectOf(TipWnd).top, -207) << "above would be on no display";
+    RunAction(ACTION_SAVE_SETTINGS);
+    MoveWindow(MainWnd, 500, 500, 200, 100, TRUE);
+    RunAction(ACTION_LOAD_SETTINGS);
+    EXPECT_EQ(RectOf(MainWnd), map);
+    MoveWindow(MainWnd, 500, 1055, 200, 100, TRUE); // behind the taskbar
+    RunAction(ACTION_SAVE_SETTINGS);
+    RunAction(ACTION_LOAD_SETTINGS);
+    EXPECT_EQ(RectOf(MainWnd), Rect(500, 940, 700, 1040));
+}
+
+// The left display is taller: in the corner below the primary one nothing is shown.
+TEST_F(TwoDisplays, AFoldedWindowHasItsTitleInAWorkArea) {
+    const HWND corner = OpenWindow("corner", {500 + 4480, 1100, 900 + 4480, 1130});
+    const HWND taskbar = OpenWindow("taskbar", {-100, 1040 + 1440, 300, 1440 + 1070});
+    Exit();
+    EXPECT_EQ(VisibleRect(corner), Rect(507, 1017, 893, 1040));
+    EXPECT_EQ(RectOf(taskbar), Rect(-100, 1040, 300, 1070)) << "on the left display";
+}
+
+TEST_F(TwoDisplays, TilingUsesTheDisplayOfTheActiveWindow) {
+    const HWND left = OpenWindow("left", {-2000, 100, -1500, 500});
+    const HWND right = OpenAndList("right", {100, 100, 500, 500});
+    RunAction(ACTION_TILE_VERTICALLY);
+    EXPECT_EQ(Desk.tilings.back().rect, Primary.work);
+    EXPECT_EQ(Desk.tilings.back().windows, std::vector<HWND>{right});
+    Desk.foreground = left;
+    RunAction(ACTION_TILE_VERTICALLY);
+    EXPECT_EQ(Desk.tilings.back().rect, Left.work);
+    KillWindow(left);
+    KillWindow(right);
+    RunAction(ACTION_TILE_VERTICALLY);
+    EXPECT_EQ(Desk.tilings.size(), 2u) << "an empty list means all windows of the system";
+}
+
+class DisplayChange : public TwoDisplays {
+  protected:
+    HWND onLeft = OpenWindow("on the left display", {-2000, 100, -1500, 500});
+    HWND onRight = OpenWindow("on the right display", {100, 100, 500, 500});
+    HWND far = OpenWindow("beyond the view", {3000, 200, 3300, 500});
+
+    POINT DesktopCorner(HWND window) {
+        const RECT rect = RectOf(window);
+        return {rect.left - DesktopBoundsLeft() + VDesk.left, rect.top - DesktopBoundsTop() + VDesk.top};
+    }
+    static LONG DesktopBoundsLeft() { return GetSystemMetrics(SM_XVIRTUALSCREEN); }
+    static LONG DesktopBoundsTop() { return GetSystemMetrics(SM_YVIRTUALSCREEN); }
+};
+
+TEST_F(DisplayChange, TheViewShowsTheSamePartOfTheDesktop) {
+    Wait(2000);
+    RunAction(ACTION_SCREEN_RIGHT);
+    Wait(200);
+    RunAction(ACTION_SCREEN_RIGHT); // the table is from before this
+    const POINT before[] = {DesktopCorner(onRight), DesktopCorner(far)};
+    ChangeDisplays({Primary});
+    RunAction(ACTION_SCREEN_LEFT);
+    EXPECT_EQ(VDesk.left, 8960) << "scrolls are dropped until the displays have settled";
+    Wait(200);
+    SendMessageA(MainWnd, WM_SETTINGCHANGE, SPI_SETWORKAREA, 0);
+    Wait(1400);
+    EXPECT_EQ(VDesk.left, 8960) << "waits again from the start";
+    Wait(200);
+    EXPECT_EQ(VDesk, Rect(11520, 300, 13440, 1380)) << "what the primary display showed";
+    ChangeDisplays({Primary, Left});
+    Wait(1500);
+    EXPECT_EQ(VDesk, Rect(8960, 0, 13440, 1440));
+    EXPECT_EQ(DesktopCorner(onRight), before[0]);
+    EXPECT_EQ(DesktopCorner(far), before[1]);
+    RunAction(ACTION_VIEW_TO_LEFT);
+    EXPECT_EQ(RectOf(onRight), Rect(100, 100, 500, 500));
+}
+
+TEST_F(DisplayChange, TheMapComesBackAndTheChosenSizeIsSaved) {
+    MoveWindow(MainWnd, -1000, 100, 200, 100, TRUE);
+    SetDesktopSize(5000, 1500);
+    Desk.displays = {Rect(0, 0, 1000, 700)};
+    WindowOf(MainWnd).rect = {2500, 100, 2700, 200};            // Windows did not move it
+    PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0); // the only sign of the change
+    Wait(1500);
+    EXPECT_EQ(VisibleRect(MainWnd), Rect(814, 100, 1000, 193));
+    Desk.displays = {Rect(0, 0, 6000, 1600)};
+    PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0);
+    Wait(1500);
+    EXPECT_EQ(Quorl, Rect(0, 0, 6000, 1600));
+    RunAction(ACTION_SAVE_SETTINGS);
+    EXPECT_NE(Desk.files["quorl.ini"].find("Quorl.right=5000\r\nQuorl.bottom=1500"), std::string::npos);
+}
+
+// Nobody moved these windows by hand, so they end where they started.
+TEST_F(DisplayChange, ExitDoesNotWaitForItToSettle) {
+    Wait(2000);
+    RunAction(ACTION_SCREEN_RIGHT);
+    ChangeDisplays({Primary});
+    Exit();
+    for (const HWND window : {onLeft, onRight, far})
+        EXPECT_TRUE(RectOf(window).left >= -7 && RectOf(window).left < 1920) << WindowOf(window).title;
+}

@@ -1,0 +1,92 @@
+// At exit no window stays out of reach, whatever state it is in.
+#include "displays/display_test.h"
+
+class Reach : public ModernDesktop {
+  protected:
+    HWND window = OpenWindow("window", {2000, 1200, 2400, 1500}); // in reach of a folded screen only
+    DeskWindow& record = WindowOf(window);
+};
+
+TEST_F(Reach, DisabledCloakedAndFarWindowsComeBack) {
+    const HWND cloaked = OpenWindow("cloaked", {4000, 100, 4400, 400});
+    const HWND far = OpenWindow("beyond the desktop", {9000, 100, 9400, 400});
+    const HWND untouched = OpenWindow("disabled", {-300, 100, 100, 400});
+    WindowOf(cloaked).cloaked = true;
+    WindowOf(untouched).style |= WS_DISABLED;
+    record.style |= WS_DISABLED;
+    Exit();
+    EXPECT_EQ(RectOf(window), Rect(80, 120, 480, 420));
+    EXPECT_EQ(RectOf(cloaked).left, 160);
+    EXPECT_EQ(RectOf(far).left, 1320);
+    EXPECT_EQ(RectOf(untouched), Rect(-300, 100, 100, 400)) << "its title can be reached";
+}
+
+TEST_F(Reach, WhatTheUserDoesNotWorkWithStays) {
+    const HWND hidden = OpenWindow("hidden", {3000, 0, 3100, 90});
+    const HWND taskbar = OpenWindow("", {3000, 0, 3100, 90}, "Shell_SecondaryTrayWnd");
+    const HWND overlay = OpenWindow("overlay", {3000, 0, 3100, 90});
+    const HWND elevated = OpenWindow("elevated", {3000, 0, 3100, 90});
+    ShowWindow(hidden, SW_HIDE);
+    WindowOf(overlay).exStyle = WS_EX_LAYERED | WS_EX_TRANSPARENT;
+    WindowOf(elevated).elevated = true;
+    Exit();
+    for (const HWND kept : {hidden, taskbar, overlay, elevated})
+        EXPECT_EQ(RectOf(kept).left, 3000) << WindowOf(kept).title;
+    EXPECT_EQ(Desk.boxes.size(), 1u) << "only QUIT?";
+}
+
+TEST_F(Reach, AMinimizedWindowIsRestoredInReach) {
+    Desk.displays = {DeskDisplay(Rect(0, 0, 1920, 1080), Rect(0, 40, 1920, 1080))}; // a taskbar at the top
+    const HWND maximized = OpenWindow("maximized", {2000, 1200, 2400, 1500});
+    ShowWindow(window, SW_MAXIMIZE);
+    ShowWindow(window, SW_MINIMIZE);
+    ShowWindow(maximized, SW_MAXIMIZE);
+    const HWND active = OpenWindow("active", {0, 40, 300, 340});
+    Desk.foreground = active;
+    Exit();
+    EXPECT_TRUE(record.style & WS_MINIMIZE);
+    EXPECT_TRUE(record.restoresMaximized);
+    EXPECT_EQ(record.normalRect, Rect(80, 120, 480, 420));
+    EXPECT_TRUE(IsZoomed(maximized));
+    EXPECT_EQ(WindowOf(maximized).normalRect, Rect(80, 120, 480, 420));
+    EXPECT_EQ(Desk.foreground, active);
+}
+
+TEST_F(Reach, AHungWindowMovesWhenItRespondsAgain) {
+    const HWND minimized = OpenWindow("minimized", {2000, 1200, 2400, 1500});
+    ShowWindow(minimized, SW_MINIMIZE);
+    WindowOf(minimized).response = record.response = DeskResponse::Hung;
+    Exit();
+    EXPECT_EQ(Desk.blockedCalls, 0);
+    WakeWindow(window);
+    EXPECT_EQ(RectOf(window).left, 80);
+}
+
+TEST_F(Reach, TheEndOfTheSessionDuringAFoldReplacesIt) {
+    const HWND next = OpenWindow("next", {100, 100, 500, 400});
+    record.response = DeskResponse::Fails; // the session ends while the message box about it is open
+    record.error = 87;
+    AnswerBoxes({IDYES, IDOK});
+    Desk.duringBox = [] {
+        if (Desk.boxes.size() == 1)
+            SendMessageA(MainWnd, WM_ENDSESSION, 1, 0);
+    };
+    RunAction(ACTION_EXIT);
+    EXPECT_EQ(WindowOf(next).received.size(), 1u) << "the first fold must not go on after the second";
+}
+
+// Overlays would cover the map, and dragging on it would hit them.
+TEST_F(Reach, OverlaysDoNotMoveWithTheView) {
+    const auto moves = [this](DWORD exStyle, HWND owner) {
+        record.rect = {300, 300, 700, 600};
+        record.exStyle = exStyle;
+        record.owner = owner;
+        RunAction(ACTION_VIEW_RIGHT_MAX);
+        return RectOf(window).left != 300;
+    };
+    Wait(2000);
+    EXPECT_FALSE(moves(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, nullptr));
+    EXPECT_FALSE(moves(WS_EX_LAYERED | WS_EX_TRANSPARENT, nullptr));
+    EXPECT_TRUE(moves(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, OpenWindow("owner", {0, 0, 100, 100})));
+    EXPECT_TRUE(moves(WS_EX_NOACTIVATE | WS_EX_LAYERED, nullptr));
+}

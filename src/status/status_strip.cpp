@@ -110,6 +110,8 @@ static void TipPaint(HWND window) {
     PAINTSTRUCT paint{};
     const HDC context = BeginPaint(window, &paint);
     SetBkMode(context, TRANSPARENT);
+    // Dark contrast themes have a black COLOR_INFOBK, on which a context's default text colour is invisible.
+    SetTextColor(context, GetSysColor(COLOR_INFOTEXT));
     const HGDIOBJ before = SelectObject(context, TipState.font);
     area.left += TEXT_MARGIN;
     DrawTextExA(context, TipState.text, static_cast<int>(std::strlen(TipState.text)), &area,

@@ -6,11 +6,13 @@ class StatusStrip : public RunningQuorl {};
 
 TEST_F(StatusStrip, AppearsAboveOrBelowTheMapWithoutActivation) {
     const HWND before = Desk.foreground;
+    Desk.systemColors[COLOR_INFOTEXT] = 0xffff00;
     ShowTip("%s", std::string(300, 'c').c_str());
     EXPECT_EQ(LastStatus(), std::string(255, 'c'));
     EXPECT_EQ(Desk.foreground, before);
     EXPECT_EQ(RectOf(TipWnd), Rect(100, 84, 300, 100));
     EXPECT_TRUE(Desk.drawCalls.back().format & DT_NOPREFIX);
+    EXPECT_EQ(Desk.drawCalls.back().textColor, 0xffff00U) << "COLOR_INFOTEXT";
     WindowOf(MainWnd).rect = {100, 300, 400, 400};
     ShowTip("two");
     EXPECT_EQ(RectOf(TipWnd), Rect(100, 84, 300, 100)) << "only the left edge counts while it is visible";

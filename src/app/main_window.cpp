@@ -88,8 +88,8 @@ static LRESULT OnPaint(HWND window, UINT, WPARAM, LPARAM) {
     return 0;
 }
 
-static LRESULT OnEraseBackground(HWND window, UINT, WPARAM wParam, LPARAM) {
-    PaintBackground(window, reinterpret_cast<HDC>(wParam));
+// WM_PAINT draws the background too.
+static LRESULT OnEraseBackground(HWND, UINT, WPARAM, LPARAM) {
     return 1;
 }
 

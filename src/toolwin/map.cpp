@@ -77,13 +77,11 @@ static void DrawRegion(HDC context, const RegionRow& region, const RECT& map) {
     DeleteObject(brush);
 }
 
-void PaintBackground(HWND window, HDC context) {
-    RECT map{};
-    GetClientRect(window, &map);
-    SelectObject(context, reinterpret_cast<HBRUSH>(GetClassLongPtrA(window, GCLP_HBRBACKGROUND)));
-    Rectangle(context, map.left, map.top, map.right, map.bottom);
+static void DrawBackground(const MapPaint& paint) {
+    SelectObject(paint.context, reinterpret_cast<HBRUSH>(GetClassLongPtrA(paint.window, GCLP_HBRBACKGROUND)));
+    Rectangle(paint.context, paint.map.left, paint.map.top, paint.map.right, paint.map.bottom);
     for (int index = 0; index < num_regions; ++index)
-        DrawRegion(context, RegionTable[index], map);
+        DrawRegion(paint.context, RegionTable[index], paint.map);
 }
 
 static void CALLBACK FlashTimer(HWND window, UINT, UINT_PTR, DWORD) {
@@ -140,19 +138,40 @@ static void DeletePens(const MapPaint& paint) {
     DeleteObject(paint.flash);
 }
 
+static void DrawMap(MapPaint& paint, HDC context) {
+    paint.context = context;
+    DrawBackground(paint);
+    const HGDIOBJ before = SelectObject(context, paint.dotted);
+    for (int i = 0; i < num_windows; ++i)
+        DrawWindow(paint, WindowTable[i].hwnd);
+    DrawView(paint);
+    SelectObject(context, before);
+}
+
+// Erasing and drawing on the screen flickers, so draw into a bitmap and copy it at once. False if that fails.
+static bool DrawInMemory(MapPaint& paint, HDC screen) {
+    const HDC memory = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, paint.map.right, paint.map.bottom);
+    bool bDone = false;
+    if (SelectObject(memory, bitmap)) {
+        DrawMap(paint, memory);
+        bDone = BitBlt(screen, 0, 0, paint.map.right, paint.map.bottom, memory, 0, 0, SRCCOPY) != 0;
+    }
+    DeleteDC(memory); // first: a selected bitmap cannot be deleted
+    DeleteObject(bitmap);
+    return bDone;
+}
+
 void PaintMap(HWND window) {
     MapPaint paint{};
     paint.window = window;
     paint.active = GetForegroundWindow();
+    GetClientRect(window, &paint.map);
     CreatePens(paint);
     PAINTSTRUCT area;
-    paint.context = BeginPaint(window, &area); // erases the background, so before a pen is selected
-    const HGDIOBJ before = SelectObject(paint.context, paint.dotted);
-    GetClientRect(window, &paint.map);
-    for (int i = 0; i < num_windows; ++i)
-        DrawWindow(paint, WindowTable[i].hwnd);
-    DrawView(paint);
-    SelectObject(paint.context, before);
+    const HDC screen = BeginPaint(window, &area);
+    if (!DrawInMemory(paint, screen))
+        DrawMap(paint, screen);
     DeletePens(paint);
     EndPaint(window, &area);
 }

@@ -3,10 +3,8 @@
 
 #include "core/platform.h"
 
-// WM_ERASEBKGND: the background with its frame, and the regions in order, the last on top.
-void PaintBackground(HWND window, HDC context);
-
-// WM_PAINT, BeginPaint and EndPaint included: the windows' boxes in the order of WindowTable, then the view.
+// WM_PAINT, BeginPaint and EndPaint included: the background with its frame, the regions in order, the last
+// on top, the windows' boxes in the order of WindowTable, then the view. WM_ERASEBKGND must draw nothing.
 // Starts and stops the timer that makes the box of a dialog flash while its owner is disabled.
 void PaintMap(HWND window);
 

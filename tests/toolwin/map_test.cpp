@@ -48,6 +48,7 @@ TEST_F(Map, PaintsBackgroundRegionsWindowsAndViewInOrder) {
     RegionTable[0].color = 0x123456;
     const int objects = LiveObjects();
     EXPECT_EQ(Paint(), (Drawing{
+                           "BitBlt (0, 0, 200, 75) solid1 0 fill 16777215",
                            "Rectangle (0, 0, 200, 75) solid1 0",
                            "Rectangle (50, 37, 100, 74) solid1 0 fill 1193046",
                            "LineTo (54, 39, 79, 39) solid2 255",
@@ -64,15 +65,27 @@ TEST_F(Map, PaintsBackgroundRegionsWindowsAndViewInOrder) {
     EXPECT_EQ(LiveContexts() + Desk.deletedInUse, 0);
 }
 
+TEST_F(Map, ReachesTheScreenInOneCopyOrDirectlyIfABitmapIsRefused) {
+    const Drawing copied = Paint();
+    Desk.drawCalls.clear();
+    EXPECT_TRUE(SendMessageA(MainWnd, WM_ERASEBKGND, 0, 0) && Desk.drawCalls.empty());
+    const int objects = LiveObjects();
+    for (const char* call : {"CreateCompatibleDC", "CreateCompatibleBitmap", "BitBlt"}) {
+        Desk.fault = {call, 1, true, 0, 0};
+        EXPECT_EQ(Paint(), Drawing(copied.begin() + 1, copied.end())) << call;
+        EXPECT_EQ(LiveObjects() - objects + LiveContexts() + Desk.deletedInUse, 0) << call;
+    }
+}
+
 TEST_F(Map, FlashesADialogWhileItsOwnerIsDisabled) {
     const std::size_t timers = Desk.timers.size();
     EnableWindow(owner, FALSE);
-    EXPECT_EQ(Paint().at(1), "LineTo (54, 39, 79, 39) solid2 50") << "the second paint";
+    EXPECT_EQ(Paint().at(2), "LineTo (54, 39, 79, 39) solid2 50") << "the second paint";
     Desk.drawCalls.clear();
     Wait(50);
-    EXPECT_EQ(Desk.drawCalls.at(1).pen.color, 75U) << "painted by the timer";
+    EXPECT_EQ(Desk.drawCalls.at(2).pen.color, 75U) << "painted by the timer";
     EnableWindow(owner, TRUE);
-    EXPECT_EQ(Paint().at(1), "LineTo (54, 39, 79, 39) solid2 255");
+    EXPECT_EQ(Paint().at(2), "LineTo (54, 39, 79, 39) solid2 255");
     EXPECT_EQ(Desk.timers.size(), timers);
     EXPECT_EQ(NextFlashLevel(275), 45) << "bright, then dark";
 }

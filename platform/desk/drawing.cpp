@@ -162,6 +162,17 @@ HFONT CreateFontA(int height, int, int, int, int weight, DWORD, DWORD, DWORD, DW
     return reinterpret_cast<HFONT>(font);
 }
 
+// Only WHITE_PEN.
+HGDIOBJ GetStockObject(int index) {
+    static DeskObject* pen;
+    if (CallFails("GetStockObject") || index != WHITE_PEN)
+        return nullptr;
+    if (!pen)
+        pen = NewObject(DeskObjectKind::Pen, -1, 1);
+    pen->pen = {PS_SOLID, 1, 0xffffff};
+    return pen;
+}
+
 HBRUSH CreateSolidBrush(COLORREF color) {
     if (CallFails("CreateSolidBrush"))
         return nullptr;

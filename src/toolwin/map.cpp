@@ -10,6 +10,7 @@
 
 static const COLORREF RED = 255;
 static const COLORREF BLACK = 0;
+static const COLORREF NOT_DARK = 0xc0c0c0; // red, green or blue above 63
 static const UINT_PTR FLASH_TIMER = 1234;
 static const UINT FLASH_PERIOD = 50; // milliseconds
 
@@ -77,7 +78,14 @@ static void DrawRegion(HDC context, const RegionRow& region, const RECT& map) {
     DeleteObject(brush);
 }
 
+// The background is black under a wallpaper picture, where black lines would be invisible.
+static void SelectLinePen(HDC context) {
+    if (!(GetSysColor(COLOR_BACKGROUND) & NOT_DARK))
+        SelectObject(context, GetStockObject(WHITE_PEN));
+}
+
 static void DrawBackground(const MapPaint& paint) {
+    SelectLinePen(paint.context);
     SelectObject(paint.context, reinterpret_cast<HBRUSH>(GetClassLongPtrA(paint.window, GCLP_HBRBACKGROUND)));
     Rectangle(paint.context, paint.map.left, paint.map.top, paint.map.right, paint.map.bottom);
     for (int index = 0; index < num_regions; ++index)

@@ -90,6 +90,17 @@ TEST_F(Map, FlashesADialogWhileItsOwnerIsDisabled) {
     EXPECT_EQ(NextFlashLevel(275), 45) << "bright, then dark";
 }
 
+TEST_F(Map, HasWhiteLinesOnADarkBackground) {
+    AddRegion("home", 0, 0);
+    for (const auto& [background, pen] :
+         {std::pair(0x3f3f3fU, " solid1 16777215"), {0x3f403fU, " solid1 0"}}) {
+        Desk.systemColors[COLOR_BACKGROUND] = background;
+        const Drawing drawing = Paint();
+        EXPECT_EQ(drawing.at(1), std::string("Rectangle (0, 0, 200, 75)") + pen);
+        EXPECT_EQ(drawing.at(2), std::string("Rectangle (0, 0, 50, 37)") + pen + " fill 0");
+    }
+}
+
 TEST_F(Map, RepaintsWithNewColors) {
     for (const UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_DEVMODECHANGE}) {
         BackBrush = nullptr;

@@ -24,6 +24,8 @@ constexpr int PS_DOT = 2;
 constexpr int R2_COPYPEN = 13;
 constexpr int R2_MERGEPENNOT = 14;
 
+constexpr int WHITE_PEN = 6; // for GetStockObject
+
 constexpr int LOGPIXELSX = 88;
 
 constexpr DWORD SRCCOPY = 0x00CC0020;
@@ -59,6 +61,7 @@ HFONT WINAPI CreateFontA(int height, int width, int escapement, int orientation,
                          DWORD underline, DWORD strikeOut, DWORD charSet, DWORD outPrecision,
                          DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily, LPCSTR face);
 HBRUSH WINAPI CreateSolidBrush(COLORREF color);
+HGDIOBJ WINAPI GetStockObject(int index);
 HPEN WINAPI CreatePen(int style, int width, COLORREF color);
 HGDIOBJ WINAPI SelectObject(HDC context, HGDIOBJ object);
 BOOL WINAPI DeleteObject(HGDIOBJ object);

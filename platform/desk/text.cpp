@@ -201,11 +201,11 @@ int WideCharToMultiByte(UINT, DWORD, LPCWSTR from, int, LPSTR to, int limit, LPC
 }
 
 int MultiByteToWideChar(UINT, DWORD, LPCSTR from, int, LPWSTR to, int limit) {
-    if (CallFails("MultiByteToWideChar"))
+    const int needed = static_cast<int>(std::strlen(from)) + 1;
+    if (CallFails("MultiByteToWideChar") || (limit > 0 && limit < needed))
         return 0;
-    const std::wstring wide = ToWide(FromAnsi(from));
-    const int needed = static_cast<int>(wide.size()) + 1;
-    if (limit == 0)
-        return needed;
-    return limit < needed ? 0 : CopyWide(wide, to, limit) + 1;
+    if (limit > 0) // a Latin-1 character has the same code in UTF-16
+        std::transform(from, from + needed, to,
+                       [](char letter) { return static_cast<WCHAR>(static_cast<unsigned char>(letter)); });
+    return needed;
 }

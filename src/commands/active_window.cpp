@@ -107,12 +107,12 @@ static void Play(const BeepSequence& sequence) {
 
 int LockActiveWindow(const ActionCall& call) {
     const HWND active = call.target;
-    char title[256] = "";
-    GetWindowTextA(active, title, 255);
+    WCHAR title[256] = L"";
+    GetWindowTextW(active, title, 255);
     if (!IsManagedWindow(active))
         return 0;
     Play(call.argument ? RISING : FALLING);
-    ShowTip(call.argument ? "Locked Window: %s" : "Unlocked Window: %s", title);
+    ShowTitleTip(call.argument ? "Locked Window: " : "Unlocked Window: ", title, "");
     if (call.argument)
         LockWindow(active);
     else

@@ -42,12 +42,12 @@ int FocusNeighbour(const ActionCall& call) {
         return 0;
     const int count = CollectCandidates(window);
     const int found = FindNeighbour({direction, start, CandidateRects, count, VDesk, Quorl});
-    char title[128] = "";
-    if (found < 0 || !GetWindowTextA(Candidates[found], title, 127)) {
+    WCHAR title[128] = L"";
+    if (found < 0 || !GetWindowTextW(Candidates[found], title, 127)) {
         MessageBeep(0);
         return 0;
     }
-    ShowTip("%s", title);
+    ShowTitleTip("", title, "");
     return ActivateWindow(Candidates[found]);
 }
 

@@ -24,6 +24,9 @@ INT_PTR RunCommand(const CommandRow (&rows)[COUNT], HWND dialog, WPARAM wParam) 
 // refuses it.
 void AddListRow(HWND listBox, const char* text, LPARAM data);
 
+// The same for a window's title, which may contain characters that the ANSI code page lacks.
+void AddTitleRow(HWND listBox, LPCWSTR title, LPARAM data);
+
 // The item data of the selected row of a list box; LB_ERR if none is selected.
 LRESULT SelectedData(HWND dialog, int listBox);
 

@@ -15,9 +15,9 @@ static const int NO_CALLER = 0; // to ScrollView: no action
 BOOL CALLBACK AddWindowToList(HWND window, LPARAM listBox) {
     if (!IsManagedWindow(window))
         return TRUE;
-    char title[256] = "";
-    GetWindowTextA(window, title, sizeof title);
-    AddListRow(reinterpret_cast<HWND>(listBox), title, reinterpret_cast<LPARAM>(window));
+    WCHAR title[256] = L"";
+    GetWindowTextW(window, title, 256);
+    AddTitleRow(reinterpret_cast<HWND>(listBox), title, reinterpret_cast<LPARAM>(window));
     return TRUE;
 }
 

@@ -27,12 +27,12 @@ static void ActivateWindowUnderCursor() {
         return;
     MessageBeep(0);
     const HWND window = Outermost(under);
-    char title[TITLE_LIMIT];
-    if (!GetWindowTextA(window, title, TITLE_LIMIT)) {
+    WCHAR title[TITLE_LIMIT];
+    if (!GetWindowTextW(window, title, TITLE_LIMIT)) {
         MessageBeep(0);
         return;
     }
-    ShowTip("%s", title);
+    ShowTitleTip("", title, "");
     ActivateWindow(window);
 }
 

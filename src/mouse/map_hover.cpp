@@ -9,6 +9,10 @@
 #include "toolwin/placement.h"
 #include "windows/foreground.h"
 
+#include <cstdio>
+
+static const int TITLE_LIMIT = 32; // characters, with the terminating 0
+
 static bool bMoving; // the map is being dragged; the first move with another combination ends that
 
 // Map coordinates of the last move that did not drag the map: where it was grabbed.
@@ -44,9 +48,11 @@ static bool DragToolwin(int flags, int x, int y) {
 static void DescribePoint(ActionPoint map) {
     const ActionPoint desktop = MapToDesktop(map);
     if (const HWND under = WindowAtDesktopPoint(desktop.x, desktop.y)) {
-        char title[32] = "";
-        GetWindowTextA(under, title, sizeof title);
-        ShowTip("%s: [%d, %d]", title, desktop.x, desktop.y);
+        WCHAR title[TITLE_LIMIT] = L"";
+        GetWindowTextW(under, title, TITLE_LIMIT);
+        char point[32];
+        std::snprintf(point, sizeof point, ": [%d, %d]", desktop.x, desktop.y);
+        ShowTitleTip("", title, point);
         return;
     }
     const int region = FindRegionAt(desktop.x, desktop.y);

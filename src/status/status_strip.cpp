@@ -8,7 +8,7 @@
 
 #include <cstdarg>
 #include <cstdio>
-#include <cstring>
+#include <cwchar>
 
 static const UINT_PTR TIP_TIMER = 1000;
 static const UINT TIP_PERIOD = 1000; // milliseconds
@@ -22,8 +22,8 @@ namespace {
 
 struct TipRecord {
     UINT_PTR timer;
-    UINT ticks;                    // since the last text
-    char text[TEXT_LIMIT + 1 + 4]; // DT_MODIFYSTRING may append four characters
+    UINT ticks;                     // since the last text
+    WCHAR text[TEXT_LIMIT + 1 + 4]; // DT_MODIFYSTRING may append four characters
     HFONT font;
 };
 
@@ -31,10 +31,14 @@ struct TipRecord {
 
 static TipRecord TipState;
 
-static int TextHeight(const char* text) {
+static int TextLength() {
+    return static_cast<int>(std::wcslen(TipState.text));
+}
+
+static int TextHeight() {
     SIZE extent{};
     const HDC context = GetDC(TipWnd);
-    GetTextExtentPoint32A(context, text, static_cast<int>(std::strlen(text)), &extent);
+    GetTextExtentPoint32W(context, TipState.text, TextLength(), &extent);
     ReleaseDC(TipWnd, context);
     return extent.cy;
 }
@@ -78,16 +82,39 @@ static void PlaceTip(int textHeight) {
     ShowWindow(TipWnd, SW_SHOWNOACTIVATE);
 }
 
-void ShowTip(const char* format, ...) {
+// Cuts the text at its limit.
+static void AppendText(LPCWSTR text) {
+    int length = TextLength();
+    while (*text && length < TEXT_LIMIT)
+        TipState.text[length++] = *text++;
+    TipState.text[length] = 0;
+}
+
+static void AppendAnsiText(const char* text) {
+    WCHAR wide[TEXT_LIMIT + 1] = {};
+    MultiByteToWideChar(CP_ACP, 0, text, -1, wide, TEXT_LIMIT + 1);
+    AppendText(wide);
+}
+
+void ShowTitleTip(const char* before, LPCWSTR title, const char* after) {
     if (!IsOn(ACTION_TOOLTIP) || (!TipWnd && !CreateTip()))
         return;
-    std::va_list values;
-    va_start(values, format);
-    std::vsnprintf(TipState.text, TEXT_LIMIT + 1, format, values);
-    va_end(values);
-    PlaceTip(TextHeight(TipState.text));
+    TipState.text[0] = 0;
+    AppendAnsiText(before);
+    AppendText(title);
+    AppendAnsiText(after);
+    PlaceTip(TextHeight());
     Repaint(TipWnd);
     TipState.ticks = 0;
+}
+
+void ShowTip(const char* format, ...) {
+    char text[TEXT_LIMIT + 1];
+    std::va_list values;
+    va_start(values, format);
+    std::vsnprintf(text, sizeof text, format, values);
+    va_end(values);
+    ShowTitleTip(text, L"", "");
 }
 
 static void TipCreate() {
@@ -114,7 +141,7 @@ static void TipPaint(HWND window) {
     SetTextColor(context, GetSysColor(COLOR_INFOTEXT));
     const HGDIOBJ before = SelectObject(context, TipState.font);
     area.left += TEXT_MARGIN;
-    DrawTextExA(context, TipState.text, static_cast<int>(std::strlen(TipState.text)), &area,
+    DrawTextExW(context, TipState.text, TextLength(), &area,
                 DT_WORDBREAK | DT_NOPREFIX | DT_END_ELLIPSIS | DT_MODIFYSTRING, nullptr);
     SelectObject(context, before);
     EndPaint(window, &paint);

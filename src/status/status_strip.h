@@ -12,4 +12,8 @@ void RegisterTipClass(HINSTANCE instance);
 // no space above. Does nothing while the user has switched texts off, or if the strip cannot be created.
 __attribute__((format(printf, 1, 2))) void ShowTip(const char* format, ...);
 
+// The same for a text that contains a window's title: `before`, the title, `after`. Titles are UTF-16,
+// because the ANSI code page lacks the characters of most alphabets.
+void ShowTitleTip(const char* before, LPCWSTR title, const char* after);
+
 void HideTip();

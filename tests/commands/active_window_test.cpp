@@ -7,7 +7,7 @@ class ActiveWindow : public RunningQuorl {
     // Not in the window table: the refresh timer has not run yet.
     void SetUp() override {
         RunningQuorl::SetUp();
-        active = OpenWindow("editor", {300, 300, 500, 400});
+        active = OpenWindow("\u6f22", {300, 300, 500, 400});
         Desk.foreground = active;
     }
 
@@ -46,6 +46,7 @@ TEST_F(ActiveWindow, TogglesTopmostUnlessItHangs) {
 TEST_F(ActiveWindow, CanBeLockedFromTheMomentItIsOpen) {
     RunAction(ACTION_LOCK_WINDOW);
     EXPECT_EQ(Desk.tones.back(), 11000U);
+    EXPECT_EQ(LastStatus(), "Locked Window: \u6f22");
     Wait(2000); // it is in the window table now
     EXPECT_EQ(RectAfter(ACTION_SCREEN_RIGHT).left, 300);
     RunAction(ACTION_UNLOCK_WINDOW);

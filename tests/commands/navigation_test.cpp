@@ -3,7 +3,7 @@
 class Navigation : public RunningQuorl {};
 
 TEST_F(Navigation, ActivatesTheNeighbourWithoutScrolling) {
-    const HWND left = OpenWindow("left", {0, 100, 200, 300});
+    const HWND left = OpenWindow("\u0416", {0, 100, 200, 300});
     const HWND right = OpenWindow("right", {1500, 100, 1700, 300}); // off the screen
     OpenWindow("", {400, 500, 600, 600});                           // below, but without a title
     const HWND middle = OpenAndList("middle", {400, 100, 600, 300});
@@ -14,6 +14,7 @@ TEST_F(Navigation, ActivatesTheNeighbourWithoutScrolling) {
     };
     EXPECT_EQ(reached(ACTION_FOCUS_RIGHT, middle), right);
     EXPECT_EQ(reached(ACTION_FOCUS_LEFT, middle), left);
+    EXPECT_EQ(LastStatus(), "\u0416");
     EXPECT_EQ(reached(ACTION_FOCUS_LEFT, right), middle) << "first in the table";
     EXPECT_TRUE(Desk.beeps.empty());
     EXPECT_EQ(reached(ACTION_FOCUS_DOWN, middle), middle);

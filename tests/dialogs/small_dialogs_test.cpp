@@ -5,10 +5,11 @@ using SmallDialogs = DialogTest;
 
 TEST_F(SmallDialogs, FindWindowGoesToALivingManagedWindow) {
     const HWND untitled = OpenWindow("", {2000, 300, 2400, 500});
-    const HWND hung = OpenWindow("hung", {3000, 300, 3400, 500});
+    const HWND hung = OpenWindow("\u0416ung", {3000, 300, 3400, 500});
     OpenWindow("empty", {0, 0, 100, 0});
     Open(ACTION_FIND_WINDOW);
     EXPECT_EQ(Control(IDC_FIND_LIST).items.size(), 2U);
+    EXPECT_EQ(Control(IDC_FIND_LIST).items.at(1).text, "\u0416ung");
     WindowOf(hung).response = DeskResponse::Hung;
     Choose(IDC_FIND_LIST, 1);
     EXPECT_EQ(Desk.foreground, dialog);

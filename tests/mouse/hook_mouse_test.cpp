@@ -130,7 +130,7 @@ TEST_F(HookMouse, ADelayedScrollNeedsTheMouseToStayAtAnEdge) {
 
 TEST_F(HookMouse, FocusFollowsTheMouseToALivingProgram) {
     ActionTable[ACTION_XWIN_MOUSE].value = 1;
-    const HWND editor = OpenWindow("editor", {100, 100, 600, 500});
+    const HWND editor = OpenWindow("\u0416", {100, 100, 600, 500});
     DeskWindow& child = WindowOf(OpenWindow("", {450, 250, 600, 400}));
     child.style = WS_CHILD | WS_VISIBLE;
     child.owner = editor;
@@ -139,5 +139,5 @@ TEST_F(HookMouse, FocusFollowsTheMouseToALivingProgram) {
         SendHookMessage(WM_MOUSEMOVE, MIDDLE);
         EXPECT_EQ(GetForegroundWindow() == editor, response == DeskResponse::Responds);
     }
-    EXPECT_EQ(LastStatus(), "editor");
+    EXPECT_EQ(LastStatus(), "\u0416");
 }

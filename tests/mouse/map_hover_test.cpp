@@ -12,10 +12,10 @@ static void MoveBy(int dx, int dy) {
 }
 
 TEST_F(MapHover, DescribesTheWindowElseTheRegionElseThePoint) {
-    OpenAndList("100%n %s%d full, and so on and so forth", {400, 0, 600, 320});
+    OpenAndList("100%n %s%d \u0416\u6f22ll, and so on and so forth", {400, 0, 600, 320});
     AddRegion("50%s done, 32 characters of name", 0, 0);
     MoveOnMap(30, 10);
-    EXPECT_EQ(LastStatus(), "100%n %s%d full, and so on and : [480, 160]");
+    EXPECT_EQ(LastStatus(), "100%n %s%d \u0416\u6f22ll, and so on and : [480, 160]");
     MoveOnMap(50, 30);
     EXPECT_EQ(LastStatus(), "Region 0: 50%s done, 32 characters of name [800, 480]");
     MoveOnMap(200, 80);

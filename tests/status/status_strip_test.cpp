@@ -9,6 +9,8 @@ TEST_F(StatusStrip, AppearsAboveOrBelowTheMapWithoutActivation) {
     Desk.systemColors[COLOR_INFOTEXT] = 0xffff00;
     ShowTip("%s", std::string(300, 'c').c_str());
     EXPECT_EQ(LastStatus(), std::string(255, 'c'));
+    ShowTitleTip("d", std::wstring(300, L'd').c_str(), "d");
+    EXPECT_EQ(LastStatus(), std::string(255, 'd'));
     EXPECT_EQ(Desk.foreground, before);
     EXPECT_EQ(RectOf(TipWnd), Rect(100, 84, 300, 100));
     EXPECT_TRUE(Desk.drawCalls.back().format & DT_NOPREFIX);

@@ -89,7 +89,7 @@ void AddRegion(const std::string& name, int left, int top) {
 
 std::string LastStatus() {
     for (auto call = Desk.drawCalls.rbegin(); call != Desk.drawCalls.rend(); ++call)
-        if (call->call == "DrawTextExA" && WindowOf(call->window).className == TIP_CLASS)
+        if (call->call == "DrawTextExW" && WindowOf(call->window).className == TIP_CLASS)
             return call->text;
     return "";
 }

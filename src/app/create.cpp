@@ -8,6 +8,7 @@
 #include "scroll/refresh.h"
 #include "scroll/scroll_view.h"
 #include "settings/settings.h"
+#include "toolwin/placement.h"
 #include "windows/window_table.h"
 
 void OnCreate(HWND window) {
@@ -19,6 +20,7 @@ void OnCreate(HWND window) {
     SetTimer(window, REFRESH_TIMER, REFRESH_PERIOD, RefreshTimer);
     SetDefaultMenu();
     RebuildWindowTable();
+    ScaleToolwin(); // the settings contain a size that is scaled already
     LoadSettingsAtStart();
     EnableSaving();
 }

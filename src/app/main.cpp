@@ -56,6 +56,7 @@ static void FindOptionalFunctions() {
     DisableUnless(ACTION_TRANSPARENCY, pSetLayeredWindowAttributes != nullptr);
     pLockWorkStation = FindFunction<decltype(pLockWorkStation)>(user, "LockWorkStation");
     DisableUnless(ACTION_LOCK_STATION, pLockWorkStation != nullptr);
+    pGetDpiForWindow = FindFunction<decltype(pGetDpiForWindow)>(user, "GetDpiForWindow");
 }
 
 static void DisableHookActions() {

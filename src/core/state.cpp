@@ -14,6 +14,7 @@ bool bDisplaysChanging;
 
 decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;
 decltype(&LockWorkStation) pLockWorkStation;
+UINT(WINAPI* pGetDpiForWindow)(HWND window);
 HRESULT(WINAPI* pDwmGetWindowAttribute)(HWND window, DWORD attribute, void* value, DWORD size);
 
 void Repaint(HWND window) {

@@ -40,6 +40,7 @@ extern bool bDisplaysChanging;
 // Null if the running system lacks the function.
 extern decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;
 extern decltype(&LockWorkStation) pLockWorkStation;
+extern UINT(WINAPI* pGetDpiForWindow)(HWND window);
 extern HRESULT(WINAPI* pDwmGetWindowAttribute)(HWND window, DWORD attribute, void* value, DWORD size);
 
 // Repaints the window before returning.

@@ -3,6 +3,7 @@
 #include "actions/hotkeys.h"
 #include "actions/key_names.h"
 #include "core/arithmetic.h"
+#include "core/dpi.h"
 #include "dialogs/binding_text.h"
 #include "dialogs/controls.h"
 #include "dialogs/registry.h"
@@ -54,8 +55,6 @@ static const TabControl TabControls[] = {
 };
 
 static const char* const TabTitles[] = {"Keyboard Actions", "Mouse Actions"};
-
-static const int DEFAULT_DPI = 96;
 
 static const ListColumn Columns[] = {
     {120, "ActionKeys"},
@@ -276,16 +275,9 @@ static void InsertTabs(HWND tabs) {
     SendMessageA(tabs, TCM_SETCURSEL, 0, 0);
 }
 
-static int Dpi(HWND window) {
-    const HDC context = GetDC(window);
-    const int pixels = GetDeviceCaps(context, LOGPIXELSX);
-    ReleaseDC(window, context);
-    return pixels ? pixels : DEFAULT_DPI;
-}
-
 // On a scaled display the columns grow with the texts.
 static void InsertColumns(HWND list) {
-    const int dpi = Dpi(list);
+    const int dpi = DpiOf(list);
     WPARAM position = 0;
     for (const ListColumn& row : Columns) {
         LVCOLUMNA column{};

@@ -1,6 +1,7 @@
 // The Options dialog.
 #include "dialogs/options_dialog.h"
 
+#include "core/dpi.h"
 #include "core/rect.h"
 #include "core/state.h"
 #include "dialogs/controls.h"
@@ -54,8 +55,9 @@ static const int MouseControls[] = {
     IDC_OPTIONS_AFTER_TIME,  IDC_OPTIONS_DELAY_TIME,
 };
 
-static const SIZE SPINNER_SIZE = {15, 21}; // pixels
+static const SIZE SPINNER_SIZE = {15, 21}; // pixels at 96 DPI
 static const UINT SPINNER_INTERVAL = 250;  // milliseconds
+static const UINT PLACE_SPINNERS_MESSAGE = WM_APP;
 
 // 2147483648 and more become negative; an empty box is 0.
 static int ReadNumber(HWND dialog, int edit) {
@@ -132,15 +134,27 @@ static void ReadMouseOptions(HWND dialog) {
     Options.mousescroll_delay_time = ReadNumber(dialog, IDC_OPTIONS_DELAY_TIME);
 }
 
-// At the right side of the edit box, whose position depends on fonts and DPI.
-static void AddSpinner(HWND dialog, const SizeControls& size, int pixels) {
+// At the right side of the edit box, whose position depends on fonts and DPI. Client pixels of the dialog.
+static RECT SpinnerRect(HWND dialog, const SizeControls& size) {
     RECT edit{};
     GetWindowRect(GetDlgItem(dialog, size.edit), &edit);
     POINT corner = {edit.left, edit.top};
     ScreenToClient(dialog, &corner);
     const LONG left = corner.x + Width(edit);
-    const HWND spinner = CreateSpinner(
-        dialog, {left, corner.y, left + SPINNER_SIZE.cx, corner.y + SPINNER_SIZE.cy}, size.spinner);
+    const int dpi = DpiOf(dialog);
+    return {left, corner.y, left + Scale(SPINNER_SIZE.cx, dpi, DEFAULT_DPI),
+            corner.y + Scale(SPINNER_SIZE.cy, dpi, DEFAULT_DPI)};
+}
+
+static void PlaceSpinners(HWND dialog) {
+    for (const SizeControls& size : {HeightControls, WidthControls}) {
+        const RECT rect = SpinnerRect(dialog, size);
+        MoveWindow(GetDlgItem(dialog, size.spinner), rect.left, rect.top, Width(rect), Height(rect), TRUE);
+    }
+}
+
+static void AddSpinner(HWND dialog, const SizeControls& size, int pixels) {
+    const HWND spinner = CreateSpinner(dialog, SpinnerRect(dialog, size), size.spinner);
     if (SpinnerState* const state = StateOfSpinner(spinner)) {
         state->value = Quotient(pixels, size.screen());
         state->interval = SPINNER_INTERVAL;
@@ -286,6 +300,9 @@ INT_PTR CALLBACK OptionsDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM
     case WM_INITDIALOG: OnOptionsInit(dialog); return 1;
     case WM_COMMAND: OnOptionsCommand(dialog, LOWORD(wParam), HIWORD(wParam)); break;
     case WM_NOTIFY: OnSpinnerStep(dialog, wParam, reinterpret_cast<const SpinnerState*>(lParam)); break;
+    // Windows scales the other controls after this message has been handled.
+    case WM_DPICHANGED: PostMessageA(dialog, PLACE_SPINNERS_MESSAGE, 0, 0); break;
+    case PLACE_SPINNERS_MESSAGE: PlaceSpinners(dialog); break;
     default: break;
     }
     return 0;

@@ -2,6 +2,7 @@
 
 #include "actions/action_table.h"
 #include "core/displays.h"
+#include "core/dpi.h"
 #include "core/rect.h"
 #include "core/state.h"
 #include "windows/other_window.h"
@@ -15,6 +16,7 @@ static const UINT TIP_PERIOD = 1000; // milliseconds
 static const UINT TICKS_SHOWN = 1;   // the strip survives this many ticks and hides on the next
 static const int TEXT_LIMIT = 255;   // characters
 static const int TEXT_MARGIN = 2;    // pixels left of the text
+static const int FONT_HEIGHT = 14;   // pixels at 96 DPI
 
 HWND TipWnd;
 
@@ -25,6 +27,7 @@ struct TipRecord {
     UINT ticks;                     // since the last text
     WCHAR text[TEXT_LIMIT + 1 + 4]; // DT_MODIFYSTRING may append four characters
     HFONT font;
+    int dpi; // the scale of `font`
 };
 
 } // namespace
@@ -67,18 +70,39 @@ static bool CreateTip() {
     return true;
 }
 
+// The strip has the scale of the map's display, whichever display its own part of the screen belongs to.
+// Returns true if that has changed.
+static bool UpdateScale() {
+    const int dpi = DpiOf(MainWnd);
+    if (dpi == TipState.dpi)
+        return false;
+    TipState.dpi = dpi;
+    if (TipState.font)
+        DeleteObject(TipState.font);
+    TipState.font =
+        CreateFontA(Scale(FONT_HEIGHT, dpi, DEFAULT_DPI), 0, 0, 0, FW_LIGHT, 0, 0, 0, 0, 0, 0, 0, 0, "Arial");
+    return true;
+}
+
+static void MoveTip() {
+    RECT map{};
+    GetVisibleRect(MainWnd, &map);
+    const int height = Scale(TextHeight(), TipState.dpi, DEFAULT_DPI);
+    const int above = Wrap(0LL + map.top - height);
+    const int top = above < DisplayNear(map).rect.top ? map.bottom : above;
+    const RECT strip = ToWindows({map.left, top, map.right, Wrap(0LL + top + height)});
+    MoveWindow(TipWnd, strip.left, strip.top, Width(strip), Height(strip), TRUE);
+}
+
 // Do not move it if it is already visible at the map's left edge, so consecutive texts do not flicker.
-static void PlaceTip(int textHeight) {
+static void PlaceTip() {
     RECT map{};
     RECT tip{};
     GetVisibleRect(MainWnd, &map);
     GetVisibleRect(TipWnd, &tip);
-    if (IsWindowVisible(TipWnd) && map.left == tip.left)
+    if (!UpdateScale() && IsWindowVisible(TipWnd) && map.left == tip.left)
         return;
-    const int above = Wrap(0LL + map.top - textHeight);
-    const int top = above < DisplayNear(map).rect.top ? map.bottom : above;
-    const RECT strip = ToWindows({map.left, top, map.right, Wrap(0LL + top + textHeight)});
-    MoveWindow(TipWnd, strip.left, strip.top, Width(strip), Height(strip), TRUE);
+    MoveTip();
     ShowWindow(TipWnd, SW_SHOWNOACTIVATE);
 }
 
@@ -103,7 +127,7 @@ void ShowTitleTip(const char* before, LPCWSTR title, const char* after) {
     AppendAnsiText(before);
     AppendText(title);
     AppendAnsiText(after);
-    PlaceTip(TextHeight());
+    PlaceTip();
     Repaint(TipWnd);
     TipState.ticks = 0;
 }
@@ -119,7 +143,14 @@ void ShowTip(const char* format, ...) {
 
 static void TipCreate() {
     TipState = {};
-    TipState.font = CreateFontA(14, 0, 0, 0, FW_LIGHT, 0, 0, 0, 0, 0, 0, 0, 0, "Arial");
+    UpdateScale();
+}
+
+static void OnTipDpiChanged() {
+    if (!UpdateScale())
+        return;
+    MoveTip();
+    Repaint(TipWnd);
 }
 
 // Runs twice for one close; the second time nothing is left to release.
@@ -152,6 +183,7 @@ static LRESULT CALLBACK TipWndProc(HWND window, UINT message, WPARAM wParam, LPA
     case WM_CREATE: TipCreate(); return 0;
     case WM_PAINT: TipPaint(window); return 0;
     case WM_MOUSEMOVE: ShowWindow(window, SW_HIDE); return 0;
+    case WM_DPICHANGED: OnTipDpiChanged(); return 0;
     case WM_DESTROY:
     case WM_CLOSE:
     case WM_QUIT: TipCleanup(window); break;

@@ -1,5 +1,6 @@
 #include "toolwin/placement.h"
 
+#include "core/dpi.h"
 #include "core/rect.h"
 #include "core/state.h"
 #include "core/steps.h"
@@ -25,6 +26,17 @@ RECT SnapRect(const RECT& rect, int border, int screenW, int screenH) {
     SnapEdges(snapped.left, snapped.right, border, screenW);
     SnapEdges(snapped.top, snapped.bottom, border, screenH);
     return snapped;
+}
+
+void ScaleToolwin() {
+    WindowFrame frame{};
+    const int dpi = DpiOf(MainWnd);
+    if (dpi == DEFAULT_DPI || !ReadWindowFrame(MainWnd, &frame))
+        return;
+    const RECT& rect = frame.visible;
+    MoveOwnWindow(MainWnd, frame,
+                  {rect.left, rect.top, Wrap(0LL + rect.left + Scale(Width(rect), dpi, DEFAULT_DPI)),
+                   Wrap(0LL + rect.top + Scale(Height(rect), dpi, DEFAULT_DPI))});
 }
 
 bool MoveToolwin(int dx, int dy) {

@@ -6,6 +6,9 @@
 constexpr SIZE MIN_TOOLWIN{40, 13}; // pixels
 constexpr SIZE MAX_TOOLWIN{32000, 32000};
 
+// Scales the size that the map was created with, which is meant for 96 DPI, to its display. Call once.
+void ScaleToolwin();
+
 // Moves the map by a distance in screen pixels, snaps it to the screen's edges if the user has switched that
 // on, and shows the result in the status strip. Measures the screen first. False if the move fails.
 bool MoveToolwin(int dx, int dy);

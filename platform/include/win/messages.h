@@ -57,6 +57,7 @@ constexpr UINT WM_MOVING = 534;
 constexpr UINT WM_DPICHANGED = 736;
 constexpr UINT WM_HOTKEY = 786;
 constexpr UINT WM_USER = 1024;
+constexpr UINT WM_APP = 32768;
 
 constexpr WPARAM SC_SCREENSAVE = 0xF140;
 constexpr LPARAM ENDSESSION_CLOSEAPP = 1;

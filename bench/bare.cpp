@@ -65,6 +65,12 @@ static void PaintWindow(HDC context, const BareRow& row, HWND active, HPEN red, 
     SelectObject(context, dotted);
 }
 
+static void PaintBackground(HWND window, HDC context, const RECT& map) {
+    GetSysColor(COLOR_BACKGROUND);
+    SelectObject(context, reinterpret_cast<HBRUSH>(GetClassLongPtrA(window, GCLP_HBRBACKGROUND)));
+    Rectangle(context, map.left, map.top, map.right, map.bottom);
+}
+
 static void Paint(HWND window) {
     const HWND active = GetForegroundWindow();
     const HPEN dotted = CreatePen(PS_DOT, 1, 0);
@@ -72,31 +78,31 @@ static void Paint(HWND window) {
     const HPEN flash = CreatePen(PS_SOLID, 2, 25);
     PAINTSTRUCT area;
     RECT map;
-    const HDC context = BeginPaint(window, &area);
-    const HGDIOBJ before = SelectObject(context, dotted);
     GetClientRect(window, &map);
+    const HDC screen = BeginPaint(window, &area);
+    const HDC context = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, map.right, map.bottom);
+    SelectObject(context, bitmap);
+    PaintBackground(window, context, map);
+    const HGDIOBJ before = SelectObject(context, dotted);
     for (int row = 0; row < num_rows; ++row)
         PaintWindow(context, Rows[row], active, red, dotted);
     SetROP2(context, R2_MERGEPENNOT);
     Lines(context, BareViewBox);
     SelectObject(context, before);
+    BitBlt(screen, 0, 0, map.right, map.bottom, context, 0, 0, SRCCOPY);
+    DeleteDC(context);
+    DeleteObject(bitmap);
     DeleteObject(dotted);
     DeleteObject(red);
     DeleteObject(flash);
     EndPaint(window, &area);
 }
 
-static void EraseBackground(HWND window, HDC context) {
-    RECT map;
-    GetClientRect(window, &map);
-    SelectObject(context, reinterpret_cast<HBRUSH>(GetClassLongPtrA(window, GCLP_HBRBACKGROUND)));
-    Rectangle(context, map.left, map.top, map.right, map.bottom);
-}
-
 static LRESULT CALLBACK BareMapProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_PAINT: Paint(window); return 0;
-    case WM_ERASEBKGND: EraseBackground(window, reinterpret_cast<HDC>(wParam)); return 1;
+    case WM_ERASEBKGND: return 1;
     default: return DefWindowProcA(window, message, wParam, lParam);
     }
 }

@@ -46,8 +46,9 @@ PATHS = (
         (2, "windows/window_table.cpp", "RebuildWindowTable", "lists all windows again", CALL),
         (2, "core/state.cpp", "Repaint", "repaints the map at once", CALL),
         (3, "app/main_window.cpp", "OnPaint", "paints on request of Windows", "UpdateWindow"),
-        (4, "toolwin/map.cpp", "PaintMap", "loops over the window table", CALL),
-        (5, "toolwin/map.cpp", "DrawWindow", "draws one box", CALL),
+        (4, "toolwin/map.cpp", "PaintMap", "copies a bitmap to the screen", CALL),
+        (5, "toolwin/map.cpp", "DrawMap", "loops over the window table", CALL),
+        (6, "toolwin/map.cpp", "DrawWindow", "draws one box", CALL),
     )),
 )
 

@@ -16,6 +16,12 @@ struct ButtonNumber {
     int flag;
 };
 
+struct MouseRecord {
+    POINT point; // client pixels
+    WPARAM keys; // MK_ flags
+    RECT map;    // of the map on the screen
+};
+
 } // namespace
 
 static const KeyFlag KeyFlags[] = {
@@ -26,6 +32,8 @@ static const KeyFlag KeyFlags[] = {
 
 // If several buttons match, the last one in this table counts.
 static const ButtonNumber ButtonNumbers[] = {{1, LBUTTON}, {2, RBUTTON}, {4, MBUTTON}};
+
+static MouseRecord LastMessage = {{}, ~WPARAM{0}, {}}; // flags that no message has
 
 static const int MODIFIERS = KEY_SHIFT | KEY_ALT | KEY_CTRL | KEY_WIN;
 
@@ -56,40 +64,51 @@ int MatchMouseAction(int flags, int button) {
     return NO_ACTION;
 }
 
-static void RunBinding(HWND window, int button, LPARAM lParam) {
+bool RecordMouseMessage(HWND map, POINT point, WPARAM keys) {
+    const MouseRecord before = LastMessage;
+    LastMessage = {point, keys, {}};
+    GetWindowRect(map, &LastMessage.map);
+    return point.x != before.point.x || point.y != before.point.y || keys != before.keys ||
+           !IsSameRect(LastMessage.map, before.map);
+}
+
+// Records the message first: the action may move the map.
+static void RunBinding(HWND window, int button, WPARAM wParam, LPARAM lParam) {
     const POINT at = MousePosition(lParam);
+    RecordMouseMessage(window, at, wParam);
     const int action = MatchMouseAction(GetHeldFlags(), button);
     if (action != NO_ACTION)
         DoAction(window, action, LastActiveWindow(), {static_cast<int>(at.x), static_cast<int>(at.y)});
 }
 
 // The capture comes last: a menu that the action opens would release it.
-LRESULT OnMapLeftPress(HWND window, UINT, WPARAM, LPARAM lParam) {
-    RunBinding(window, LBUTTON, lParam);
+LRESULT OnMapLeftPress(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
+    RunBinding(window, LBUTTON, wParam, lParam);
     SetCapture(window);
     return 0;
 }
 
-LRESULT OnMapRightPress(HWND window, UINT, WPARAM, LPARAM lParam) {
+LRESULT OnMapRightPress(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
     SetCapture(window);
-    RunBinding(window, RBUTTON, lParam);
+    RunBinding(window, RBUTTON, wParam, lParam);
     return 0;
 }
 
-LRESULT OnMapMiddlePress(HWND window, UINT, WPARAM, LPARAM lParam) {
+LRESULT OnMapMiddlePress(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
     SetCapture(window);
-    RunBinding(window, MBUTTON, lParam);
+    RunBinding(window, MBUTTON, wParam, lParam);
     return 0;
 }
 
 // The middle button runs its binding again when it is released.
-LRESULT OnMapMiddleRelease(HWND window, UINT, WPARAM, LPARAM lParam) {
-    RunBinding(window, MBUTTON, lParam);
+LRESULT OnMapMiddleRelease(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
+    RunBinding(window, MBUTTON, wParam, lParam);
     ReleaseCapture();
     return 0;
 }
 
-LRESULT OnMapRelease(HWND, UINT, WPARAM, LPARAM) {
+LRESULT OnMapRelease(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
+    RecordMouseMessage(window, MousePosition(lParam), wParam);
     ReleaseCapture();
     return 0;
 }

@@ -10,6 +10,11 @@ int GetHeldFlags();
 // flag, 0 for none, or a number: 1 left, 2 right, 4 middle; a button in `flags` takes precedence.
 int MatchMouseAction(int flags, int button);
 
+// Remembers a mouse message of the map: its client point and MK_ flags, and where the map is on the screen.
+// Returns false if all three are as in the last one. Windows sends such a move whenever a window appears or
+// disappears under the cursor, and after every press.
+bool RecordMouseMessage(HWND map, POINT point, WPARAM keys);
+
 // The handlers of the map's button messages. Between press and release the map has the capture.
 LRESULT OnMapLeftPress(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT OnMapRightPress(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -64,6 +64,8 @@ static void DescribePoint(ActionPoint map) {
 
 // The action that opens the menu does not replace the description.
 void OnToolwinMouseMove(HWND window, int x, int y, WPARAM buttons) {
+    if (!RecordMouseMessage(window, {x, y}, buttons))
+        return; // the mouse has not moved
     const int flags = GetHeldFlags() | ButtonsIn(buttons);
     if (ButtonsIn(buttons))
         BeginGesture(window, flags, x, y);

@@ -1,6 +1,7 @@
 // Moving the mouse over the map.
 #include "mouse/map_hover.h"
 
+#include "status/status_strip.h"
 #include "support/map_mouse.h"
 
 class MapHover : public MapTest {};
@@ -20,6 +21,29 @@ TEST_F(MapHover, DescribesTheWindowElseTheRegionElseThePoint) {
     EXPECT_EQ(LastStatus(), "Region 0: 50%s done, 32 characters of name [800, 480]");
     MoveOnMap(200, 80);
     EXPECT_EQ(LastStatus(), "Quorl: 3200, 1280");
+}
+
+// As Windows sends when another window appears under the cursor.
+static void RepeatMove() {
+    MoveBy(0, 0);
+}
+
+TEST_F(MapHover, IgnoresAMoveThatRepeatsTheLastMouseMessage) {
+    MoveOnMap(128, 48);
+    ShowTip("kept");
+    RepeatMove();
+    EXPECT_EQ(LastStatus(), "kept");
+    PressOnMap(VK_MBUTTON);
+    RunAction(ACTION_SCREEN_RIGHT);
+    RepeatMove();
+    EXPECT_EQ(VDesk.left, 2048) << "does not center the view again";
+    ReleaseOnMap(VK_MBUTTON); // does
+    ShowTip("kept");
+    RepeatMove();
+    EXPECT_EQ(LastStatus(), "kept");
+    WindowOf(MainWnd).rect = Moved(RectOf(MainWnd), 30, 0);
+    MoveBy(30, 0);
+    EXPECT_EQ(LastStatus(), "Quorl: 2048, 768") << "the map moved under the cursor";
 }
 
 TEST_F(MapHover, TheLeftButtonDragsTheMapUntilTheCombinationChanges) {

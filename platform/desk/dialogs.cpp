@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <utility>
 
-// Pixels of 4 horizontal and 8 vertical dialog units: MS Sans Serif at 8 points and 96 DPI.
+// Pixels of 4 horizontal and 8 vertical dialog units: MS Shell Dlg at 8 points and 96 DPI.
 constexpr int BASE_WIDTH = 6;
 constexpr int BASE_HEIGHT = 13;
 

@@ -237,6 +237,14 @@ static void ReadControls(Script& script, DialogTemplate& dialog) {
     }
 }
 
+// The only font whose dialog units are known here; see BASE_WIDTH in dialogs.cpp.
+static void CheckFont(Script& script) {
+    const int points = NextNumber(script);
+    const std::string face = NextText(script);
+    if (points != 8 || face != "MS Shell Dlg")
+        FailToParse("unknown font", std::to_string(points) + " " + face);
+}
+
 static DialogTemplate NextDialog(Script& script) {
     DialogTemplate dialog;
     dialog.rect = NextRect(script);
@@ -248,7 +256,7 @@ static DialogTemplate NextDialog(Script& script) {
         else if (token == "CAPTION")
             dialog.title = NextText(script);
         else if (token == "FONT")
-            script.next += 2;
+            CheckFont(script);
         else
             FailToParse("unknown dialog statement", token);
     }

@@ -8,7 +8,7 @@
 
 class ScaledDisplay : public DialogTest {
   protected:
-    void SetUp() override { QuorlTest::SetUp(); } // the cases start Quorl
+    void SetUp() override { PrepareDesk(); } // the cases start Quorl
 
     SIZE SpinnerSize() const {
         const RECT rect = RectOf(Item(IDC_OPTIONS_WIDTH_SPINNER));

@@ -354,7 +354,8 @@ void RestartTaskbar();
 // the other programs end if its shutdown level is above theirs.
 void LogOff(LPARAM reason = 0);
 
-// Optional functions: DwmGetWindowAttribute in dwmapi.dll; GetDpiForWindow in user32.dll.
+// Optional functions: DwmGetWindowAttribute in dwmapi.dll; GetDpiForWindow in user32.dll, GetDpiForMonitor
+// in shcore.dll.
 void InstallCompositor();
 void InstallDpiFunctions();
 

@@ -123,6 +123,14 @@ BOOL GetMonitorInfoA(HMONITOR monitor, MONITORINFO* info) {
     return TRUE;
 }
 
+HRESULT GetDpiForMonitor(HMONITOR monitor, int, UINT* dpiX, UINT* dpiY) {
+    const std::size_t index = IndexOf(monitor);
+    if (CallFails("GetDpiForMonitor") || index >= Desk.displays.size())
+        return static_cast<HRESULT>(0x80070057); // E_INVALIDARG
+    *dpiX = *dpiY = Desk.displays[index].dpi;
+    return 0;
+}
+
 int GetSystemMetrics(int index) {
     if (CallFails("GetSystemMetrics"))
         return 0;

@@ -69,4 +69,5 @@ void InstallDpiFunctions() {
     DeskModule& user = Desk.modules["user32.dll"];
     user.loads = 1;
     user.exports["GetDpiForWindow"] = Export(GetDpiForWindow);
+    Desk.modules["shcore.dll"].exports["GetDpiForMonitor"] = Export(GetDpiForMonitor);
 }

@@ -41,6 +41,11 @@ static void DisableUnless(ActionId id, bool bAvailable) {
         ActionTable[id].flags = ACTION_OFF;
 }
 
+static void FindScales() {
+    if (const HMODULE scaling = LoadLibraryA("shcore.dll"))
+        pGetDpiForMonitor = FindFunction<decltype(pGetDpiForMonitor)>(scaling, "GetDpiForMonitor");
+}
+
 static void FindCompositor() {
     if (const HMODULE compositor = LoadLibraryA("dwmapi.dll"))
         pDwmGetWindowAttribute =
@@ -93,6 +98,7 @@ bool StartUp(HINSTANCE instance) {
     RegisterMainClass(instance);
     FindOptionalFunctions();
     FindCompositor();
+    FindScales();
     RegisterTipClass(instance);
     EndFirstAtLogoff();
     const DWORD exStyle = pSetLayeredWindowAttributes ? MAP_STYLE | WS_EX_LAYERED : MAP_STYLE;

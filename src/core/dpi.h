@@ -7,3 +7,7 @@ constexpr int DEFAULT_DPI = 96; // a display that is not scaled
 
 // The resolution of the window's display, in dots per inch.
 int DpiOf(HWND window);
+
+// Whether Windows scales the window because its program cannot draw at the scale of its display. Such a
+// window is moved in whole pixels of its own scale. False if Windows does not say.
+bool IsScaledByWindows(HWND window);

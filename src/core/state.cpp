@@ -15,6 +15,7 @@ bool bDisplaysChanging;
 decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;
 decltype(&LockWorkStation) pLockWorkStation;
 UINT(WINAPI* pGetDpiForWindow)(HWND window);
+HRESULT(WINAPI* pGetDpiForMonitor)(HMONITOR monitor, int type, UINT* dpiX, UINT* dpiY);
 HRESULT(WINAPI* pDwmGetWindowAttribute)(HWND window, DWORD attribute, void* value, DWORD size);
 
 void Repaint(HWND window) {

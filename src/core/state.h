@@ -41,6 +41,7 @@ extern bool bDisplaysChanging;
 extern decltype(&SetLayeredWindowAttributes) pSetLayeredWindowAttributes;
 extern decltype(&LockWorkStation) pLockWorkStation;
 extern UINT(WINAPI* pGetDpiForWindow)(HWND window);
+extern HRESULT(WINAPI* pGetDpiForMonitor)(HMONITOR monitor, int type, UINT* dpiX, UINT* dpiY);
 extern HRESULT(WINAPI* pDwmGetWindowAttribute)(HWND window, DWORD attribute, void* value, DWORD size);
 
 // Repaints the window before returning.

@@ -1,6 +1,7 @@
 #include "scroll/shift.h"
 
 #include "actions/action_table.h"
+#include "core/dpi.h"
 #include "core/rect.h"
 #include "core/state.h"
 #include "windows/locked_windows.h"
@@ -21,6 +22,21 @@ struct ShiftRow {
 static ShiftRow Shifts[MAX_WINDOWS];
 static bool bShifting;
 
+static const int ROUNDING = 2; // pixels by which a window that Windows scales can miss its position
+
+namespace {
+
+// Where the last scroll asked a window to be.
+struct RequestRow {
+    HWND window;
+    POINT corner; // screen pixels
+};
+
+} // namespace
+
+static RequestRow Requests[MAX_WINDOWS];
+static int num_requests;
+
 bool MayScroll() {
     return !bQuitting && !bDisplaysChanging && !bShifting;
 }
@@ -38,13 +54,43 @@ POINT ShiftedCorner(const RECT& window, int dx, int dy, const RECT& vdesk, const
             ShiftedCoordinate(window.top, dy, Height(window), vdesk.top, quorl.bottom, border)};
 }
 
-// Programs that carry their palettes along would otherwise have them moved twice.
+// The window's request, or null. Windows are moved from the bottom of the table to the top and read from the
+// top: `next` is where the search starts, the request that was made before the last one found.
+static const RequestRow* FindRequest(HWND window, int* next) {
+    for (int step = 0; step < num_requests; ++step) {
+        const int index = (*next - step + num_requests) % num_requests;
+        if (Requests[index].window != window)
+            continue;
+        *next = (index - 1 + num_requests) % num_requests;
+        return &Requests[index];
+    }
+    return nullptr;
+}
+
+// A window that Windows scales misses its position by a pixel or two. The next scroll starts from where it
+// should be, so that the errors do not add up.
+static void UndoRounding(ShiftRow* row, const RequestRow* request) {
+    if (!request)
+        return;
+    RECT& visible = row->frame.visible;
+    const int dx = Wrap(0LL + request->corner.x - visible.left);
+    const int dy = Wrap(0LL + request->corner.y - visible.top);
+    const bool bClose = dx >= -ROUNDING && dx <= ROUNDING && dy >= -ROUNDING && dy <= ROUNDING;
+    if ((dx || dy) && bClose && IsScaledByWindows(row->window))
+        visible = Offset(visible, dx, dy);
+}
+
+// Read all positions before moving any window: a program that moves its palettes along with its main window
+// would otherwise have them moved twice.
 static int ReadPositions(POINT by) {
+    int next = num_requests - 1;
     for (int i = 0; i < num_windows; ++i) {
         ShiftRow& row = Shifts[i];
         row.window = WindowTable[i].hwnd;
         row.bMoves = IsManagedWindow(row.window, &row.frame) && !IsLockedWindow(row.window);
         row.by = by;
+        if (row.bMoves)
+            UndoRounding(&row, FindRequest(row.window, &next));
     }
     return num_windows;
 }
@@ -55,8 +101,9 @@ static void MoveRow(ShiftRow& row) {
         return;
     if (IsOn(ACTION_RESTORE_MAXIMIZED) && !RestoreIfZoomed(row.window, &row.frame))
         return;
-    PingMoveAndShow(row.window, row.frame,
-                    ShiftedCorner(row.frame.visible, row.by.x, row.by.y, VDesk, Quorl, Options.border));
+    const POINT corner = ShiftedCorner(row.frame.visible, row.by.x, row.by.y, VDesk, Quorl, Options.border);
+    PingMoveAndShow(row.window, row.frame, corner);
+    Requests[num_requests++] = {row.window, corner};
 }
 
 static void ScrollRow(ShiftRow& row) {
@@ -68,6 +115,7 @@ static void ScrollRow(ShiftRow& row) {
 // From the bottom to the top: owners are below the windows that they own. Ends when the user quits meanwhile.
 static void MoveAll(int count, void (*move)(ShiftRow& row)) {
     bShifting = true;
+    num_requests = 0;
     for (int i = count - 1; i >= 0 && !bQuitting; --i)
         move(Shifts[i]);
     bShifting = false;

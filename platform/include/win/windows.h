@@ -142,6 +142,7 @@ BOOL WINAPI SetWindowPos(HWND window, HWND after, int x, int y, int width, int h
 BOOL WINAPI GetWindowPlacement(HWND window, WINDOWPLACEMENT* placement);
 BOOL WINAPI SetWindowPlacement(HWND window, const WINDOWPLACEMENT* placement);
 UINT WINAPI GetDpiForWindow(HWND window);
+HRESULT WINAPI GetDpiForMonitor(HMONITOR monitor, int type, UINT* dpiX, UINT* dpiY);
 BOOL WINAPI ShowWindow(HWND window, int command);
 BOOL WINAPI IsWindowVisible(HWND window);
 BOOL WINAPI IsWindowEnabled(HWND window);

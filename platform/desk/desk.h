@@ -246,8 +246,16 @@ struct DeskDisplay {
         : rect(area), work(workArea), name(std::move(device)), dpi(pixelsPerInch) {}
 };
 
+// A window whose display changed.
+struct DeskAffectedWindow {
+    HWND window;
+    RECT before;
+    RECT after;
+};
+
 struct DeskState {
     std::deque<DeskWindow> windows; // every window ever created; handles are indices into it
+    HWND desktop = nullptr;         // GetDesktopWindow
     std::vector<HWND> zOrder;       // existing top-level windows, topmost first
     std::map<std::string, WNDCLASSA> classes;
     HWND foreground = nullptr;
@@ -279,6 +287,7 @@ struct DeskState {
 
     int pixelsPerInch{96}; // of the system: GetDeviceCaps, size of small icons
     std::vector<DeskDisplay> displays{RECT{0, 0, 1024, 768}}; // the first is the primary one
+    std::vector<DeskAffectedWindow> affected;                 // wait for RelocateWindows
     RECT frameMargins{}; // invisible part of sizable frames; {7, 0, 7, 7} on Windows 10 and 11
     std::map<std::string, DeskModule> modules; // by lower-case name
     std::map<std::string, std::string>
@@ -315,6 +324,9 @@ struct DeskState {
     std::deque<DeskContext> contexts;
     std::vector<DeskDrawCall> drawCalls;
     int deletedInUse = 0; // objects deleted while selected
+    DeskObject* stockObjects[4] = {};
+    DeskObject* systemBrushes[32] = {}; // by colour
+    DeskObject* whitePen = nullptr;
 
     DWORD lastError = 0;
     LPTOP_LEVEL_EXCEPTION_FILTER crashFilter = nullptr;

@@ -55,8 +55,7 @@ static std::size_t StockIndex(DeskObjectKind kind) {
 
 // Selected in a new context.
 static HGDIOBJ StockObject(DeskObjectKind kind) {
-    static DeskObject* stock[4];
-    DeskObject*& object = stock[StockIndex(kind)];
+    DeskObject*& object = Desk.stockObjects[StockIndex(kind)];
     if (!object)
         object = NewObject(kind, -1, 1);
     object->color = 0xffffff;
@@ -142,10 +141,9 @@ DWORD GetSysColor(int index) {
 }
 
 HBRUSH GetSysColorBrush(int index) {
-    static DeskObject* brushes[32];
     if (CallFails("GetSysColorBrush"))
         return nullptr;
-    DeskObject*& brush = brushes[index & 31];
+    DeskObject*& brush = Desk.systemBrushes[index & 31];
     if (!brush)
         brush = NewObject(DeskObjectKind::Brush, index, 1);
     return reinterpret_cast<HBRUSH>(brush);
@@ -164,7 +162,7 @@ HFONT CreateFontA(int height, int, int, int, int weight, DWORD, DWORD, DWORD, DW
 
 // Only WHITE_PEN.
 HGDIOBJ GetStockObject(int index) {
-    static DeskObject* pen;
+    DeskObject*& pen = Desk.whitePen;
     if (CallFails("GetStockObject") || index != WHITE_PEN)
         return nullptr;
     if (!pen)

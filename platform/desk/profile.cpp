@@ -2,6 +2,8 @@
 #include "internal.h"
 
 #include <algorithm>
+#include <map>
+#include <optional>
 #include <string_view>
 
 namespace {
@@ -11,9 +13,13 @@ struct Line {
     std::size_t end;   // after the last character, without the line break
 };
 
-struct Entry {
-    Line line;
-    std::string value;
+// The text of a file and the lines of one of its sections.
+struct Section {
+    std::string text;
+    std::string name;
+    std::size_t start;                   // offset after its heading, or npos
+    std::size_t end;                     // offset after its last non-blank line
+    std::map<std::string, Line> entries; // by lower-case key; the first of that name
 };
 
 } // namespace
@@ -67,19 +73,6 @@ static std::size_t SectionStart(const std::string& text, const std::string& sect
     return std::string::npos;
 }
 
-// Offset after the last non-blank line of the section that begins at `at`.
-static std::size_t SectionEnd(const std::string& text, std::size_t at) {
-    std::size_t end = at;
-    for (; at < text.size(); at = NextLine(text, at)) {
-        const Line line = LineAt(text, at);
-        if (IsHeading(text, line))
-            break;
-        if (!Trimmed(text, line.start, line.end).empty())
-            end = NextLine(text, at);
-    }
-    return end;
-}
-
 // Quotes around the whole value are not part of it.
 static std::string_view WithoutQuotes(std::string_view value) {
     const bool quoted =
@@ -87,32 +80,56 @@ static std::string_view WithoutQuotes(std::string_view value) {
     return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
-static bool FindEntry(const std::string& text, const std::string& section, const std::string& key,
-                      Entry* found) {
-    for (std::size_t at = SectionStart(text, section); at < text.size(); at = NextLine(text, at)) {
-        const Line line = LineAt(text, at);
-        if (IsHeading(text, line))
-            return false;
-        const std::size_t equals = std::min(text.find('=', line.start), line.end);
-        if (equals == line.end || !IsSame(Trimmed(text, line.start, equals), key))
-            continue;
-        *found = {line, std::string(WithoutQuotes(Trimmed(text, equals + 1, line.end)))};
-        return true;
-    }
-    return false; // also without such a section
+static std::size_t EqualsSign(const std::string& text, const Line& line) {
+    return std::min(text.find('=', line.start), line.end);
 }
 
-static bool FindStored(LPCSTR section, LPCSTR key, LPCSTR file, Entry* found) {
+static void ReadSection(Section* section) {
+    const std::string& text = section->text;
+    section->entries.clear();
+    section->start = section->end = SectionStart(text, section->name);
+    for (std::size_t at = section->start; at < text.size(); at = NextLine(text, at)) {
+        const Line line = LineAt(text, at);
+        if (IsHeading(text, line))
+            break;
+        if (!Trimmed(text, line.start, line.end).empty())
+            section->end = NextLine(text, at);
+        if (const std::size_t equals = EqualsSign(text, line); equals != line.end)
+            section->entries.emplace(LowerCase(std::string(Trimmed(text, line.start, equals))), line);
+    }
+}
+
+// The section read last is kept: a program reads and writes many keys of the same one.
+static Section& SectionOf(const std::string& text, const std::string& name) {
+    static Section kept;
+    if (kept.text != text || kept.name != name) {
+        kept.text = text;
+        kept.name = name;
+        ReadSection(&kept);
+    }
+    return kept;
+}
+
+// Empty without such an entry.
+static std::optional<std::string> FindValue(LPCSTR name, LPCSTR key, LPCSTR file) {
     const auto content = Desk.files.find(FileKey(file));
-    return content != Desk.files.end() && FindEntry(content->second, section, key, found);
+    if (content == Desk.files.end())
+        return {};
+    const Section& section = SectionOf(content->second, name);
+    const auto found = section.entries.find(LowerCase(key));
+    if (found == section.entries.end())
+        return {};
+    const Line& line = found->second;
+    const std::string& text = section.text;
+    return std::string(WithoutQuotes(Trimmed(text, EqualsSign(text, line) + 1, line.end)));
 }
 
 DWORD GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR absent, LPSTR text, DWORD size,
                                LPCSTR file) {
-    Entry entry;
-    if (CallFails("GetPrivateProfileStringA") || !FindStored(section, key, file, &entry))
-        entry.value = absent;
-    return static_cast<DWORD>(CopyText(entry.value, text, static_cast<int>(size)));
+    std::optional<std::string> value;
+    if (!CallFails("GetPrivateProfileStringA"))
+        value = FindValue(section, key, file);
+    return static_cast<DWORD>(CopyText(value.value_or(absent), text, static_cast<int>(size)));
 }
 
 // Digits after an optional sign; numbers above 32 bits wrap around.
@@ -126,26 +143,43 @@ static UINT NumberIn(const std::string& value) {
 }
 
 UINT GetPrivateProfileIntA(LPCSTR section, LPCSTR key, int absent, LPCSTR file) {
-    Entry entry;
-    if (CallFails("GetPrivateProfileIntA") || !FindStored(section, key, file, &entry) || entry.value.empty())
-        return static_cast<UINT>(absent);
-    return NumberIn(entry.value);
+    std::optional<std::string> value;
+    if (!CallFails("GetPrivateProfileIntA"))
+        value = FindValue(section, key, file);
+    return value.value_or("").empty() ? static_cast<UINT>(absent) : NumberIn(*value);
+}
+
+// Replaces a line of the section, or adds one where `line` is empty.
+static void PutLine(Section* section, const std::string& lowerKey, const Line& line,
+                    const std::string& replacement) {
+    const std::size_t before = section->text.size();
+    section->text.replace(line.start, line.end - line.start, replacement);
+    if (replacement.find('\n') < replacement.size() - 2)
+        return ReadSection(section);                         // the value has several lines
+    const std::size_t added = section->text.size() - before; // modulo 2^64, as all offsets
+    if (added && section->end != line.start)
+        for (auto& [name, later] : section->entries)
+            if (later.start > line.start)
+                later = {later.start + added, later.end + added};
+    section->end += added;
+    section->entries[lowerKey] = LineAt(section->text, line.start);
 }
 
 BOOL WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file) {
     if (CallFails("WritePrivateProfileStringA") || Desk.protectedFiles.contains(FileKey(file)))
         return FALSE;
     std::string& content = Desk.files[FileKey(file)];
-    const std::string line = std::string(key) + "=" + text;
-    Entry entry;
-    if (FindEntry(content, section, key, &entry)) {
-        content.replace(entry.line.start, entry.line.end - entry.line.start, line);
-        return TRUE;
-    }
-    if (!content.empty() && content.back() != '\n')
+    const std::string lowerKey = LowerCase(key);
+    const Section& stored = SectionOf(content, section);
+    const bool isNew = !stored.entries.contains(lowerKey);
+    if (isNew && !content.empty() && content.back() != '\n')
         content += "\r\n";
-    if (SectionStart(content, section) == std::string::npos)
+    if (isNew && stored.start == std::string::npos)
         content += "[" + std::string(section) + "]\r\n";
-    content.insert(SectionEnd(content, SectionStart(content, section)), line + "\r\n");
+    Section& extended = SectionOf(content, section);
+    const Line target = isNew ? Line{extended.end, extended.end} : extended.entries[lowerKey];
+    const std::string line = std::string(key) + "=" + text + (isNew ? "\r\n" : "");
+    content.replace(target.start, target.end - target.start, line);
+    PutLine(&extended, lowerKey, target, line);
     return TRUE;
 }

@@ -4,19 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-// A window whose display changed, with the rectangle it had before.
-struct AffectedWindow {
-    HWND window;
-    RECT before;
-    RECT after;
-};
-
-} // namespace
-
-static std::vector<AffectedWindow> Affected;
-
 // Windows of this process, from the top.
 static std::vector<HWND> OwnWindows() {
     std::vector<HWND> windows;
@@ -58,7 +45,7 @@ static RECT RectAfterChange(const DeskWindow& window, const DeskDisplay& from, c
 
 // Windows that no display shows, minimized and hidden ones stay where they are.
 static void CollectAffected(const std::vector<DeskDisplay>& before) {
-    Affected.clear();
+    Desk.affected.clear();
     for (const HWND handle : Desk.zOrder) {
         const DeskWindow& window = WindowOf(handle);
         const std::size_t from = DisplayShowing(before, window.rect);
@@ -67,7 +54,7 @@ static void CollectAffected(const std::vector<DeskDisplay>& before) {
         const std::size_t kept = FindByName(Desk.displays, DisplayName(before, from));
         const bool removed = kept == Desk.displays.size();
         const DeskDisplay& to = Desk.displays[removed ? 0 : kept];
-        Affected.push_back({handle, window.rect, RectAfterChange(window, before[from], to, removed)});
+        Desk.affected.push_back({handle, window.rect, RectAfterChange(window, before[from], to, removed)});
     }
 }
 
@@ -77,7 +64,7 @@ static void SendToOwn(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void RelocateWindows() {
-    for (const AffectedWindow& affected : std::exchange(Affected, {})) {
+    for (const DeskAffectedWindow& affected : std::exchange(Desk.affected, {})) {
         DeskWindow* window = LiveWindow(affected.window);
         const auto same = [](const RECT& a, const RECT& b) {
             return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;

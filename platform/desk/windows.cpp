@@ -167,7 +167,7 @@ BOOL EnumWindows(WNDENUMPROC callback, LPARAM parameter) {
 }
 
 HWND GetDesktopWindow() {
-    static HWND desktop;
+    HWND& desktop = Desk.desktop;
     if (CallFails("GetDesktopWindow"))
         return nullptr;
     if (!desktop) {

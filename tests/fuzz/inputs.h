@@ -1,4 +1,4 @@
-// The fuzzers' test functions. Quorl's state lasts as long as its process, so each call needs a new one.
+// The fuzzers' test functions. Each call needs a new process or ResetProgram.
 #pragma once
 
 #include <string_view>
@@ -7,6 +7,9 @@
 // there at startup rather than loaded later. Bit 1: the rest follows foreign lines in Quorl's own section.
 void TestSettings(std::string_view input);
 
-// Bytes as a sequence of random steps of the user, of other programs and of the system. Checks after each
-// step and at the end what must always hold.
+// Bytes as a sequence of random steps of the user, of other programs and of the system, with exit or log-off
+// as the end. Checks after each step and at the end what must always hold.
+void TestSession(std::string_view input);
+
+// The same, and that the next start finds what was saved.
 void TestRun(std::string_view input);

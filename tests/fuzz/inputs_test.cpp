@@ -1,12 +1,13 @@
 // The kept inputs of the fuzzers, every one that found a fault among them, and random ones.
 #include "fuzz/inputs.h"
-#include "support/faults.h"
+#include "fuzz/reset.h"
 #include "support/quorl_test.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <tuple>
 
 using FuzzInputs = QuorlTest;
 
@@ -15,7 +16,9 @@ static void TestEach(const char* folder, void (*test)(std::string_view input)) {
         std::ifstream stream(file.path(), std::ios::binary);
         const std::string input{std::istreambuf_iterator<char>(stream), {}};
         EXPECT_NE(input, "");
-        EXPECT_TRUE(PassesInOwnProcess([&] { test(input); })) << file.path();
+        SCOPED_TRACE(file.path());
+        ResetProgram();
+        test(input);
     }
 }
 
@@ -27,14 +30,38 @@ TEST_F(FuzzInputs, KeptRunsLoseNoWindow) {
     TestEach(CORPUS "/runs", TestRun);
 }
 
+static std::string RandomInput(unsigned seed) {
+    std::mt19937 random(seed);
+    std::string bytes(random() % 600, 0);
+    for (char& byte : bytes)
+        byte = static_cast<char>(random());
+    return bytes;
+}
+
 TEST_F(FuzzInputs, RandomRunsLoseNoWindow) {
-    for (unsigned seed = 0; seed < 300; ++seed)
-        EXPECT_TRUE(PassesInOwnProcess([seed] {
-            std::mt19937 random(seed);
-            std::string bytes(random() % 600, 0);
-            for (char& byte : bytes)
-                byte = static_cast<char>(random());
-            TestRun(bytes);
-            EXPECT_EQ(Desk.unexpected, 0);
-        })) << seed;
+    for (unsigned seed = 0; seed < 300; ++seed) {
+        SCOPED_TRACE(seed);
+        ResetProgram();
+        TestRun(RandomInput(seed));
+    }
+}
+
+// What a run in this process did and left behind.
+static auto OutcomeOf(const std::string& input) {
+    ResetProgram();
+    TestSession(input);
+    std::vector<RECT> rects;
+    for (const DeskWindow& window : Desk.windows)
+        rects.push_back(window.rect);
+    return std::tuple(Desk.trace, rects, Desk.files);
+}
+
+TEST_F(FuzzInputs, ResetRestoresTheFirstState) {
+    const std::string input = RandomInput(1);
+    const auto first = OutcomeOf(input);
+    EXPECT_GT(std::get<0>(first).size(), 10000U);
+    EXPECT_TRUE(OutcomeOf(input) == first);
+    for (unsigned other = 100; other < 400; ++other)
+        OutcomeOf(RandomInput(other));
+    EXPECT_TRUE(OutcomeOf(input) == first);
 }

@@ -2,14 +2,16 @@
 
 #include "actions/dispatch.h"
 #include "app/main.h"
+#include "core/displays.h"
 #include "dialogs/registry.h"
 #include "menus/menu_list.h"
 #include "hook/hook_message.h"
+#include "fuzz/reset.h"
 #include "regions/region_table.h"
 #include "scroll/scroll_view.h"
-#include "windows/window_table.h"
 #include "settings/ini.h"
 #include "support/map_mouse.h"
+#include "windows/window_table.h"
 
 #include <algorithm>
 
@@ -143,12 +145,62 @@ void GoToOther(Bytes& bytes) {
         SetForegroundWindow(window);
 }
 
-void ChangeDisplays(Bytes& bytes) {
-    const int width = bytes.OneOf({1024, 640, 1920, 3840});
-    Desk.displays = {Rect(0, 0, width, width < 1900 ? width * 3 / 4 : width * 9 / 16)};
-    if (bytes.Byte() % 4 == 0)
-        Desk.displays.push_back(Rect(width, 0, width + 800, 600));
-    SendMessageA(MainWnd, WM_SETTINGCHANGE, 0, 0);
+// One to three displays side by side, the primary one at the origin. A display that stays keeps its name.
+void PlugDisplays(Bytes& bytes) {
+    std::vector<DeskDisplay> displays;
+    LONG left = 0, right = 0;
+    const int name = bytes.Byte();
+    for (int more = bytes.Byte() % 3; more >= 0; --more) {
+        const SIZE size = bytes.OneOf<SIZE>({{1024, 768}, {640, 480}, {1920, 1080}, {3840, 2160}});
+        const int layout = displays.empty() ? 0 : bytes.Byte();
+        const LONG x = layout % 2 ? left - size.cx : right;
+        const LONG y = displays.empty() ? 0 : bytes.Below(480) - 240;
+        RECT work{x, y, x + size.cx, y + size.cy};
+        left = std::min(left, work.left);
+        right = std::max(right, work.right);
+        const RECT rect = work;
+        work.bottom -= layout & 2 ? 0 : 40;
+        work.top += layout & 4 ? 40 : 0;
+        displays.emplace_back(rect, work, std::string(1, static_cast<char>('A' + (name + more) % 4)),
+                              bytes.OneOf<UINT>({96, 120, 144, 192}));
+    }
+    ChangeDisplays(displays, bytes.Byte() % 4 != 0);
+}
+
+bool IsOverlay(const DeskWindow& window) {
+    return window.exStyle & WS_EX_TRANSPARENT && !window.owner;
+}
+
+void ChangeTraits(Bytes& bytes) {
+    DeskWindow& window = SomeOther(bytes);
+    const HWND owner = SomeOther(bytes).handle;
+    const int trait = bytes.Byte() % 7;
+    window.elevated = trait == 1;
+    window.cloaked = trait == 2;
+    window.dpiAware = trait != 3;
+    window.style = trait == 4 ? window.style | WS_DISABLED : window.style & ~WS_DISABLED;
+    const DWORD overlay = WS_EX_LAYERED | WS_EX_TRANSPARENT;
+    window.exStyle = trait == 5 ? window.exStyle | overlay : window.exStyle & ~overlay;
+    const bool isPalette = trait == 6 && owner < window.handle;
+    window.owner = isPalette ? owner : nullptr;
+    if (window.owner)
+        WindowOf(owner).movesOwned = true;
+}
+
+void HoldSomeHotkey(Bytes& bytes) {
+    if (Desk.hotkeys.empty())
+        return;
+    const DeskHotkey hotkey = Desk.hotkeys[bytes.Index(Desk.hotkeys.size())];
+    HoldHotkey(hotkey.modifiers, hotkey.key, 1 + bytes.Byte() % 8);
+    HandleMessages();
+}
+
+void ChangeTheSystem(Bytes& bytes) {
+    if (bytes.Byte() % 2)
+        RestartTaskbar();
+    else
+        RelocateWindows();
+    HandleMessages();
 }
 
 void LetTimePass(Bytes& bytes) {
@@ -194,10 +246,10 @@ void PressAKey(Bytes& bytes) {
 
 // Frequent steps are listed several times.
 const auto Steps = {
-    RunAnyAction, RunAnyAction, RunAnyAction, JumpToRegion,   ChooseFromMenu, MoveTheMouse,
-    UseTheMap,    UseTheMap,    OpenOther,    OpenOther,      ChangeOther,    ChangeResponse,
-    EndOther,     ShowOther,    GoToOther,    ChangeDisplays, LetTimePass,    LetTimePass,
-    FailACall,    UseADialog,   UseADialog,   UseADialog,     EditSettings,   PressAKey,
+    RunAnyAction,    RunAnyAction, RunAnyAction, JumpToRegion, ChooseFromMenu, MoveTheMouse, UseTheMap,
+    UseTheMap,       OpenOther,    OpenOther,    ChangeOther,  ChangeResponse, EndOther,     ShowOther,
+    GoToOther,       PlugDisplays, LetTimePass,  LetTimePass,  ChangeTraits,   ChangeTraits, HoldSomeHotkey,
+    ChangeTheSystem, FailACall,    UseADialog,   UseADialog,   UseADialog,     EditSettings, PressAKey,
 };
 
 void ExpectValidState() {
@@ -227,22 +279,60 @@ void ExpectSavedToLoad() {
     EXPECT_EQ(Desk.files[SETTINGS_FILE], saved);
 }
 
-void ExpectWindowsAndResourcesBack() {
-    std::vector<HWND> windows; // FoldWindows walks those that are managed when the user says Yes
-    std::copy_if(Others.begin(), Others.end(), std::back_inserter(windows), [](HWND window) {
-        const DeskWindow& other = WindowOf(window);
-        return other.response == DeskResponse::Responds && !other.overridesMove && !other.diesAtCall &&
-               IsManagedWindow(window);
+bool MovesWithOwner(const DeskWindow& window) {
+    return window.owner && WindowOf(window.owner).movesOwned;
+}
+
+// No scroll and no exit may move these.
+std::vector<std::pair<HWND, RECT>> FixedWindows() {
+    std::vector<std::pair<HWND, RECT>> fixed;
+    for (const HWND handle : Others) {
+        const DeskWindow& window = WindowOf(handle);
+        if ((window.elevated || window.className == "Shell_TrayWnd" || IsOverlay(window)) &&
+            !MovesWithOwner(window) && !window.diesAtCall)
+            fixed.emplace_back(handle, window.rect);
+    }
+    return fixed;
+}
+
+// Every other window that the user sees, and that lets itself be moved.
+std::vector<HWND> WindowsToKeepInReach() {
+    std::vector<HWND> windows;
+    std::copy_if(Others.begin(), Others.end(), std::back_inserter(windows), [](HWND handle) {
+        const DeskWindow& window = WindowOf(handle);
+        return window.handle && window.style & WS_VISIBLE && window.response == DeskResponse::Responds &&
+               !window.overridesMove && !window.diesAtCall && !window.elevated && !IsOverlay(window) &&
+               !MovesWithOwner(window) && window.className != "Shell_TrayWnd" &&
+               window.className != "BaseBar";
     });
+    return windows;
+}
+
+// Also after log-off ended its program.
+void ExpectInReach(HWND handle) {
+    const DeskWindow& window = WindowOf(handle);
+    const RECT rect = FromWindows(window.style & WS_MINIMIZE ? window.normalRect : VisibleRect(handle));
+    EXPECT_TRUE(rect.right - rect.left < 5 || rect.bottom - rect.top < 5 || IsTitleInReach(rect))
+        << testing::PrintToString(rect) << " of " << testing::PrintToString(ScreenRect);
+}
+
+void End(bool logsOff) {
     AnswerAll(IDYES);
-    RunAction(ACTION_EXIT);
+    if (logsOff)
+        LogOff();
+    else
+        RunAction(ACTION_EXIT);
     EXPECT_TRUE(bQuitting);
     ShutDown();
-    for (const HWND window : windows) {
-        const RECT rect = RectOf(window);
-        EXPECT_TRUE(rect.left >= 0 && rect.left < ScreenW() && rect.top >= 0 && rect.top < ScreenH())
-            << testing::PrintToString(rect);
-    }
+}
+
+void ExpectWindowsAndResourcesBack(bool logsOff, const std::vector<std::pair<HWND, RECT>>& fixed) {
+    const std::vector<HWND> windows = WindowsToKeepInReach();
+    End(logsOff);
+    for (const HWND window : windows)
+        ExpectInReach(window);
+    for (const auto& [window, rect] : fixed)
+        EXPECT_EQ(RectOf(window), rect);
     EXPECT_TRUE(Desk.tray.empty());
     for (const DeskHotkey& hotkey : Desk.hotkeys) // those of regions end with the process
         EXPECT_TRUE(hotkey.window != MainWnd || hotkey.id >= FIRST_REGION_ID);
@@ -254,9 +344,18 @@ void ExpectWindowsAndResourcesBack() {
 
 } // namespace
 
-void TestRun(std::string_view input) {
+void TestSession(std::string_view input) {
     Bytes bytes{input.data(), input.data() + input.size()};
+    Faults = 0;
+    Others.clear();
     PrepareDesk();
+    const int setup = bytes.Byte();
+    if (setup & 1)
+        InstallCompositor();
+    Desk.frameMargins = setup & 2 ? RECT{7, 0, 7, 7} : RECT{};
+    if (setup & 4)
+        InstallDpiFunctions();
+    Desk.foregroundLock = Desk.clicksActivate = setup & 8;
     AnswerAll(IDOK);
     StartQuorl();
     while (bytes.next < bytes.end && !testing::Test::HasFailure()) {
@@ -268,10 +367,27 @@ void TestRun(std::string_view input) {
         ExpectValidState();
     }
     Desk.fault = {};
+    RelocateWindows();
     // A display change takes effect at the next mouse move.
     PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0);
     Wait(2000);
+    const auto fixed = FixedWindows();
     ExpectScrollingToBeClamped();
     ExpectSavedToLoad();
-    ExpectWindowsAndResourcesBack();
+    ExpectWindowsAndResourcesBack(setup & 16, fixed);
+}
+
+void TestRun(std::string_view input) {
+    TestSession(input);
+    const bool loads = IsOn(ACTION_LOAD_AT_START);
+    const auto files = Desk.files;
+    const auto displays = Desk.displays;
+    ResetProgram();
+    PrepareDesk();
+    Desk.files = files;
+    Desk.displays = displays;
+    AnswerAll(IDOK);
+    StartQuorl();
+    RunAction(ACTION_SAVE_SETTINGS);
+    EXPECT_TRUE(!loads || Desk.files == files) << Desk.files[SETTINGS_FILE];
 }

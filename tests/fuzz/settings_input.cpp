@@ -29,7 +29,7 @@ void TestSettings(std::string_view input) {
     if (input.empty())
         return;
     const int flags = static_cast<unsigned char>(input[0]);
-    Desk.recording = false;
+    PrepareDesk();
     Desk.boxAnswers.assign(std::size_t{6} * NUM_ACTIONS, IDOK); // boxes of refused hotkeys
     StartQuorl();
     Desk.files[SETTINGS_FILE] = (flags & 2 ? FOREIGN : "") + std::string(input.substr(1));

@@ -32,7 +32,10 @@ void QuorlTest::SetUp() {
 
 void QuorlTest::TearDown() {
     EXPECT_EQ(Desk.unexpected, 0) << "an unexpected box, or a call that would have blocked: " << LastBox();
-    // Controls free their memory when they are destroyed, which the end of the process does not do.
+    FreeControls();
+}
+
+void FreeControls() {
     Desk.fault = {};
     for (const DeskWindow& window : Desk.windows)
         if (window.handle && window.procedure && window.style & WS_CHILD)

@@ -13,6 +13,9 @@
 // A screen of 1024 by 768, the optional system functions, and a hook library that records its calls.
 void PrepareDesk();
 
+// Destroys all controls, which frees their memory; the end of the process does not.
+void FreeControls();
+
 class QuorlTest : public testing::Test {
   protected:
     void SetUp() override;    // PrepareDesk

@@ -1,0 +1,6 @@
+// Starting over in the same process.
+#pragma once
+
+// Restores the state that the program, the in-memory desktop and the test support had at the first call.
+// Whether the desktop records stays as it is.
+void ResetProgram();

@@ -350,9 +350,10 @@ void TestSession(std::string_view input) {
     Others.clear();
     PrepareDesk();
     const int setup = bytes.Byte();
-    if (setup & 1)
+    if (setup & 1) {
         InstallCompositor();
-    Desk.frameMargins = setup & 2 ? RECT{7, 0, 7, 7} : RECT{};
+        Desk.frameMargins = setup & 2 ? RECT{7, 0, 7, 7} : RECT{};
+    }
     if (setup & 4)
         InstallDpiFunctions();
     Desk.foregroundLock = Desk.clicksActivate = setup & 8;

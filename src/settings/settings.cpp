@@ -9,7 +9,7 @@
 #include "settings/regions_file.h"
 
 static void ReadSettings(bool (&bStored)[NUM_ACTIONS]) {
-    ResetRegions(0); // moving the map paints it
+    ResetRegions(0); // LoadOptions may repaint the map; do not draw the old regions
     LoadOptions(SETTINGS_FILE);
     LoadRegions(SETTINGS_FILE);
     ReadActions(SETTINGS_FILE, bStored);

@@ -75,7 +75,7 @@ class WholeWay : public TwoDisplays {
     }
 
     void ExpectEverythingWhereItWas() {
-        EXPECT_TRUE(IsTitleInReach(FromWindows(VisibleRect(active))));
+        EXPECT_TRUE(IsTitleInReach(FromSystem(VisibleRect(active))));
         for (const Kept& row : kept) {
             const RECT now = RectOf(row.window);
             EXPECT_NEAR(now.left, row.rect.left, row.tolerance) << WindowOf(row.window).title;

@@ -110,6 +110,15 @@ TEST_F(Dialogs, PressedRadioButtonUnchecksTheVisibleOnesOfItsGroup) {
     EXPECT_EQ(Notified(BN_CLICKED), Numbers{IDC_OPTIONS_LEFT_CLICK});
 }
 
+TEST_F(Dialogs, ListBoxOfADialogCreatedByAnACallKeepsUtf16) {
+    const std::wstring text = L"\u0416\u6f22 a";
+    const HWND box = GetDlgItem(OpenTemplate(IDD_CUSTOMIZE_MENU), IDC_MENU_LIST);
+    EXPECT_EQ(SendMessageW(box, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str())), 0);
+    WCHAR read[16] = {};
+    EXPECT_EQ(SendMessageW(box, LB_GETTEXT, 0, reinterpret_cast<LPARAM>(read)), 4);
+    EXPECT_EQ(read, text);
+}
+
 TEST_F(Dialogs, ListsReturnInsertedIndicesKeepItemDataAndFindWholeTexts) {
     constexpr int SORTED = IDC_MENU_ACTIONS, UNSORTED = IDC_MENU_LIST;
     const HWND dialog = ShowTemplate(IDD_CUSTOMIZE_MENU);

@@ -79,4 +79,19 @@ TEST_F(Input, OtherProgramsWindowTakesTheForegroundButNotTheFocus) {
     }
 }
 
+TEST_F(Input, PressOnAnInactiveWindowCanLeaveItInactive) {
+    Handlers[WM_MOUSEACTIVATE] = [](const MSG&) { return MA_NOACTIVATE; };
+    OpenOwn(WS_POPUP | WS_VISIBLE, WS_EX_TOPMOST, {300, 300, 500, 400});
+    const HWND front = OpenOwn(WS_POPUP | WS_VISIBLE);
+    SetForegroundWindow(front);
+    MoveMouse(450, 380); // beside `front`
+    HandleFor(200);
+    for (const bool down : {true, false}) {
+        PressMouse(VK_RBUTTON, down);
+        HandleFor(100);
+    }
+    EXPECT_EQ(ReceivedOf({WM_MOUSEACTIVATE, WM_RBUTTONDOWN}), (Numbers{WM_MOUSEACTIVATE, WM_RBUTTONDOWN}));
+    EXPECT_EQ(GetForegroundWindow(), front);
+}
+
 } // namespace

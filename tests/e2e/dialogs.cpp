@@ -15,9 +15,8 @@ static std::string AskText(HWND window, UINT message, WPARAM wParam) {
 
 // Makes sure that the click does not happen at the previous position.
 static void ClickAt(POINT screen) {
-    for (int tries = 0; tries < 5 && (MousePosition().x != screen.x || MousePosition().y != screen.y);
-         ++tries)
-        MoveMouse(screen.x, screen.y);
+    Retry([&] { return MousePosition().x == screen.x && MousePosition().y == screen.y; },
+          [&] { MoveMouse(screen.x, screen.y); });
     Click(VK_LBUTTON);
 }
 
@@ -45,21 +44,17 @@ void PressOnly(HWND window) {
     ClickAt({(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
 }
 
-// Input is handled once the window's queue has been worked through.
-static void WaitUntilHandled(HWND window) {
-    Sleep(60);
-    Responds(window);
-}
-
-void Press(HWND window) {
-    PressOnly(window);
-    WaitUntilHandled(window);
-}
-
 void PressAt(HWND window, POINT at) {
     ClientToScreen(window, &at);
     ClickAt(at);
-    WaitUntilHandled(window);
+    Sleep(60);
+    Responds(window); // its queue has been worked through
+}
+
+void Press(HWND window) {
+    RECT area{};
+    GetClientRect(window, &area);
+    PressAt(window, {area.right / 2, area.bottom / 2});
 }
 
 void CloseBy(HWND dialog, int id) {
@@ -78,10 +73,7 @@ void TypeOver(HWND edit, const std::string& text) {
     PressKeys({VK_SHIFT, VK_END});
     for (const char letter : text) {
         const SHORT key = VkKeyScanA(letter);
-        if (HIBYTE(key))
-            PressKeys({VK_SHIFT, LOBYTE(key)});
-        else
-            PressKeys({LOBYTE(key)});
+        HIBYTE(key) ? PressKeys({VK_SHIFT, LOBYTE(key)}) : PressKeys({LOBYTE(key)});
     }
     Responds(edit);
 }

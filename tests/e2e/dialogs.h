@@ -18,12 +18,11 @@ HWND Control(HWND dialog, int id);
 // The id of the dialog's focused control; 0: none.
 int Focused(HWND dialog);
 
-// Clicks into the middle of a window and waits until its program has handled it; PressOnly does not wait, for
-// a click that opens something modal.
+// Clicks into the middle of a window, or at a point of its client area, and waits until its program has
+// handled it; PressOnly does not wait, for a click that opens something modal.
 void Press(HWND window);
-void PressOnly(HWND window);
-// Clicks at a point of the client area.
 void PressAt(HWND window, POINT at);
+void PressOnly(HWND window);
 
 // Closes the dialog by a button or a key.
 void CloseBy(HWND dialog, int id);

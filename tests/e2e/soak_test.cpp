@@ -9,11 +9,7 @@
 
 namespace {
 
-struct Length {
-    int steps = 60, kills = 2;
-    unsigned seed = 1;
-};
-
+int Steps = 60, Kills = 2;
 constexpr std::size_t MAX_PROGRAMS = 12;
 constexpr int STEPS_BEFORE_KILL = 20;
 constexpr ULONGLONG WARM_UP = 60000;      // ms
@@ -73,14 +69,11 @@ void OpenProgram() {
         Others.push_back({OpenWindow(std::to_string(Random()).c_str(), rect, behaviour), *behaviour == 'p'});
 }
 
-void EndProgram() {
-    if (Others.empty())
-        return;
-    std::swap(Others[Random() % Others.size()], Others.back());
-    const HANDLE process = OpenProcess(PROCESS_TERMINATE, FALSE, ProcessOf(Others.back().window));
-    TerminateProcess(process, 0);
-    CloseHandle(process);
-    Others.pop_back();
+void End(DWORD process) {
+    const HANDLE ended = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, process);
+    TerminateProcess(ended, 0);
+    WaitForSingleObject(ended, TIMEOUT);
+    CloseHandle(ended);
 }
 
 // Of the dialog that is active, if any.
@@ -100,16 +93,11 @@ void UseTheMenu() {
     PressInTurn({VK_RETURN, VK_ESCAPE, VK_ESCAPE});
 }
 
-void RunAnyAction(int action) {
-    static const std::set<int> excluded = {ACTION_SHOW_MENU, ACTION_EXIT, ACTION_LOCK_STATION,
-                                           ACTION_SCREEN_SAVER};
-    if (!excluded.contains(action))
-        RunAction(action);
-}
-
 void DoSomething() {
     static const WORD arrows[] = {VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN};
     static const WORD keys[] = {VK_DOWN, VK_UP, VK_TAB, VK_RETURN, '7', 'Q', VK_ESCAPE};
+    static const std::set<int> excluded = {ACTION_SHOW_MENU, ACTION_EXIT, ACTION_LOCK_STATION,
+                                           ACTION_SCREEN_SAVER};
     switch (const int number = Below(NUM_ACTIONS); Below(14)) {
     case 0: PressKeys({VK_CONTROL, VK_MENU, OneOf(arrows)}); break;
     case 1: PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, static_cast<WORD>('0' + number % 10)}); break;
@@ -118,10 +106,18 @@ void DoSomething() {
     case 4: SetForegroundWindow(Others.empty() ? nullptr : OneOf(Others).window); break;
     case 5: ClickAControl(); break;
     case 6: OpenProgram(); break;
-    case 7: EndProgram(); break;
+    case 7:
+        if (!Others.empty()) {
+            std::swap(Others[Random() % Others.size()], Others.back());
+            End(ProcessOf(Others.back().window));
+            Others.pop_back();
+        }
+        break;
     case 8: UseTheMenu(); break;
     case 9: PressKeys({OneOf(keys)}); break;
-    default: RunAnyAction(number);
+    default:
+        if (!excluded.contains(number))
+            RunAction(number);
     }
 }
 
@@ -167,15 +163,14 @@ void ExpectCompleteSettings() {
 }
 
 // Reads the length from the environment and opens three programs.
-Length Prepare() {
-    Length length;
+void Prepare() {
+    unsigned seed = 1;
     if (const char* const words = getenv("QUORL_SOAK"))
-        sscanf(words, "%d %d %u", &length.steps, &length.kills, &length.seed);
-    Random.seed(length.seed);
+        sscanf(words, "%d %d %u", &Steps, &Kills, &seed);
+    Random.seed(seed);
     Others.clear();
     for (const char* const title : {"first", "second", "third"})
         Others.push_back({OpenWindow(title, EDITOR), true});
-    return length;
 }
 
 // Windows caches resources of a dialog or menu after its first use, and up to 64 device contexts on demand,
@@ -241,17 +236,17 @@ Resources ResourcesAtRest(HANDLE quorl) {
 } // namespace
 
 TEST(Soak, QuorlKeepsRespondingAndLeaksNothing) {
-    const Length length = Prepare();
+    Prepare();
     const HANDLE quorl = Start();
     OpenDialogs<ACTION_OPTIONS, ACTION_MARK_REGION, ACTION_FIND_WINDOW, ACTION_RESIZE_WINDOW,
                 ACTION_DEFINE_ACTIONS, ACTION_HELP, ACTION_ABOUT, ACTION_CUSTOMIZE_MENU, ACTION_FIND_REGION,
                 ACTION_TRANSPARENCY>();
     const ULONGLONG start = GetTickCount64();
     int done = 0;
-    for (; done < length.steps && GetTickCount64() < start + WARM_UP; ++done)
+    for (; done < Steps && GetTickCount64() < start + WARM_UP; ++done)
         ASSERT_TRUE(RunSteps(1)) << "step " << done;
     const Resources first = ResourcesAtRest(quorl);
-    ASSERT_TRUE(RunSteps(length.steps - done));
+    ASSERT_TRUE(RunSteps(Steps - done));
     const Resources last = ResourcesAtRest(quorl);
     EXPECT_LE(last.windows, first.windows);
     EXPECT_LE(last.gdi, first.gdi) << "GDI objects";
@@ -260,17 +255,16 @@ TEST(Soak, QuorlKeepsRespondingAndLeaksNothing) {
 }
 
 TEST(Soak, NextRunAfterAKillReturnsTheWindowsAndFindsCompleteSettings) {
-    const Length length = Prepare();
+    Prepare();
     Start();
     ExpectSaved("num_regions", "0");
     QuitAndExpectAllOnScreen();
-    for (int kill = 0; kill < length.kills && !testing::Test::HasFailure(); ++kill) {
+    for (int kill = 0; kill < Kills && !testing::Test::HasFailure(); ++kill) {
         const HANDLE quorl = Start();
         ASSERT_TRUE(RunSteps(STEPS_BEFORE_KILL));
         RunAction(Below(3) ? ACTION_SAVE_SETTINGS : Below(NUM_ACTIONS));
         Sleep(static_cast<DWORD>(Below(60)));
-        TerminateProcess(quorl, 0);
-        WaitForExit(quorl);
+        End(GetProcessId(quorl));
         ExpectCompleteSettings();
         Start();
         QuitAndExpectAllOnScreen();

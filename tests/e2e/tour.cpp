@@ -64,7 +64,7 @@ void OpenPrograms() {
         const RECT& home = program.home;
         if (IsWindow(program.window))
             continue;
-        program.window = OpenProgram(program.command, program.windowClass);
+        program.window = WaitForVisible(GetProcessId(Launch(program.command)), program.windowClass, nullptr);
         Require(program.window != nullptr, program.name);
         SetWindowPos(program.window, nullptr, home.left, home.top, home.right - home.left,
                      home.bottom - home.top, SWP_NOZORDER | (home.right == home.left ? SWP_NOSIZE : 0U));
@@ -213,26 +213,17 @@ void QuitByTheMenu() {
         Stored("quorl_pos.top").c_str(), Stored("Quorl.right").c_str(), Stored("Quorl.bottom").c_str());
 }
 
-const char* const OwnSettings[][2] = {
-    {"num_regions", "3"},
-    {"Region0", "home|0|0|1024|768|16763080"},
-    {"Region1", "mail|2048|0|3072|768|8454143"},
-    {"Region2", "web|1024|768|2048|1536|8454016"},
-    {"quorl_pos.left", "160"},
-    {"quorl_pos.top", "40"},
-    {"quorl_pos.right", "460"},
-    {"quorl_pos.bottom", "220"},
-    {"Action36", "-1|-1|6|78|0"}, // next region: Ctrl+Alt+N
-    {"Action37", "-1|-1|6|80|0"}, // previous region: Ctrl+Alt+P
-    {"Action38", "-1|-1|-1|-1|0"},
-    {"Action39", "0|8|-1|-1|0"},    // left button: drag a window's box
-    {"Action114", "-1|-1|-1|-1|0"}, // move the pointer along at the screen's edge
-};
+// The keys of the next and the previous region are Ctrl+Alt+N and P; the left button drags a window's box;
+// the pointer moves along at the screen's edge.
+constexpr char OwnSettings[] =
+    "num_regions=3\0Region0=home|0|0|1024|768|16763080\0Region1=mail|2048|0|3072|768|8454143\0"
+    "Region2=web|1024|768|2048|1536|8454016\0quorl_pos.left=160\0quorl_pos.top=40\0quorl_pos.right=460\0"
+    "quorl_pos.bottom=220\0Action36=-1|-1|6|78|0\0Action37=-1|-1|6|80|0\0Action38=-1|-1|-1|-1|0\0"
+    "Action39=0|8|-1|-1|0\0Action114=-1|-1|-1|-1|0\0";
 
 void StartWithSettings() {
     OpenPrograms();
-    for (const auto& [key, value] : OwnSettings)
-        Store(key, value);
+    StoreSettings(OwnSettings);
     StartQuorl();
     SayRect("quorl.exe starts with three regions and keys of our own in quorl.ini", "the map", QuorlWindow());
     TakePicture("6-regions");

@@ -49,10 +49,6 @@ bool Responds(HWND window) {
     return SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, TIMEOUT, &result) != 0;
 }
 
-HWND OpenProgram(const char* command, const char* windowClass) {
-    return WaitForVisible(GetProcessId(Launch(command)), windowClass, nullptr);
-}
-
 // Under Wine a window that moves under the pointer, or takes the focus late, releases keys that no real
 // keyboard holds. So check that they are held before the last one goes down.
 bool PressKeys(std::initializer_list<WORD> keys) {
@@ -125,10 +121,6 @@ std::string TextOf(HWND window) {
     return text;
 }
 
-HWND StatusStrip() {
-    return FindVisible(0, "w_ToolTip", nullptr);
-}
-
 HWND OpenedMenu() {
     return FindVisible(0, "#32768", nullptr);
 }
@@ -139,8 +131,8 @@ std::string Stored(const std::string& key) {
     return text;
 }
 
-void Store(const std::string& key, const std::string& value) {
-    EXPECT_TRUE(WritePrivateProfileStringA("Quorl", key.c_str(), value.c_str(), SettingsFile().c_str()));
+void StoreSettings(const char* lines) {
+    EXPECT_TRUE(WritePrivateProfileSectionA("Quorl", lines, SettingsFile().c_str()));
 }
 
 void ExpectSaved(const std::string& key, const std::string& wanted) {
@@ -154,21 +146,13 @@ HWND WaitForBox(const char* caption) {
     return box;
 }
 
-std::string AnswerBox(const char* caption, WORD key) {
-    constexpr int TEXT_ID = 0xffff; // in every message box
-    const HWND box = WaitForBox(caption);
-    const std::string text = TextOf(GetDlgItem(box, TEXT_ID));
-    Retry([box] { return !IsWindow(box); },
-          [box, key] {
-              Activate(box);
-              PressKeys({key});
-          });
-    Require(WaitForEnd(box), std::string("the end of ") + caption);
-    return text;
-}
-
 void AnswerYesToQuit() {
-    AnswerBox("QUIT?", 'Y');
+    const HWND box = WaitForBox("QUIT?");
+    Retry([box] { return !IsWindow(box); },
+          [box] {
+              Activate(box);
+              PressKeys({'Y'});
+          });
     Require(WaitForExit(Quorl) == 0, "Quorl's exit with code 0");
 }
 
@@ -178,7 +162,7 @@ void Quit() {
 }
 
 bool WaitForEnd(HWND window) {
-    return !Eventually([window] { return IsWindow(window) != 0; }, false);
+    return !Eventually([window] { return IsWindow(window); }, FALSE);
 }
 
 DWORD WaitForExit(HANDLE process) {

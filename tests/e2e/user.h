@@ -26,8 +26,6 @@ HWND StartQuorl();
 HWND QuorlWindow();
 bool IsMapShown();
 bool Responds(HWND window);
-// Starts a program that comes with Windows and waits for its window.
-HWND OpenProgram(const char* command, const char* windowClass);
 
 // Presses the keys in this order and releases them in reverse; false if they could not be held.
 bool PressKeys(std::initializer_list<WORD> keys);
@@ -62,19 +60,15 @@ RECT RectAfterMoving(HWND window, POINT to);
 POINT MousePosition();
 
 std::string TextOf(HWND window);
-// The visible status strip and the open popup menu, or null.
-HWND StatusStrip();
-HWND OpenedMenu();
+HWND OpenedMenu(); // null if none is open
 
-// A key of Quorl's settings file: read; written before Quorl starts; expected after Quorl has saved.
+// Quorl's settings file: a key; all lines, each with a terminator; a key after Quorl has saved.
 std::string Stored(const std::string& key);
-void Store(const std::string& key, const std::string& value);
+void StoreSettings(const char* lines);
 void ExpectSaved(const std::string& key, const std::string& wanted);
 
 // Requires a dialog or message box with this caption.
 HWND WaitForBox(const char* caption);
-// Answers a message box by a key until it is closed, and returns its text.
-std::string AnswerBox(const char* caption, WORD key);
 // Answers the open question with Yes and requires exit code 0; or asks Quorl to close first.
 void AnswerYesToQuit();
 void Quit();

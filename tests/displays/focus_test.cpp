@@ -4,7 +4,6 @@
 #include "hook/hook_message.h"
 #include "menus/menu_list.h"
 #include "scroll/scroll_view.h"
-#include "support/map_mouse.h"
 
 class Focus : public ModernDesktop {
   protected:

@@ -3,7 +3,6 @@
 
 #include "core/displays.h"
 #include "hook/hook_message.h"
-#include "support/map_mouse.h"
 
 class WholeWay : public TwoDisplays {
   protected:

@@ -9,7 +9,7 @@
 #include "scroll/scroll_view.h"
 #include "windows/window_table.h"
 #include "settings/ini.h"
-#include "support/map_mouse.h"
+#include "support/quorl_test.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "actions/dispatch.h"
 #include "menus/entries.h"
 #include "status/status_strip.h"
-#include "support/map_mouse.h"
+#include "support/quorl_test.h"
 
 #include <algorithm>
 

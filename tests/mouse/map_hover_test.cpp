@@ -2,7 +2,7 @@
 #include "mouse/map_hover.h"
 
 #include "status/status_strip.h"
-#include "support/map_mouse.h"
+#include "support/quorl_test.h"
 
 class MapHover : public MapTest {};
 

@@ -92,10 +92,9 @@ TEST_F(Messages, PeekFindsTheWantedOneAndQuitWhateverTheFilter) {
 }
 
 TEST_F(Messages, RegisteredOneHasOneNumberPerName) {
-    const UINT created = RegisterWindowMessageA("TaskbarCreated");
-    EXPECT_GE(created, 0xC000U);
-    EXPECT_EQ(RegisterWindowMessageA("TaskbarCreated"), created);
-    EXPECT_NE(RegisterWindowMessageA("QuorlContract"), created);
+    const UINT created = RegisterWindowMessageA("TaskbarCreated"),
+               again = RegisterWindowMessageA("TaskbarCreated");
+    EXPECT_TRUE(created >= 0xC000 && created == again && created != RegisterWindowMessageA("QuorlContract"));
 }
 
 TEST_F(Messages, NotificationIconIsAddedOnceAndModifiedOrDeletedOnlyThen) {

@@ -71,10 +71,8 @@ TEST_F(Windows, TitleIsTheSameForBothKindsOfCalls) {
     EXPECT_TRUE(SetWindowTextW(window, L"a title"));
     char ansi[16] = "";
     WCHAR wide[16] = {};
-    EXPECT_EQ(GetWindowTextA(window, ansi, sizeof ansi), 7);
-    EXPECT_EQ(GetWindowTextW(window, wide, 4), 3);
-    EXPECT_STREQ(ansi, "a title");
-    EXPECT_EQ(wide, std::wstring(L"a t"));
+    EXPECT_TRUE(GetWindowTextA(window, ansi, sizeof ansi) == 7 && GetWindowTextW(window, wide, 4) == 3);
+    EXPECT_TRUE(ansi == std::string("a title") && wide == std::wstring(L"a t"));
 }
 
 TEST_F(Windows, ShowReturnsThePreviousStateAndActivatesOnlyAHiddenOne) {
@@ -147,8 +145,7 @@ TEST_F(Windows, DisplayIsTheNearestOneAndReportsItsAreas) {
     ASSERT_TRUE(GetMonitorInfoA(primary, &info));
     EXPECT_EQ(info.rcMonitor, (RECT{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}));
     RECT shared;
-    IntersectRect(&shared, &info.rcMonitor, &info.rcWork);
-    EXPECT_EQ(shared, info.rcWork);
+    EXPECT_TRUE(IntersectRect(&shared, &info.rcMonitor, &info.rcWork) && shared == info.rcWork);
     EXPECT_EQ(info.dwFlags, MONITORINFOF_PRIMARY);
     EXPECT_TRUE(std::string(info.szDevice).starts_with("\\\\.\\DISPLAY"));
 }

@@ -121,14 +121,10 @@ void GoByMap(const char* step, int key, int button, POINT at, LONG x, LONG y) {
 
 void ClickOnTheMap() {
     Covers<ACTION_VIEW_CENTER_POINT, ACTION_VIEW_TO_CELL>();
-    const POINT at = OnMap(1200, 800);
-    RECT map{};
-    GetClientRect(QuorlWindow(), &map);
-    POINT middle = at;
-    ScreenToClient(QuorlWindow(), &middle);
+    const POINT at = OnMap(1200, 800), corner = OnMap(0, 0), end = OnMap(4 * SCREEN_W, 2 * SCREEN_H);
     GoByMap("middle button in the midst of the map", 0, VK_MBUTTON, at,
-            middle.x * 4 * SCREEN_W / map.right - SCREEN_W / 2,
-            middle.y * 2 * SCREEN_H / map.bottom - SCREEN_H / 2);
+            (at.x - corner.x) * 4 * SCREEN_W / (end.x - corner.x) - SCREEN_W / 2,
+            (at.y - corner.y) * 2 * SCREEN_H / (end.y - corner.y) - SCREEN_H / 2);
     TakePicture("3-map");
     GoByMap("Shift and left button on the map's first screen", VK_LSHIFT, VK_LBUTTON, OnMap(100, 100), 0, 0);
 }

@@ -1,4 +1,3 @@
-// Binding actions to keys and mouse combinations.
 #include "dialogs/dialog_test.h"
 
 constexpr int KEY_ITEM = 25, MOUSE_ITEM = 21; // of ACTION_SCREEN_RIGHT on the two tabs

@@ -1,4 +1,3 @@
-// Marking the view's position as a region.
 #include "dialogs/dialog_test.h"
 #include "regions/region_table.h"
 

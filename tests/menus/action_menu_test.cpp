@@ -1,4 +1,3 @@
-// The popup menu, its list and the icon that opens it.
 #include "menus/action_menu.h"
 
 #include "actions/dispatch.h"

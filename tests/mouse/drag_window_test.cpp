@@ -1,4 +1,3 @@
-// Dragging windows by their boxes on the map.
 #include "mouse/drag_window.h"
 
 #include "support/quorl_test.h"

@@ -1,4 +1,3 @@
-// Where an edge scroll goes.
 #include "mouse/edge_scroll.h"
 
 #include "core/steps.h"

@@ -1,4 +1,3 @@
-// Mouse combinations on the map.
 #include "mouse/map_buttons.h"
 
 #include "support/quorl_test.h"

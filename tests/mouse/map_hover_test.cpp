@@ -1,4 +1,3 @@
-// Moving the mouse over the map.
 #include "mouse/map_hover.h"
 
 #include "status/status_strip.h"

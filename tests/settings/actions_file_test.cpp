@@ -1,4 +1,3 @@
-// Bindings in the settings file, at start and when loaded later.
 #include "settings/settings_test.h"
 
 #include <algorithm>

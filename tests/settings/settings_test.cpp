@@ -1,4 +1,3 @@
-// Saving and loading everything.
 #include "settings/settings.h"
 
 #include "actions/hotkeys.h"

@@ -26,6 +26,7 @@ const std::vector<Step> ViewSteps = {
 };
 
 const std::vector<Step> MapSteps = {
+    {{ACTION_SAVE_SETTINGS, ACTION_TOOLWIN_RIGHT_MAX, ACTION_LOAD_SETTINGS}, 0, 0},
     {{ACTION_TOOLWIN_RIGHT_MIN, ACTION_TOOLWIN_RIGHT_MAX, ACTION_TOOLWIN_DOWN_MIN, ACTION_TOOLWIN_DOWN_MAX},
      105,
      105},

@@ -1,4 +1,4 @@
-#include "dialogs.h"
+#include "user.h"
 
 TEST(Dialogs, NameRegionTakesASystemColor) {
     StartQuorl();

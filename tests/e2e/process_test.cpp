@@ -1,24 +1,10 @@
-// Quorl's process from start to end: saved settings, a second instance, a crash.
 #include "user.h"
-
-TEST(Process, NextRunStartsWithTheSavedSettings) {
-    const RECT saved{200, 100, 405, 200};
-    StartQuorl();
-    RunActions<ACTION_TOOLWIN_RIGHT_MAX, ACTION_EXPAND_WIDTH>();
-    ExpectSaved("quorl_pos.right", "405");
-    RunActions<ACTION_TOOLWIN_RIGHT_MAX, ACTION_LOAD_SETTINGS>();
-    EXPECT_EVENTUALLY(WindowRect(QuorlWindow()), saved);
-    Quit();
-    EXPECT_EQ(WindowRect(StartQuorl()), saved);
-    const HWND map = QuorlWindow();
-    EXPECT_EQ(WaitForExit(LaunchQuorl()), 0U) << "a second instance exits silently";
-    EXPECT_EQ(QuorlWindow(), map);
-}
 
 TEST(Process, WindowsReturnAfterACrashAndAtTheEndOfTheSession) {
     const HWND editor = OpenWindow("editor", EDITOR);
     for (const bool crash : {false, true}) {
         const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, ProcessOf(StartQuorl()));
+        EXPECT_EQ(WaitForExit(LaunchQuorl()), 0U) << "a second instance exits silently";
         RunActions<ACTION_SCREEN_RIGHT>();
         EXPECT_EVENTUALLY(WindowRect(editor), Moved(EDITOR, -SCREEN_W, 0));
         const auto nowhere = reinterpret_cast<LPTHREAD_START_ROUTINE>(static_cast<UINT_PTR>(16));

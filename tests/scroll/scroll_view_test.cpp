@@ -14,4 +14,7 @@ TEST_F(RunningQuorl, ScrollReturnsWhetherTheViewMovedAndAlwaysPings) {
     EXPECT_TRUE(ScrollView(MainWnd, 0, 0, SV_RELATIVE, 0));
     EXPECT_EQ(VDesk, Rect(3072, 0, 4096, 768));
     EXPECT_EQ(RectOf(editor).left, 100 - 3072 + 404) << "as far as the far edge of the view";
+    EXPECT_TRUE(ScrollView(MainWnd, -5000, 0, SV_RELATIVE, 0));
+    EXPECT_EQ(VDesk, Rect(0, 0, 1024, 768));
+    EXPECT_EQ(RectOf(editor).left, 100 + 404) << "as far as the near edge of the view";
 }

@@ -71,9 +71,12 @@ TEST_F(Painting, BitmapIsCopiedToTheWindow) {
     const HDC memory = CreateCompatibleDC(screen);
     const HGDIOBJ bitmap = CreateCompatibleBitmap(screen, 20, 20), brush = CreateSolidBrush(RGB(10, 200, 30));
     const HGDIOBJ noBitmap = SelectObject(memory, bitmap), noBrush = SelectObject(memory, brush);
+    const HGDIOBJ blackPen = SelectObject(memory, GetStockObject(WHITE_PEN));
     Rectangle(memory, 0, 0, 20, 20);
     EXPECT_TRUE(BitBlt(screen, 0, 0, 20, 20, memory, 0, 0, SRCCOPY));
     EXPECT_EQ(GetPixel(screen, 10, 10), COLORREF{RGB(10, 200, 30)});
+    EXPECT_EQ(GetPixel(screen, 0, 10), COLORREF{RGB(255, 255, 255)});
+    SelectObject(memory, blackPen);
     SelectObject(memory, noBrush);
     SelectObject(memory, noBitmap);
     EXPECT_TRUE(DeleteObject(bitmap) && DeleteObject(brush) && DeleteDC(memory) && ReleaseDC(window, screen));

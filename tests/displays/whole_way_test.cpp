@@ -69,7 +69,9 @@ class WholeWay : public TwoDisplays {
         ChangeDisplays({Primary, Left});
         Wait(2000);
         PressAllDefaultHotkeys();
-        ClickOnMap(190, 80, VK_LBUTTON);
+        MoveOnMap(190, 80);
+        PressOnMap(VK_MBUTTON); // the view goes there
+        ReleaseOnMap(VK_MBUTTON);
         Wait(200);
     }
 

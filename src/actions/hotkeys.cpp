@@ -29,9 +29,15 @@ static UINT HotkeyModifiers(int mods) {
     return modifiers;
 }
 
-// All other key values are translated as characters, F13 to F24 among them.
 static bool IsVirtualKey(int key) {
     return key == VK_SPACE || (key >= VK_LEFT && key <= VK_DOWN) || (key >= VK_F1 && key <= VK_F12);
+}
+
+// Under every keyboard layout these are the virtual keys. VkKeyScanA only finds characters that the current
+// layout has: no Latin letters under a Cyrillic one, and for the code of F13 the key of '|'.
+static bool IsLayoutIndependent(int key) {
+    return key == VK_TAB || (key >= '0' && key <= '9') || (key >= 'A' && key <= 'Z') ||
+           (key >= VK_F13 && key <= VK_F24);
 }
 
 int VirtualKey(int key) {
@@ -39,9 +45,15 @@ int VirtualKey(int key) {
         return key;
     if (key > 256)
         key -= 256;
-    if (key >= 'A' && key <= 'Z')
-        key += 'a' - 'A';
-    return VkKeyScanA(static_cast<char>(key));
+    return IsLayoutIndependent(key) ? key : VkKeyScanA(static_cast<char>(key));
+}
+
+// A vk of -1 would be registered by some systems, though no key can produce it.
+static bool Register(int id, int mods, int vk) {
+    if (vk >= 0)
+        return RegisterHotKey(MainWnd, id, HotkeyModifiers(mods), static_cast<UINT>(vk)) != 0;
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return false;
 }
 
 static void ReportRefusal(int id) {
@@ -59,7 +71,7 @@ bool SetActionKey(int id, int mods, int key) {
     if (mods < 0 || key < 0)
         return false;
     const int vk = VirtualKey(key);
-    if (!RegisterHotKey(MainWnd, id, HotkeyModifiers(mods), static_cast<UINT>(vk))) {
+    if (!Register(id, mods, vk)) {
         ReportRefusal(id);
         return false;
     }
@@ -90,8 +102,7 @@ void RegisterDefaultKey(int id) {
 void ClearActionKey(int id, DWORD kinds) {
     ActionRow& action = ActionTable[id];
     if (kinds & ACTION_KEY) {
-        // vk can be -1 with a registered hotkey: VkKeyScan returns -1 for a character that the layout lacks.
-        if (action.vk >= 0 || action.key_mods >= 0)
+        if (action.vk >= 0)
             UnregisterHotKey(MainWnd, id);
         action.vk = action.key_mods = UNBOUND;
     }

@@ -67,17 +67,22 @@ static void ReportRefusal(int id) {
     MessageBoxA(nullptr, text, "Error", MB_OK);
 }
 
-bool SetActionKey(int id, int mods, int key) {
-    if (mods < 0 || key < 0)
+// Registers and records the hotkey. False, with the action unchanged and the last error set, if refused.
+static bool Bind(int id, int mods, int vk) {
+    if (!Register(id, mods, vk))
         return false;
-    const int vk = VirtualKey(key);
-    if (!Register(id, mods, vk)) {
-        ReportRefusal(id);
-        return false;
-    }
     ActionTable[id].key_mods = mods;
     ActionTable[id].vk = vk;
     return true;
+}
+
+bool SetActionKey(int id, int mods, int key) {
+    if (mods < 0 || key < 0)
+        return false;
+    const bool bBound = Bind(id, mods, VirtualKey(key));
+    if (!bBound)
+        ReportRefusal(id);
+    return bBound;
 }
 
 // A message box about an earlier refusal runs a message loop, in which the user may have bound this action,
@@ -85,6 +90,12 @@ bool SetActionKey(int id, int mods, int key) {
 void RegisterRecordedKey(int id) {
     UnregisterHotKey(MainWnd, id);
     SetActionKey(id, ActionTable[id].key_mods, ActionTable[id].vk);
+}
+
+// Since Windows 7 the shell holds Win+Up and Win+Down, but not the same keys with Ctrl.
+static bool BindWithCtrl(int id, int mods, int vk) {
+    return mods == KEY_WIN && GetLastError() == ERROR_HOTKEY_ALREADY_REGISTERED &&
+           Bind(id, KEY_WIN | KEY_CTRL, vk);
 }
 
 // The default is forgotten before it is tried: the user may bind the action to another key while the box is
@@ -96,7 +107,8 @@ void RegisterDefaultKey(int id) {
     const int mods = action.key_mods;
     const int vk = action.vk;
     ClearActionKey(id, ACTION_KEY);
-    SetActionKey(id, mods, vk);
+    if (!Bind(id, mods, vk) && !BindWithCtrl(id, mods, vk))
+        ReportRefusal(id);
 }
 
 void ClearActionKey(int id, DWORD kinds) {

@@ -9,8 +9,8 @@
 bool SetActionKey(int id, int mods, int key);
 
 // Registers the hotkey that the table holds for the action. RegisterRecordedKey is for bindings from the
-// settings file: a refused one stays recorded for the next save. RegisterDefaultKey is for defaults: a
-// refused one becomes unbound.
+// settings file: a refused one stays recorded for the next save. RegisterDefaultKey is for defaults: if
+// another program holds one with Win alone, the action gets it with Ctrl+Win; a refused one becomes unbound.
 void RegisterRecordedKey(int id);
 void RegisterDefaultKey(int id);
 

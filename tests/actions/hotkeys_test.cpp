@@ -33,12 +33,28 @@ TEST_F(Hotkeys, AreRegisteredOnceAfterAllSettingsAreRead) {
     EXPECT_EQ(VDesk.left, 1024);
 }
 
+static std::string KeyOf(ActionId id) {
+    return std::to_string(ActionTable[id].key_mods) + '|' + std::to_string(ActionTable[id].vk);
+}
+
 // tests/settings checks what happens to a refused binding.
-TEST_F(Hotkeys, OfOthersAreRegisteredAfterOneIsRefused) {
-    Desk.hotkeys = {{nullptr, 1, MOD_WIN, VK_DOWN}}; // another program's
+TEST_F(Hotkeys, OfTheShellAreTakenWithCtrlAndOnlyARefusalOfBothIsReported) {
+    for (const UINT modifiers : {MOD_WIN, MOD_WIN | MOD_CONTROL})
+        Desk.hotkeys.push_back({nullptr, 1, modifiers, VK_DOWN}); // other programs'
+    Desk.hotkeys.push_back({nullptr, 1, MOD_WIN, VK_UP});
     AnswerBoxes({IDOK});
     ASSERT_TRUE(StartQuorl());
     EXPECT_EQ(LastBox(), "Hotkey registeration failed (1409): \n\t\"Lock window in view\" (40)\n"
                          "Another program has already registered the hotkey combination./Error");
-    EXPECT_EQ(Desk.hotkeys.size(), 1U + 10U);
+    EXPECT_EQ(Desk.hotkeys.size(), 3U + 10U) << "the others are registered";
+    EXPECT_EQ(KeyOf(ACTION_LOCK_WINDOW) + ' ' + KeyOf(ACTION_UNLOCK_WINDOW), "-1|-1 68|38");
+}
+
+TEST_F(Hotkeys, OfTheShellInTheSettingsFileAreReported) {
+    Desk.hotkeys = {{nullptr, 1, MOD_WIN, VK_DOWN}};
+    Desk.files["quorl.ini"] = "[Quorl]\r\nAction40=-1|-1|64|40|0\r\n";
+    AnswerBoxes({IDOK});
+    ASSERT_TRUE(StartQuorl());
+    EXPECT_EQ(Desk.boxes.size(), 1U);
+    EXPECT_EQ(KeyOf(ACTION_LOCK_WINDOW), "64|40");
 }

@@ -13,6 +13,9 @@ struct ModifierPair {
 
 } // namespace
 
+// Keyboards repeat every 30 to 50 ms; two presses of a user are farther apart.
+static const DWORD REPEAT_TIME = 60; // milliseconds
+
 static const ModifierPair Modifiers[] = {
     {KEY_CTRL, MOD_CONTROL},
     {KEY_SHIFT, MOD_SHIFT},
@@ -125,4 +128,25 @@ void ClearActionKey(int id, DWORD kinds) {
 void ClearAllActionKeys() {
     for (int id = 0; id < NUM_ACTIONS; ++id)
         ClearActionKey(id, ACTION_KEY | ACTION_MOUSE);
+}
+
+static bool PeekHotkey(HWND window, MSG* message, UINT flags) {
+    return PeekMessageA(message, window, WM_HOTKEY, WM_HOTKEY, flags) != 0;
+}
+
+// A WM_HOTKEY that another program posts has no combination in lParam, and no keyboard repeats it.
+static bool IsRepeat(const MSG& next, WPARAM wParam, LPARAM lParam, DWORD time) {
+    return next.message == WM_HOTKEY && next.wParam == wParam && next.lParam == lParam && lParam &&
+           next.time - time < REPEAT_TIME;
+}
+
+void DropKeyRepeats(HWND window, WPARAM wParam, LPARAM lParam, DWORD time) {
+    MSG next;
+    while (PeekHotkey(window, &next, PM_NOREMOVE) && IsRepeat(next, wParam, lParam, time)) {
+        time = next.time;
+        if (PeekHotkey(window, &next, PM_REMOVE) && next.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(next.wParam)); // returned whatever the filter
+            return;
+        }
+    }
 }

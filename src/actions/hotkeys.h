@@ -20,6 +20,10 @@ void ClearActionKey(int id, DWORD kinds);
 // Clears all hotkeys and mouse combinations and releases the hotkeys.
 void ClearAllActionKeys();
 
+// Discards what keyboard repeat has queued since the WM_HOTKEY with these arguments and time, so that an
+// action does not run on after the key is released. Separate presses are kept.
+void DropKeyRepeats(HWND window, WPARAM wParam, LPARAM lParam, DWORD time);
+
 // The virtual key for a key value, with the shift state of VkKeyScanA in the high byte; -1 if the keyboard
 // layout lacks the character.
 int VirtualKey(int key);

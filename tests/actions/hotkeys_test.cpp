@@ -1,5 +1,6 @@
 #include "actions/hotkeys.h"
 
+#include "app/main.h"
 #include "support/quorl_test.h"
 
 class Hotkeys : public QuorlTest {};
@@ -57,4 +58,22 @@ TEST_F(Hotkeys, OfTheShellInTheSettingsFileAreReported) {
     ASSERT_TRUE(StartQuorl());
     EXPECT_EQ(Desk.boxes.size(), 1U);
     EXPECT_EQ(KeyOf(ACTION_LOCK_WINDOW), "64|40");
+}
+
+TEST_F(Hotkeys, QueuedByKeyboardRepeatAreDropped) {
+    ASSERT_TRUE(StartQuorl());
+    HoldHotkey(MOD_CONTROL | MOD_ALT, VK_RIGHT, 5);
+    HandleMessages();
+    EXPECT_EQ(VDesk.left, 1024);
+    HoldHotkey(MOD_CONTROL | MOD_ALT, VK_RIGHT, 2, 60);
+    PressHotkey(MOD_CONTROL | MOD_ALT, VK_LEFT);
+    HandleMessages();
+    EXPECT_EQ(VDesk.left, 2048) << "two presses, then another key";
+    for (const int id : {ACTION_SCREEN_LEFT, ACTION_SCREEN_LEFT})
+        PostMessageA(MainWnd, WM_HOTKEY, static_cast<WPARAM>(id), 0);
+    HandleMessages();
+    EXPECT_EQ(VDesk.left, 0) << "posted by another program";
+    HoldHotkey(MOD_CONTROL | MOD_ALT, VK_RIGHT, 2);
+    PostQuitMessage(7);
+    EXPECT_EQ(RunMessageLoop(), 7) << "the quit message is not taken for a hotkey";
 }

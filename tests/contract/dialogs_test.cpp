@@ -127,6 +127,9 @@ TEST_F(Dialogs, ListsReturnInsertedIndicesKeepItemDataAndFindWholeTexts) {
     EXPECT_EQ(Ask(dialog, SORTED, LB_GETCURSEL), LB_ERR);
     EXPECT_TRUE(add(UNSORTED, "b") == 0 && add(UNSORTED, "a") == 1);
     const HWND actions = OpenTemplate(IDD_ACTIONS);
+    EXPECT_EQ(Ask(actions, IDC_ACTIONS_LIST, LVM_SETITEMCOUNT, 3), TRUE);
+    EXPECT_EQ(Ask(actions, IDC_ACTIONS_LIST, LVM_GETNEXTITEM, NONE, reinterpret_cast<void*>(LVNI_SELECTED)),
+              -1);
     for (const char* text : {"Left", "F1", "F10"})
         Ask(actions, IDC_ACTIONS_KEYS, CB_INSERTSTRING, NONE, text);
     EXPECT_EQ(Ask(actions, IDC_ACTIONS_KEYS, CB_FINDSTRINGEXACT, NONE, "f10"), 2);

@@ -8,7 +8,6 @@
 #include "core/state.h"
 #include "dialogs/registry.h"
 #include "menus/tray.h"
-#include "resources/control_ids.h"
 #include "status/status_strip.h"
 
 static const DWORD MAP_STYLE = WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
@@ -94,7 +93,6 @@ bool StartUp(HINSTANCE instance) {
     FillActionTable();
     InitCommonControls();
     BackBrush = GetSysColorBrush(COLOR_BACKGROUND);
-    TrayImage = static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(IDI_QUORL), IMAGE_ICON, 16, 16, 0));
     RegisterMainClass(instance);
     FindOptionalFunctions();
     FindCompositor();
@@ -112,7 +110,7 @@ bool StartUp(HINSTANCE instance) {
         return true; // the user quit from a box during creation; the message loop ends at once
     if (pSetLayeredWindowAttributes)
         pSetLayeredWindowAttributes(MainWnd, 0, static_cast<BYTE>(Options.alpha), LWA_ALPHA);
-    TrayIcon(MainWnd, NIM_ADD);
+    AddTrayIcon(MainWnd);
     StartMouseHook();
     if (IsOn(ACTION_SHOW_TOOLWIN))
         ShowWindow(MainWnd, SW_SHOWNA); // the user goes on typing into another program
@@ -138,7 +136,7 @@ void ShutDown() {
     if (HookLibrary)
         FreeLibrary(HookLibrary);
     if (TrayImage)
-        DeleteObject(TrayImage);
+        DestroyIcon(TrayImage);
 }
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {

@@ -146,5 +146,9 @@ LRESULT CALLBACK MainWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
     for (const MessageHandler& row : MessageHandlers)
         if (row.message == message)
             return row.handler(window, message, wParam, lParam);
+    if (IsTaskbarCreated(message)) {
+        AddTrayIcon(window);
+        return 0;
+    }
     return DefWindowProcA(window, message, wParam, lParam);
 }

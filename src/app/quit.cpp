@@ -20,7 +20,7 @@ static void SaveIfWanted() {
 static void Quit(HWND window, FoldReason reason) {
     bQuitting = true;
     PostQuitMessage(0); // takes effect only in the message loop, after all that follows
-    TrayIcon(window, NIM_DELETE);
+    RemoveTrayIcon(window);
     SaveIfWanted();
     ClearAllActionKeys();
     GatherWindows(reason);

@@ -70,6 +70,7 @@ BOOL WINAPI SetProcessShutdownParameters(DWORD level, DWORD flags);
 BOOL WINAPI LockWorkStation();
 
 HANDLE WINAPI LoadImageA(HINSTANCE instance, LPCSTR name, UINT type, int width, int height, UINT flags);
+BOOL WINAPI DestroyIcon(HICON icon);
 HICON WINAPI LoadIconA(HINSTANCE instance, LPCSTR name);
 HCURSOR WINAPI LoadCursorA(HINSTANCE instance, LPCSTR name);
 

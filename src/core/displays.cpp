@@ -45,10 +45,15 @@ bool IsSameLayout(const DisplayLayout& a, const DisplayLayout& b) {
     return a.count == b.count && std::equal(a.displays, a.displays + a.count, b.displays, IsSameDisplay);
 }
 
+// Of two ranges along an axis: how many pixels both have, or the negative of the gap between them.
+static long long Overlap(LONG firstA, LONG endA, LONG firstB, LONG endB) {
+    return 0LL + std::min(endA, endB) - std::max(firstA, firstB);
+}
+
 bool IsShownBy(const DisplayLayout& layout, const RECT& rect) {
     return std::any_of(layout.displays, layout.displays + layout.count, [&rect](const Display& display) {
-        RECT shared{};
-        return IntersectRect(&shared, &display.rect, &rect) != 0;
+        return Overlap(display.rect.left, display.rect.right, rect.left, rect.right) > 0 &&
+               Overlap(display.rect.top, display.rect.bottom, rect.top, rect.bottom) > 0;
     });
 }
 
@@ -74,11 +79,6 @@ bool ReadCursor(POINT* cursor) {
 
 void MoveCursor(POINT cursor) {
     SetCursorPos(Wrap(0LL + cursor.x + Displays.all.left), Wrap(0LL + cursor.y + Displays.all.top));
-}
-
-// Of two ranges along an axis: how many pixels both have, or the negative of the gap between them.
-static long long Overlap(LONG firstA, LONG endA, LONG firstB, LONG endB) {
-    return 0LL + std::min(endA, endB) - std::max(firstA, firstB);
 }
 
 // How well a display fits a rectangle: the shared area, or the negative of the squared distance.

@@ -62,7 +62,7 @@ static int ReadFoldRows() {
         FoldRow& row = Folds[i];
         row.window = window;
         row.bMoves = IsManagedWindow(window, &row.frame) || IsLost(window, &row.frame);
-        row.bHasNormalRect = IsUserWindow(window) && (IsIconic(window) || IsZoomed(window));
+        row.bHasNormalRect = (IsIconic(window) || IsZoomed(window)) && IsUserWindow(window);
     }
     return num_windows;
 }

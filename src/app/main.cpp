@@ -10,6 +10,8 @@
 #include "menus/tray.h"
 #include "status/status_strip.h"
 
+#include <cstdio>
+
 static const DWORD MAP_STYLE = WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
 
 static HMODULE HookLibrary;
@@ -40,13 +42,24 @@ static void DisableUnless(ActionId id, bool bAvailable) {
         ActionTable[id].flags = ACTION_OFF;
 }
 
+// By the full path: a library of that name in the program's folder is not Windows' own. Null if it is missing.
+static HMODULE LoadSystemLibrary(const char* name) {
+    char folder[MAX_PATH] = "";
+    char path[MAX_PATH + 16];
+    const UINT length = GetSystemDirectoryA(folder, MAX_PATH);
+    if (!length || length >= MAX_PATH)
+        return nullptr;
+    std::snprintf(path, sizeof path, "%s\\%s", folder, name);
+    return LoadLibraryA(path);
+}
+
 static void FindScales() {
-    if (const HMODULE scaling = LoadLibraryA("shcore.dll"))
+    if (const HMODULE scaling = LoadSystemLibrary("shcore.dll"))
         pGetDpiForMonitor = FindFunction<decltype(pGetDpiForMonitor)>(scaling, "GetDpiForMonitor");
 }
 
 static void FindCompositor() {
-    if (const HMODULE compositor = LoadLibraryA("dwmapi.dll"))
+    if (const HMODULE compositor = LoadSystemLibrary("dwmapi.dll"))
         pDwmGetWindowAttribute =
             FindFunction<decltype(pDwmGetWindowAttribute)>(compositor, "DwmGetWindowAttribute");
 }

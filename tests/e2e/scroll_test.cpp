@@ -1,10 +1,9 @@
 // Scrolling other programs' windows, hung, dying and overriding ones among them.
 #include "user.h"
 
-// The window that was opened first is at the bottom and is moved last, so all others have been by then.
+// The window that was opened last is on top and is moved last, so all others have been by then.
 TEST(Scroll, ProgramsDoNotDelayOrHarmEachOther) {
     const RECT other{500, 300, 900, 600};
-    const HWND editor = OpenWindow("editor", EDITOR);
     const HWND hung = OpenWindow("hung", other, "hung");
     const HWND dying = OpenWindow("dying", other, "dies");
     const HWND overriding = OpenWindow("overriding", other, "overrides");
@@ -13,6 +12,7 @@ TEST(Scroll, ProgramsDoNotDelayOrHarmEachOther) {
     ShowWindow(minimized, SW_MINIMIZE);
     ShowWindow(maximized, SW_MAXIMIZE);
     EXPECT_EVENTUALLY(IsZoomed(maximized) != 0, true);
+    const HWND editor = OpenWindow("editor", EDITOR);
     StartQuorl();
     const ULONGLONG start = GetTickCount64();
     PressKeys({VK_CONTROL, VK_MENU, VK_RIGHT});

@@ -42,11 +42,15 @@ static void QueryManaged(const BareRow& row) {
     RECT rect;
     DWORD reasons = 0;
     if (!IsWindowEnabled(row.hwnd) || !IsWindowVisible(row.hwnd) || !GetDesktopWindow() ||
-        IsIconic(row.hwnd) || !GetClassNameA(row.hwnd, name, 127) || !row.managed)
+        row.hwnd == MainWnd || !GetClassNameA(row.hwnd, name, 127) || !row.managed)
         return;
+    GetWindowLongPtrA(row.hwnd, GWL_EXSTYLE);
+    IsIconic(row.hwnd);
     if (pDwmGetWindowAttribute)
         pDwmGetWindowAttribute(row.hwnd, 14, &reasons, sizeof reasons);
     GetWindowRect(row.hwnd, &rect);
+    if (pDwmGetWindowAttribute)
+        pDwmGetWindowAttribute(row.hwnd, 9, &rect, sizeof rect);
 }
 
 static void PaintWindow(HDC context, const BareRow& row, HWND active, HPEN red, HPEN dotted) {
@@ -159,22 +163,23 @@ static void MoveRow(const BareRow& row, int dx, UINT timeout) {
     SetLastError(0);
     SendMessageTimeoutA(row.hwnd, WM_MOVING, 0, reinterpret_cast<LPARAM>(&rect), SMTO_ABORTIFHUNG, timeout,
                         &result);
-    MoveWindow(row.hwnd, rect.x, rect.y, rect.width, rect.height, TRUE);
+    SetWindowPos(row.hwnd, nullptr, rect.x, rect.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 static void ScrollRow(const BareRow& row, int dx) {
     char name[256];
     GetClassNameA(row.hwnd, name, 255);
-    QueryManaged(row);
-    if (!row.managed)
+    if (!row.managed || !IsWindowVisible(row.hwnd))
         return;
     MoveRow(row, dx, SCROLL_TIMEOUT);
-    ShowWindow(row.hwnd, SW_SHOW);
+    ShowWindow(row.hwnd, SW_SHOWNA);
 }
 
 void BareScroll() {
     for (const int dx : {-ScreenW(), 0}) {
         for (int row = 0; row < num_rows; ++row)
+            QueryManaged(Rows[row]);
+        for (int row = num_rows - 1; row >= 0; --row)
             ScrollRow(Rows[row], dx);
         BarePaint();
     }
@@ -185,7 +190,7 @@ void PingMoveShow() {
         for (int row = 0; row < num_rows; ++row)
             if (Rows[row].managed) {
                 MoveRow(Rows[row], dx, SCROLL_TIMEOUT);
-                ShowWindow(Rows[row].hwnd, SW_SHOW);
+                ShowWindow(Rows[row].hwnd, SW_SHOWNA);
             }
 }
 
@@ -197,15 +202,18 @@ static BOOL CALLBACK QueryWindow(HWND window, LPARAM) {
 
 void BareTicks() {
     RECT rect;
-    for (int tick = 1; tick < TICKS; ++tick)
+    for (int tick = 1; tick < TICKS; ++tick) {
+        GetForegroundWindow();
         for (int row = 0; row < num_rows; ++row)
             GetWindowRect(Rows[row].hwnd, &rect);
+    }
+    GetForegroundWindow();
     EnumWindows(QueryWindow, 0);
     BarePaint();
 }
 
 static BOOL CALLBACK QueryMonitor(HMONITOR monitor, HDC, RECT*, LPARAM) {
-    MONITORINFO info{};
+    MONITORINFOEXA info{};
     info.cbSize = sizeof info;
     return GetMonitorInfoA(monitor, &info);
 }
@@ -222,8 +230,10 @@ void BareFold() {
     EnumWindows(QueryWindow, 0);
     for (int row = 0; row < num_rows; ++row) {
         QueryManaged(Rows[row]);
-        if (!Rows[row].managed)
-            continue;
-        MoveRow(Rows[row], 0, FOLD_TIMEOUT);
+        IsIconic(Rows[row].hwnd);
+        IsZoomed(Rows[row].hwnd);
     }
+    for (int row = num_rows - 1; row >= 0; --row)
+        if (Rows[row].managed)
+            MoveRow(Rows[row], 0, FOLD_TIMEOUT);
 }

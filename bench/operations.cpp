@@ -44,7 +44,7 @@ const Operation Operations[] = {
     {"tick",                   Ticks,     BareTicks,     TICKS, true},
     {"paint",                  Paint,     BarePaint,     1,     true},
     {"mouse-move",             MouseMove, BareMouseMove, 1,     true},
-    {"fold",                   Fold,      BareFold,      1,     true},
+    {"fold",                   Fold,      BareFold,      1,     false},
 };
 // clang-format on
 

@@ -22,8 +22,9 @@ PATHS = (
         (3, "commands/view_commands.cpp", "GoToScreen", "computes the target", TABLE),
         (4, "scroll/scroll_view.cpp", "ScrollView", "clamps the view to the desktop", CALL),
         (5, "scroll/shift.cpp", "ShiftWindows", "loops over the window table", CALL),
-        (6, "scroll/shift.cpp", "ShiftWindow", "computes the new position", CALL),
-        (7, "windows/other_window.cpp", "PingMoveAndShow", "pings the window, then moves it", CALL),
+        (6, "scroll/shift.cpp", "ScrollRow", "scrolls list views", TABLE),
+        (7, "scroll/shift.cpp", "MoveRow", "computes the new position", CALL),
+        (8, "windows/other_window.cpp", "PingMoveAndShow", "pings the window, then moves it", CALL),
         (5, "core/state.cpp", "Repaint", "repaints the map at once", CALL),
     )),
     ("The mouse moves", (

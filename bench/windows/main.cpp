@@ -170,7 +170,7 @@ double Age() {
 }
 
 void End() {
-    TrayIcon(MainWnd, NIM_DELETE);
+    RemoveTrayIcon(MainWnd);
     ClearAllActionKeys();
     ShutDown();
 }

@@ -103,7 +103,6 @@ static void Unselect(DeskWindow& list) {
 static LRESULT RemoveItems(DeskWindow& list, WPARAM, LPARAM) {
     Unselect(list);
     list.control.itemCount = 0;
-    list.control.mark = -1;
     return TRUE;
 }
 
@@ -116,8 +115,9 @@ static LRESULT ItemCount(DeskWindow& list, WPARAM, LPARAM) {
     return list.control.itemCount;
 }
 
-static LRESULT SelectionMark(DeskWindow& list, WPARAM, LPARAM) {
-    return list.control.mark;
+// The only search in use: the selected item after `start`.
+static LRESULT NextItem(DeskWindow& list, WPARAM start, LPARAM) {
+    return list.control.selected > static_cast<int>(start) ? list.control.selected : -1;
 }
 
 static LRESULT RedrawItems(DeskWindow& list, WPARAM first, LPARAM last) {
@@ -154,7 +154,7 @@ static const ControlMessage ListViewMessages[] = {
     {LVM_REDRAWITEMS, RedrawItems},
     {LVM_INSERTCOLUMNA, InsertColumn},
     {LVM_SETEXTENDEDLISTVIEWSTYLE, SetExtendedStyle},
-    {LVM_GETSELECTIONMARK, SelectionMark},
+    {LVM_GETNEXTITEM, NextItem},
     {WM_PAINT, PaintList},
 };
 
@@ -162,12 +162,15 @@ LRESULT CALLBACK ListViewProc(HWND control, UINT message, WPARAM wParam, LPARAM 
     return HandleByTable(ListViewMessages, control, message, wParam, lParam);
 }
 
-// The item that loses the selection is reported first.
+// The item that loses the selection is reported first. A click beside the items only takes the selection
+// away.
 void SelectInListView(DeskWindow& control, int item) {
-    if (item < 0 || item >= control.control.itemCount || item == control.control.selected)
+    if (item >= control.control.itemCount || item == control.control.selected)
         return;
     Unselect(control);
-    control.control.selected = control.control.mark = item;
+    if (item < 0)
+        return;
+    control.control.selected = item;
     SendStateChange(control, item, 0, LVIS_SELECTED | LVIS_FOCUSED);
 }
 

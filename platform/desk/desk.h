@@ -43,7 +43,6 @@ struct DeskControl {
     std::size_t capacity = SIZE_MAX; // items it accepts before it reports that memory ran out
     int selected = -1;               // selected item, visible tab
     int itemCount = 0;               // list view: it stores only the number of its items
-    int mark = -1;                   // list view: item clicked last
     std::vector<DeskItem> columns;
     std::vector<int> redrawn;             // list view: items that LVM_REDRAWITEMS named
     DWORD extendedStyle = 0;              // list view
@@ -406,7 +405,8 @@ HWND FindControl(HWND dialog, int id);
 void ClickControl(HWND button); // as the mouse does it: focus, automatic check mark, notification
 void FocusControl(HWND control);
 void TypeText(HWND edit, const char* text); // replaces all of it
-void SelectItem(HWND control, int index);   // list box, drop-down list, list view or tab control; from 0
+void SelectItem(HWND control, int index);   // list box, drop-down list, list view or tab control; from 0, and
+                                            // -1 clicks into the empty part of a list view
 void DragSlider(HWND trackbar, int position);
 void PressKey(int key); // presses and releases it where the focus is. VK_ values.
 

@@ -250,6 +250,16 @@ BOOL DeleteObject(HGDIOBJ object) {
     return TRUE;
 }
 
+BOOL DestroyIcon(HICON icon) {
+    if (CallFails("DestroyIcon") || !icon)
+        return FALSE;
+    DeskObject& record = *reinterpret_cast<DeskObject*>(icon);
+    if (!record.live || record.kind != DeskObjectKind::Icon)
+        return FALSE;
+    record.live = record.stock;
+    return TRUE;
+}
+
 int LiveObjects() {
     return static_cast<int>(
         std::count_if(Desk.objects.begin(), Desk.objects.end(),

@@ -13,6 +13,9 @@ struct ModifierPair {
 
 } // namespace
 
+// Keyboards repeat every 30 to 50 ms; two presses of a user are farther apart.
+static const DWORD REPEAT_TIME = 60; // milliseconds
+
 static const ModifierPair Modifiers[] = {
     {KEY_CTRL, MOD_CONTROL},
     {KEY_SHIFT, MOD_SHIFT},
@@ -29,9 +32,15 @@ static UINT HotkeyModifiers(int mods) {
     return modifiers;
 }
 
-// All other key values are translated as characters, F13 to F24 among them.
 static bool IsVirtualKey(int key) {
     return key == VK_SPACE || (key >= VK_LEFT && key <= VK_DOWN) || (key >= VK_F1 && key <= VK_F12);
+}
+
+// Under every keyboard layout these are the virtual keys. VkKeyScanA only finds characters that the current
+// layout has: no Latin letters under a Cyrillic one, and for the code of F13 the key of '|'.
+static bool IsLayoutIndependent(int key) {
+    return key == VK_TAB || (key >= '0' && key <= '9') || (key >= 'A' && key <= 'Z') ||
+           (key >= VK_F13 && key <= VK_F24);
 }
 
 int VirtualKey(int key) {
@@ -39,9 +48,15 @@ int VirtualKey(int key) {
         return key;
     if (key > 256)
         key -= 256;
-    if (key >= 'A' && key <= 'Z')
-        key += 'a' - 'A';
-    return VkKeyScanA(static_cast<char>(key));
+    return IsLayoutIndependent(key) ? key : VkKeyScanA(static_cast<char>(key));
+}
+
+// A vk of -1 would be registered by some systems, though no key can produce it.
+static bool Register(int id, int mods, int vk) {
+    if (vk >= 0)
+        return RegisterHotKey(MainWnd, id, HotkeyModifiers(mods), static_cast<UINT>(vk)) != 0;
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return false;
 }
 
 static void ReportRefusal(int id) {
@@ -55,17 +70,22 @@ static void ReportRefusal(int id) {
     MessageBoxA(nullptr, text, "Error", MB_OK);
 }
 
-bool SetActionKey(int id, int mods, int key) {
-    if (mods < 0 || key < 0)
+// Registers and records the hotkey. False, with the action unchanged and the last error set, if refused.
+static bool Bind(int id, int mods, int vk) {
+    if (!Register(id, mods, vk))
         return false;
-    const int vk = VirtualKey(key);
-    if (!RegisterHotKey(MainWnd, id, HotkeyModifiers(mods), static_cast<UINT>(vk))) {
-        ReportRefusal(id);
-        return false;
-    }
     ActionTable[id].key_mods = mods;
     ActionTable[id].vk = vk;
     return true;
+}
+
+bool SetActionKey(int id, int mods, int key) {
+    if (mods < 0 || key < 0)
+        return false;
+    const bool bBound = Bind(id, mods, VirtualKey(key));
+    if (!bBound)
+        ReportRefusal(id);
+    return bBound;
 }
 
 // A message box about an earlier refusal runs a message loop, in which the user may have bound this action,
@@ -73,6 +93,12 @@ bool SetActionKey(int id, int mods, int key) {
 void RegisterRecordedKey(int id) {
     UnregisterHotKey(MainWnd, id);
     SetActionKey(id, ActionTable[id].key_mods, ActionTable[id].vk);
+}
+
+// Since Windows 7 the shell holds Win+Up and Win+Down, but not the same keys with Ctrl.
+static bool BindWithCtrl(int id, int mods, int vk) {
+    return mods == KEY_WIN && GetLastError() == ERROR_HOTKEY_ALREADY_REGISTERED &&
+           Bind(id, KEY_WIN | KEY_CTRL, vk);
 }
 
 // The default is forgotten before it is tried: the user may bind the action to another key while the box is
@@ -84,14 +110,14 @@ void RegisterDefaultKey(int id) {
     const int mods = action.key_mods;
     const int vk = action.vk;
     ClearActionKey(id, ACTION_KEY);
-    SetActionKey(id, mods, vk);
+    if (!Bind(id, mods, vk) && !BindWithCtrl(id, mods, vk))
+        ReportRefusal(id);
 }
 
 void ClearActionKey(int id, DWORD kinds) {
     ActionRow& action = ActionTable[id];
     if (kinds & ACTION_KEY) {
-        // vk can be -1 with a registered hotkey: VkKeyScan returns -1 for a character that the layout lacks.
-        if (action.vk >= 0 || action.key_mods >= 0)
+        if (action.vk >= 0)
             UnregisterHotKey(MainWnd, id);
         action.vk = action.key_mods = UNBOUND;
     }
@@ -102,4 +128,25 @@ void ClearActionKey(int id, DWORD kinds) {
 void ClearAllActionKeys() {
     for (int id = 0; id < NUM_ACTIONS; ++id)
         ClearActionKey(id, ACTION_KEY | ACTION_MOUSE);
+}
+
+static bool PeekHotkey(HWND window, MSG* message, UINT flags) {
+    return PeekMessageA(message, window, WM_HOTKEY, WM_HOTKEY, flags) != 0;
+}
+
+// A WM_HOTKEY that another program posts has no combination in lParam, and no keyboard repeats it.
+static bool IsRepeat(const MSG& next, WPARAM wParam, LPARAM lParam, DWORD time) {
+    return next.message == WM_HOTKEY && next.wParam == wParam && next.lParam == lParam && lParam &&
+           next.time - time < REPEAT_TIME;
+}
+
+void DropKeyRepeats(HWND window, WPARAM wParam, LPARAM lParam, DWORD time) {
+    MSG next;
+    while (PeekHotkey(window, &next, PM_NOREMOVE) && IsRepeat(next, wParam, lParam, time)) {
+        time = next.time;
+        if (PeekHotkey(window, &next, PM_REMOVE) && next.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(next.wParam)); // returned whatever the filter
+            return;
+        }
+    }
 }

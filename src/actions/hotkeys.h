@@ -9,8 +9,8 @@
 bool SetActionKey(int id, int mods, int key);
 
 // Registers the hotkey that the table holds for the action. RegisterRecordedKey is for bindings from the
-// settings file: a refused one stays recorded for the next save. RegisterDefaultKey is for defaults: a
-// refused one becomes unbound.
+// settings file: a refused one stays recorded for the next save. RegisterDefaultKey is for defaults: if
+// another program holds one with Win alone, the action gets it with Ctrl+Win; a refused one becomes unbound.
 void RegisterRecordedKey(int id);
 void RegisterDefaultKey(int id);
 
@@ -19,6 +19,10 @@ void ClearActionKey(int id, DWORD kinds);
 
 // Clears all hotkeys and mouse combinations and releases the hotkeys.
 void ClearAllActionKeys();
+
+// Discards what keyboard repeat has queued since the WM_HOTKEY with these arguments and time, so that an
+// action does not run on after the key is released. Separate presses are kept.
+void DropKeyRepeats(HWND window, WPARAM wParam, LPARAM lParam, DWORD time);
 
 // The virtual key for a key value, with the shift state of VkKeyScanA in the high byte; -1 if the keyboard
 // layout lacks the character.

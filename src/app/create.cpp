@@ -13,7 +13,7 @@
 
 void OnCreate(HWND window) {
     MainWnd = window;
-    UseCurrentDisplays();
+    UseDisplaysAtStart();
     ResetDesktop();
     SetView({0, 0});
     ResetOptions();

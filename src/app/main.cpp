@@ -8,8 +8,9 @@
 #include "core/state.h"
 #include "dialogs/registry.h"
 #include "menus/tray.h"
-#include "resources/control_ids.h"
 #include "status/status_strip.h"
+
+#include <cstdio>
 
 static const DWORD MAP_STYLE = WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
 
@@ -41,13 +42,24 @@ static void DisableUnless(ActionId id, bool bAvailable) {
         ActionTable[id].flags = ACTION_OFF;
 }
 
+// By the full path: a library of that name in the program's folder is not Windows' own. Null if it is missing.
+static HMODULE LoadSystemLibrary(const char* name) {
+    char folder[MAX_PATH] = "";
+    char path[MAX_PATH + 16];
+    const UINT length = GetSystemDirectoryA(folder, MAX_PATH);
+    if (!length || length >= MAX_PATH)
+        return nullptr;
+    std::snprintf(path, sizeof path, "%s\\%s", folder, name);
+    return LoadLibraryA(path);
+}
+
 static void FindScales() {
-    if (const HMODULE scaling = LoadLibraryA("shcore.dll"))
+    if (const HMODULE scaling = LoadSystemLibrary("shcore.dll"))
         pGetDpiForMonitor = FindFunction<decltype(pGetDpiForMonitor)>(scaling, "GetDpiForMonitor");
 }
 
 static void FindCompositor() {
-    if (const HMODULE compositor = LoadLibraryA("dwmapi.dll"))
+    if (const HMODULE compositor = LoadSystemLibrary("dwmapi.dll"))
         pDwmGetWindowAttribute =
             FindFunction<decltype(pDwmGetWindowAttribute)>(compositor, "DwmGetWindowAttribute");
 }
@@ -94,7 +106,6 @@ bool StartUp(HINSTANCE instance) {
     FillActionTable();
     InitCommonControls();
     BackBrush = GetSysColorBrush(COLOR_BACKGROUND);
-    TrayImage = static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(IDI_QUORL), IMAGE_ICON, 16, 16, 0));
     RegisterMainClass(instance);
     FindOptionalFunctions();
     FindCompositor();
@@ -112,7 +123,7 @@ bool StartUp(HINSTANCE instance) {
         return true; // the user quit from a box during creation; the message loop ends at once
     if (pSetLayeredWindowAttributes)
         pSetLayeredWindowAttributes(MainWnd, 0, static_cast<BYTE>(Options.alpha), LWA_ALPHA);
-    TrayIcon(MainWnd, NIM_ADD);
+    AddTrayIcon(MainWnd);
     StartMouseHook();
     if (IsOn(ACTION_SHOW_TOOLWIN))
         ShowWindow(MainWnd, SW_SHOWNA); // the user goes on typing into another program
@@ -138,7 +149,7 @@ void ShutDown() {
     if (HookLibrary)
         FreeLibrary(HookLibrary);
     if (TrayImage)
-        DeleteObject(TrayImage);
+        DestroyIcon(TrayImage);
 }
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {

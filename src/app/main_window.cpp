@@ -2,6 +2,7 @@
 #include "app/main_window.h"
 
 #include "actions/dispatch.h"
+#include "actions/hotkeys.h"
 #include "app/create.h"
 #include "app/quit.h"
 #include "core/rect.h"
@@ -69,7 +70,9 @@ static LRESULT OnHookMessage(HWND window, UINT, WPARAM wParam, LPARAM) {
 }
 
 static LRESULT OnHotkey(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const DWORD time = static_cast<DWORD>(GetMessageTime()); // the action can handle other messages
     DoAction(window, static_cast<int>(wParam), GetForegroundWindow());
+    DropKeyRepeats(window, wParam, lParam, time);
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
@@ -143,5 +146,9 @@ LRESULT CALLBACK MainWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
     for (const MessageHandler& row : MessageHandlers)
         if (row.message == message)
             return row.handler(window, message, wParam, lParam);
+    if (IsTaskbarCreated(message)) {
+        AddTrayIcon(window);
+        return 0;
+    }
     return DefWindowProcA(window, message, wParam, lParam);
 }

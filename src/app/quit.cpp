@@ -6,7 +6,7 @@
 #include "scroll/gather.h"
 #include "settings/settings.h"
 
-static bool bMaySave; // not while a message box of the start is open: some hotkeys are not registered yet
+static bool bMaySave; // false until all hotkeys are registered: an earlier exit would save unbound ones
 
 void EnableSaving() {
     bMaySave = true;
@@ -20,7 +20,7 @@ static void SaveIfWanted() {
 static void Quit(HWND window, FoldReason reason) {
     bQuitting = true;
     PostQuitMessage(0); // takes effect only in the message loop, after all that follows
-    TrayIcon(window, NIM_DELETE);
+    RemoveTrayIcon(window);
     SaveIfWanted();
     ClearAllActionKeys();
     GatherWindows(reason);
@@ -34,7 +34,7 @@ bool ConfirmQuit(HWND window) {
     return true;
 }
 
-// Also while a box or a fold of the exit waits for the user: everything else is done by then.
+// May arrive while Quit shows a message box; settings and hotkeys are done by then, so only fold again.
 void EndSession(HWND window) {
     if (bQuitting)
         GatherWindows(FOLD_AT_LOGOFF);

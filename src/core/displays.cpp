@@ -7,7 +7,6 @@
 #include <cstring>
 
 static const int TITLE_HEIGHT = 24;  // pixels
-static const int GRAB_SIZE = 5;      // pixels in both directions: less of a title could not be grabbed
 static const int FAR_AWAY = 1 << 24; // pixels: beyond every position of the cursor
 
 DisplayLayout Displays;
@@ -46,23 +45,28 @@ bool IsSameLayout(const DisplayLayout& a, const DisplayLayout& b) {
     return a.count == b.count && std::equal(a.displays, a.displays + a.count, b.displays, IsSameDisplay);
 }
 
+// Of two ranges along an axis: how many pixels both have, or the negative of the gap between them.
+static long long Overlap(LONG firstA, LONG endA, LONG firstB, LONG endB) {
+    return 0LL + std::min(endA, endB) - std::max(firstA, firstB);
+}
+
 bool IsShownBy(const DisplayLayout& layout, const RECT& rect) {
     return std::any_of(layout.displays, layout.displays + layout.count, [&rect](const Display& display) {
-        RECT shared{};
-        return IntersectRect(&shared, &display.rect, &rect) != 0;
+        return Overlap(display.rect.left, display.rect.right, rect.left, rect.right) > 0 &&
+               Overlap(display.rect.top, display.rect.bottom, rect.top, rect.bottom) > 0;
     });
 }
 
 void UseDisplays(const DisplayLayout& layout) {
     Displays = layout;
-    ScreenRect = FromWindows(layout.all);
+    ScreenRect = FromSystem(layout.all);
 }
 
-RECT FromWindows(const RECT& rect) {
+RECT FromSystem(const RECT& rect) {
     return Offset(rect, Wrap(0LL - Displays.all.left), Wrap(0LL - Displays.all.top));
 }
 
-RECT ToWindows(const RECT& rect) {
+RECT ToSystem(const RECT& rect) {
     return Offset(rect, Displays.all.left, Displays.all.top);
 }
 
@@ -77,11 +81,6 @@ void MoveCursor(POINT cursor) {
     SetCursorPos(Wrap(0LL + cursor.x + Displays.all.left), Wrap(0LL + cursor.y + Displays.all.top));
 }
 
-// Of two ranges along an axis: how many pixels both have, or the negative of the gap between them.
-static long long Overlap(LONG firstA, LONG endA, LONG firstB, LONG endB) {
-    return 0LL + std::min(endA, endB) - std::max(firstA, firstB);
-}
-
 // How well a display fits a rectangle: the shared area, or the negative of the squared distance.
 static double Fit(const RECT& display, const RECT& rect) {
     const auto width = static_cast<double>(Overlap(display.left, display.right, rect.left, rect.right));
@@ -94,7 +93,7 @@ static double Fit(const RECT& display, const RECT& rect) {
 }
 
 static DisplayArea AreaOf(const Display& display) {
-    return {FromWindows(display.rect), FromWindows(display.work)};
+    return {FromSystem(display.rect), FromSystem(display.work)};
 }
 
 DisplayArea PrimaryDisplay() {
@@ -102,7 +101,7 @@ DisplayArea PrimaryDisplay() {
 }
 
 DisplayArea DisplayNear(const RECT& rect) {
-    const RECT target = ToWindows(rect);
+    const RECT target = ToSystem(rect);
     const Display* const end = Displays.displays + Displays.count;
     const Display* const nearest = std::max_element(
         static_cast<const Display*>(Displays.displays), end,
@@ -111,7 +110,7 @@ DisplayArea DisplayNear(const RECT& rect) {
 }
 
 bool IsOnDisplay(const RECT& rect) {
-    return IsShownBy(Displays, ToWindows(rect));
+    return IsShownBy(Displays, ToSystem(rect));
 }
 
 static bool IsPixelOnDisplay(LONG x, LONG y) {
@@ -133,7 +132,7 @@ RECT OuterEdges(POINT point) {
 }
 
 bool IsTitleInReach(const RECT& visible) {
-    const RECT rect = ToWindows(visible);
+    const RECT rect = ToSystem(visible);
     const LONG titleEnd = std::min<LONG>(rect.bottom, Wrap(0LL + rect.top + TITLE_HEIGHT));
     return std::any_of(Displays.displays, Displays.displays + Displays.count, [&](const Display& display) {
         return Overlap(display.work.left, display.work.right, rect.left, rect.right) >= GRAB_SIZE &&

@@ -1,12 +1,14 @@
 // The displays, and the coordinates that Quorl decides with.
 //
 // Windows counts from the corner of the primary display, so a display left of it or above it has negative
-// coordinates. Quorl counts from the top left corner of the union of all displays: screen coordinates, which
-// start at 0. Convert where a position comes from Windows or goes back to it, and nowhere else.
+// coordinates: system coordinates. Quorl counts from the top left corner of the union of all displays: screen
+// coordinates, which start at 0. Convert where a position comes from Windows or goes back to it, and nowhere
+// else.
 #pragma once
 
 #include "core/platform.h"
 
+constexpr int GRAB_SIZE = 5;     // pixels in both directions: less of a title could not be grabbed
 constexpr int MAX_DISPLAYS = 16; // further ones are ignored
 
 struct Display {
@@ -15,14 +17,14 @@ struct Display {
     char device[CCHDEVICENAME];
 };
 
-// A measurement, in the coordinates of Windows. The first display is the primary one.
+// A measurement, in system coordinates. The first display is the primary one.
 struct DisplayLayout {
     int count;
     RECT all; // the union; empty without a display
     Display displays[MAX_DISPLAYS];
 };
 
-// The layout in use. Behind the real one while displays change.
+// The layout in use; older than the real one while displays change.
 extern DisplayLayout Displays;
 
 // Measures the displays. A display that has just been unplugged is left out.
@@ -30,15 +32,15 @@ void MonitorUnion(DisplayLayout* layout);
 
 bool IsSameLayout(const DisplayLayout& a, const DisplayLayout& b);
 
-// Whether a display of the layout shows a part of the rectangle, which is in the coordinates of Windows.
+// Whether a display of the layout shows a part of the rectangle, in system coordinates.
 bool IsShownBy(const DisplayLayout& layout, const RECT& rect);
 
 // Changes the layout in use, and with it ScreenRect and all conversions.
 void UseDisplays(const DisplayLayout& layout);
 
-// From the coordinates of Windows to screen pixels, and back.
-RECT FromWindows(const RECT& rect);
-RECT ToWindows(const RECT& rect);
+// From system coordinates to screen pixels, and back.
+RECT FromSystem(const RECT& rect);
+RECT ToSystem(const RECT& rect);
 
 // The cursor, in screen pixels. False if it cannot be read, for example while the workstation is locked.
 bool ReadCursor(POINT* cursor);
@@ -46,18 +48,19 @@ void MoveCursor(POINT cursor);
 
 // Everything below takes and returns screen pixels, and uses the layout in use.
 
-// The display that shows most of the rectangle, or else the nearest one. All 0 without a display.
 struct DisplayArea {
     RECT rect, work;
 };
+
+// The display that shows most of the rectangle, or else the nearest one. All 0 without a display.
 DisplayArea DisplayNear(const RECT& rect);
 DisplayArea PrimaryDisplay();
 
 // Whether a display shows a part of the rectangle.
 bool IsOnDisplay(const RECT& rect);
 
-// The edges around a point at which the screen ends. Where another display continues, the edge is out of
-// reach.
+// The edges of the display at a point. An edge next to another display is moved far away, so that the cursor
+// never reaches it.
 RECT OuterEdges(POINT point);
 
 // Whether a window can be grabbed: at least 5 by 5 pixels of its title are in a work area.

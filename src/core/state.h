@@ -28,10 +28,10 @@ inline int ScreenH() {
 extern HWND MainWnd;          // the map; null only before its creation. Written by app/create.cpp.
 extern HINSTANCE AppInstance; // for dialogs
 extern HBRUSH BackBrush;      // the map's background
-extern HICON TrayImage;       // 16 by 16 pixels
+extern HICON TrayImage;       // of the size of small icons. Written by menus/tray.cpp.
 
-// Set when the user confirms "QUIT?", by app/quit.cpp: messages still in the queue must not move windows that
-// are back on the screen.
+// Set by app/quit.cpp once Quorl is ending, because the user confirmed or the session ends: messages still in
+// the queue must not move windows that are back on the screen.
 extern bool bQuitting;
 
 // Set while the displays change, by scroll/display_change.cpp: Quorl moves nothing until they have settled.

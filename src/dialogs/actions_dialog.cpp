@@ -74,8 +74,10 @@ static DWORD FlagOfTab(int tab) {
     return tab ? ACTION_MOUSE : ACTION_KEY;
 }
 
+// The list's selection mark would stay at an item that a click into the empty part has unselected.
 static int SelectedItem(HWND dialog) {
-    return static_cast<int>(SendDlgItemMessageA(dialog, IDC_ACTIONS_LIST, LVM_GETSELECTIONMARK, 0, 0));
+    return static_cast<int>(SendDlgItemMessageA(dialog, IDC_ACTIONS_LIST, LVM_GETNEXTITEM,
+                                                static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
 static void ShowControlsOfTab(HWND dialog, bool bKeyboard) {

@@ -17,7 +17,7 @@ static void RaiseDialog(HWND dialog) {
     GetWindowRect(dialog, &rect);
     const int x = (ScreenW() - Width(rect) / 2) / 2;
     const int y = (ScreenH() - Height(rect) / 2) / 2;
-    const RECT moved = ToWindows(KeepInReach({x, y, x + Width(rect), y + Height(rect)}));
+    const RECT moved = ToSystem(KeepInReach({x, y, x + Width(rect), y + Height(rect)}));
     MoveWindow(dialog, moved.left, moved.top, Width(moved), Height(moved), TRUE);
     RaiseWindow(dialog);
 }

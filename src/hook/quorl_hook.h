@@ -11,7 +11,8 @@ void SaveSharedData(HWND window);
 
 // 1: posts HOOK_MOUSE_MESSAGE to the window for every mouse message except the wheel's, wherever the mouse
 // is. At most one move is in the window's queue, because the cursor's position is read when it is handled;
-// clicks are never dropped. 0: stops, and returns when the hook is removed. Does nothing if that is the state
-// already, or without a window. If the window is destroyed, the hook ends; calling with 1 starts it again.
+// clicks are never dropped. 0: stops, and returns when the hook is removed, or after 2 seconds. Does nothing
+// if that is the state already, or without a window. If the window is destroyed, the hook ends; calling with
+// 1 starts it again.
 void SetMouseHook(int bWatch);
 }

@@ -37,7 +37,7 @@ static void ActivateWindowUnderCursor() {
 }
 
 static int OnMove(HWND window, POINT cursor, EdgeCause cause) {
-    MeasureScreen(); // notices a change of display
+    CheckDisplays(); // notices a change of display
     if (IsOn(ACTION_FOLLOW_MOUSE) &&
         !(IsOn(ACTION_SUPPRESS_SCROLL) && (IsHeld(VK_LBUTTON) || IsHeld(VK_RBUTTON))))
         EdgeScroll(window, cursor, cause);
@@ -55,7 +55,7 @@ static int OnClick(HWND window, POINT cursor, EdgeCause cause) {
 }
 
 static int OnRelease(HWND, POINT, EdgeCause) {
-    MeasureScreen();
+    CheckDisplays();
     Repaint(MainWnd);
     return 0;
 }

@@ -11,8 +11,8 @@ namespace {
 // One action's change of the desktop, in screens.
 struct SizeChange {
     int width, height; // -1, 0 or 1
-    bool bShifts;      // the windows move by the same distance ...
-    bool bClamps;      // ... or are moved to where they are, which clamps them to the desktop
+    bool bShifts;      // all windows move by the change
+    bool bClamps;      // windows do not move but are clamped to the desktop
 };
 
 } // namespace

@@ -3,8 +3,8 @@
 
 #include "actions/action_table.h"
 
-// What the user chose. Quorl is larger while the screen is larger: windows beyond the desktop are not
-// managed.
+// The desktop that the user chose and the file stores. Quorl is never smaller than the screen, because
+// windows beyond it are not managed.
 extern RECT ChosenDesktop;
 
 // Sets the default desktop: four by two screens, each side at most LARGEST_DESKTOP pixels.
@@ -30,5 +30,5 @@ enum DesktopSide {
     REMOVE_BOTTOM
 };
 
-// Handler: adds or removes a screen; the argument is a DesktopSide. Always 1.
+// Handler: adds or removes a screen; the argument is a DesktopSide. 0 if windows cannot move now, else 1.
 int ChangeDesktopSize(const ActionCall& call);

@@ -68,7 +68,7 @@ static void CALLBACK DisplaysSettled(HWND window, UINT, UINT_PTR, DWORD) {
         AdoptDisplays(now); // without any display nobody looks
 }
 
-void UseCurrentDisplays() {
+void UseDisplaysAtStart() {
     DisplayLayout now;
     MonitorUnion(&now);
     UseDisplays(now);
@@ -79,7 +79,7 @@ void OnDisplayChange() {
     bDisplaysChanging = SetTimer(MainWnd, SETTLE_TIMER, SETTLE_TIME, DisplaysSettled) != 0;
 }
 
-void MeasureScreen() {
+void CheckDisplays() {
     DisplayLayout now;
     MonitorUnion(&now);
     if (!IsSameLayout(now, bDisplaysChanging ? Measured : Displays))

@@ -5,10 +5,10 @@
 #include "core/platform.h"
 
 // Measures the displays at start.
-void UseCurrentDisplays();
+void UseDisplaysAtStart();
 
 // Measures the displays, and waits for them to settle if others are found than the last time.
-void MeasureScreen();
+void CheckDisplays();
 
 // Windows has announced a change: waits for the displays to settle, again from the start if it waits already.
 // Until then nothing moves, and all coordinates stay as they are.

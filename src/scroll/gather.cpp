@@ -6,23 +6,21 @@
 #include "windows/other_window.h"
 #include "windows/window_table.h"
 
-static const int LAST_PIXELS = 5; // pixels: so little of a window could not be grabbed
-
 namespace {
 
 // What differs between the reasons to fold.
 struct FoldRule {
     UINT timeout;    // milliseconds that a window may take to respond
     DWORD timeLimit; // milliseconds for all of them; then moves are only posted. 0: no limit
-    bool bReport;    // a refusal shows a box
+    bool bReport;    // a refusal shows a message box
 };
 
 // A window, read before any window has been moved.
 struct FoldRow {
     HWND window;
     WindowFrame frame;
-    bool bMoves;          // its own rectangle is folded
-    bool bOwnsNormalRect; // minimized or maximized: the rectangle that restoring gives it is checked
+    bool bMoves;         // its own rectangle is folded
+    bool bHasNormalRect; // minimized or maximized: the rectangle that restoring gives it is checked
 };
 
 } // namespace
@@ -42,7 +40,7 @@ static int FoldCoordinate(int corner, int screen) {
     int folded = Remainder(corner, screen);
     if (folded < 0)
         folded += screen;
-    return folded > screen - LAST_PIXELS ? screen - folded : folded;
+    return folded > screen - GRAB_SIZE ? screen - folded : folded;
 }
 
 // A display may not show that part of the screen, or a taskbar cover it.
@@ -58,13 +56,13 @@ static bool IsLost(HWND window, WindowFrame* frame) {
            Width(frame->visible) && Height(frame->visible) && !IsTitleInReach(frame->visible);
 }
 
-static int ReadFolds() {
+static int ReadFoldRows() {
     for (int i = 0; i < num_windows; ++i) {
         const HWND window = WindowTable[i].hwnd;
         FoldRow& row = Folds[i];
         row.window = window;
         row.bMoves = IsManagedWindow(window, &row.frame) || IsLost(window, &row.frame);
-        row.bOwnsNormalRect = IsUserWindow(window) && (IsIconic(window) || IsZoomed(window));
+        row.bHasNormalRect = (IsIconic(window) || IsZoomed(window)) && IsUserWindow(window);
     }
     return num_windows;
 }
@@ -89,15 +87,15 @@ static void PostFold(const FoldRow& row) {
         PostMove(row.window, row.frame, {folded.left, folded.top});
 }
 
-static void FoldRowBy(const FoldRule& rule, const FoldRow& row) {
+static void FoldOne(const FoldRule& rule, const FoldRow& row) {
     if (row.bMoves && FoldWindow(row, rule.timeout) == MOVE_REFUSED && rule.bReport)
         MessageBoxA(nullptr, "Not a timeout! A window won't restore!", "ok", MB_OK);
-    if (row.bOwnsNormalRect)
+    if (row.bHasNormalRect)
         FoldNormalRect(row.window);
 }
 
 // The displays may have changed since they were last measured, and Quorl no longer waits for them to settle.
-static void MeasureForLastTime() {
+static void UseDisplaysAtExit() {
     DisplayLayout now;
     MonitorUnion(&now);
     if (now.count)
@@ -111,12 +109,12 @@ void GatherWindows(FoldReason reason) {
     const FoldRule& rule = FoldRules[reason];
     const int fold = ++FoldCount;
     if (bQuitting)
-        MeasureForLastTime();
+        UseDisplaysAtExit();
     RebuildWindowTable();
     const DWORD start = GetTickCount();
-    for (int i = ReadFolds() - 1; i >= 0 && fold == FoldCount; --i)
+    for (int i = ReadFoldRows() - 1; i >= 0 && fold == FoldCount; --i)
         if (rule.timeLimit && GetTickCount() - start >= rule.timeLimit)
             PostFold(Folds[i]);
         else
-            FoldRowBy(rule, Folds[i]);
+            FoldOne(rule, Folds[i]);
 }

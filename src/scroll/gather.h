@@ -10,6 +10,6 @@ enum FoldReason {
 
 // Folds every managed window, locked ones too, and every other window of the user that is out of reach: a
 // disabled, cloaked or minimized one, or one beyond the desktop. A window that does not respond in time is
-// asked to move when it responds again. At exit and for a smaller desktop, a refusal shows a box. Ends early
-// when another fold starts meanwhile, which then folds everything.
+// asked to move when it responds again. At exit and for a smaller desktop, a refusal shows a message box.
+// Ends early when another fold starts meanwhile, which then folds everything.
 void GatherWindows(FoldReason reason);

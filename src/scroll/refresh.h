@@ -6,6 +6,6 @@
 constexpr UINT_PTR REFRESH_TIMER = 2000;
 constexpr UINT REFRESH_PERIOD = 100; // milliseconds
 
-// The timer's callback: follows the active window, compares the window table with the windows' rectangles,
-// and refreshes table and map if they differ.
+// The timer's callback: follows the active window, then rebuilds the window table and repaints the map if a
+// rectangle has changed, on every 12th tick, and while it follows a window.
 void CALLBACK RefreshTimer(HWND window, UINT message, UINT_PTR id, DWORD time);

@@ -104,7 +104,7 @@ bool ScrollView(HWND window, int x, int y, ScrollMode mode, int id) {
     ShowCount(id);
     const RECT before = VDesk;
     if (IsOn(ACTION_FOLLOW_ACTIVE) && mode != SV_WINDOW)
-        TakeForeground(); // not for a window that gets it: this would close the user's menus
+        TakeForeground(); // a window that is activated afterwards would see its open menu closed
     const ViewStep step = ClampStep(before, ScrollDistance(before, x, y, mode), Quorl, ScreenW(), ScreenH());
     VDesk = step.view;
     ShiftWindows(Wrap(0LL - step.dx), Wrap(0LL - step.dy));

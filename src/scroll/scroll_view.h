@@ -1,4 +1,5 @@
-// Scrolling: ScrollView is the only function that moves the view after start-up.
+// The view: ScrollView moves it and the windows; SetView moves no window, and is for the start and for a
+// change of displays.
 #pragma once
 
 #include "core/platform.h"

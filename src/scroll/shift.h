@@ -3,8 +3,8 @@
 
 #include "core/displays.h"
 
-// Whether windows may be moved together now: not once the user has quit, not while the displays change, and
-// not inside another scroll, which a message box in its midst makes possible.
+// Whether windows may be moved together now: not once Quorl is ending, not while the displays change, and not
+// during another scroll: a message box shown then runs a message loop.
 bool MayScroll();
 
 // Moves every managed, unlocked window by (dx, dy) pixels and shows it. A window that does not respond stays

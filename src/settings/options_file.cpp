@@ -93,7 +93,7 @@ static void ReadMapRect(LPCSTR file) {
         return;
     const RECT reachable = KeepInReach(map);
     const RECT moved =
-        ToWindows(Offset(rect, Wrap(0LL + reachable.left - map.left), Wrap(0LL + reachable.top - map.top)));
+        ToSystem(Offset(rect, Wrap(0LL + reachable.left - map.left), Wrap(0LL + reachable.top - map.top)));
     MoveWindow(MainWnd, moved.left, moved.top, Width(moved), Height(moved), TRUE);
 }
 
@@ -102,7 +102,7 @@ static void ReadMapRect(LPCSTR file) {
 static void WriteMapRect(LPCSTR file) {
     RECT rect{};
     if (GetWindowRect(MainWnd, &rect))
-        WriteRect(file, MapKeys, FromWindows(rect));
+        WriteRect(file, MapKeys, FromSystem(rect));
 }
 
 static void ReadMenu(LPCSTR file) {

@@ -7,17 +7,19 @@
 #include "settings/ini.h"
 #include "settings/options_file.h"
 #include "settings/regions_file.h"
+#include "settings/settings_path.h"
 
 static void ReadSettings(bool (&bStored)[NUM_ACTIONS]) {
-    ResetRegions(0); // moving the map paints it
-    LoadOptions(SETTINGS_FILE);
-    LoadRegions(SETTINGS_FILE);
-    ReadActions(SETTINGS_FILE, bStored);
+    ResetRegions(0); // LoadOptions may repaint the map; do not draw the old regions
+    LoadOptions(SettingsFile());
+    LoadRegions(SettingsFile());
+    ReadActions(SettingsFile(), bStored);
 }
 
 void LoadSettingsAtStart() {
+    ChooseSettingsFile();
     bool bStored[NUM_ACTIONS] = {};
-    bStored[ACTION_LOAD_AT_START] = ReadAction(SETTINGS_FILE, ACTION_LOAD_AT_START);
+    bStored[ACTION_LOAD_AT_START] = ReadAction(SettingsFile(), ACTION_LOAD_AT_START);
     if (IsOn(ACTION_LOAD_AT_START))
         ReadSettings(bStored);
     for (int id = 0; id < NUM_ACTIONS; ++id)
@@ -34,7 +36,7 @@ static void SaveTo(LPCSTR file) {
 }
 
 void SaveSettings() {
-    SaveAtomically(SETTINGS_FILE, SaveTo);
+    SaveAtomically(SettingsFile(), SaveTo);
 }
 
 int SaveSettingsAction(const ActionCall&) {

@@ -90,7 +90,7 @@ static void MoveTip() {
     const int height = Scale(TextHeight(), TipState.dpi, DEFAULT_DPI);
     const int above = Wrap(0LL + map.top - height);
     const int top = above < DisplayNear(map).rect.top ? map.bottom : above;
-    const RECT strip = ToWindows({map.left, top, map.right, Wrap(0LL + top + height)});
+    const RECT strip = ToSystem({map.left, top, map.right, Wrap(0LL + top + height)});
     MoveWindow(TipWnd, strip.left, strip.top, Width(strip), Height(strip), TRUE);
 }
 

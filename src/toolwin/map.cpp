@@ -21,12 +21,6 @@ static int flash_level; // brightness of the flash; see NextFlashLevel
 
 namespace {
 
-enum BoxKind {
-    PLAIN_BOX,
-    ACTIVE_BOX,   // of the active window: red
-    FLASHING_BOX, // of an active dialog that disables its owner
-};
-
 // The state of one paint.
 struct MapPaint {
     HWND window;
@@ -49,16 +43,14 @@ static bool IsDialogClass(const char* name) {
     return false;
 }
 
-// Pure: how a window's box is drawn. `ownerStyle` is 0 if there is no owner.
-static BoxKind KindOfBox(bool bActive, const char* className, DWORD ownerStyle) {
-    if (!bActive)
-        return PLAIN_BOX;
-    return IsDialogClass(className) && (ownerStyle & WS_DISABLED) ? FLASHING_BOX : ACTIVE_BOX;
-}
-
-static DWORD OwnerStyle(HWND window) {
+// Whether it is a dialog that disables its owner: its box flashes.
+static bool IsModalDialog(HWND window) {
+    char name[128] = "";
+    GetClassNameA(window, name, 127);
+    if (!IsDialogClass(name))
+        return false;
     const auto owner = reinterpret_cast<HWND>(GetWindowLongPtrA(window, GWLP_HWNDPARENT));
-    return static_cast<DWORD>(GetWindowLongPtrA(owner, GWL_STYLE));
+    return (GetWindowLongPtrA(owner, GWL_STYLE) & WS_DISABLED) != 0;
 }
 
 static void DrawLines(HDC context, const RECT& box) {
@@ -104,10 +96,7 @@ static void CALLBACK FlashTimer(HWND window, UINT, UINT_PTR, DWORD) {
 
 // Each tick of the timer repaints the box, and each such paint starts the timer again.
 static void DrawActiveBox(const MapPaint& paint, const RECT& box) {
-    char name[128] = "";
-    GetClassNameA(paint.active, name, 127);
-    const DWORD ownerStyle = IsDialogClass(name) ? OwnerStyle(paint.active) : 0;
-    const bool bFlashes = KindOfBox(true, name, ownerStyle) == FLASHING_BOX;
+    const bool bFlashes = IsModalDialog(paint.active);
     if (bFlashes)
         SetTimer(paint.window, FLASH_TIMER, FLASH_PERIOD, FlashTimer);
     else

@@ -43,7 +43,7 @@ bool MoveToolwin(int dx, int dy) {
     WindowFrame frame{};
     if (!ReadWindowFrame(MainWnd, &frame))
         return false;
-    MeasureScreen(); // the displays may have changed since the last move
+    CheckDisplays(); // the displays may have changed since the last move
     RECT rect = Offset(frame.visible, dx, dy);
     if (IsOn(ACTION_SNAP))
         rect = SnapRect(rect, Options.border, ScreenW(), ScreenH());

@@ -5,7 +5,7 @@
 
 static HWND LastActive;
 
-// In a quiet tick the foreground window is the one noted before, and one call is enough.
+// Usually the foreground has not changed, and this costs one call.
 void NoteForeground() {
     const HWND active = GetForegroundWindow();
     if (active != LastActive && active != MainWnd && IsManagedWindow(active))

@@ -1,4 +1,4 @@
-// The window that commands from the menu and the map act on: while one of these is in use, the foreground
+// The window that actions from the menu and the map act on: while one of these is in use, the foreground
 // window is Quorl's own or the taskbar.
 #pragma once
 

@@ -8,7 +8,7 @@
 #include <cstring>
 #include <initializer_list>
 
-static const int MINIMIZED = -32000; // left edge, in the coordinates of Windows, of minimized windows
+static const int MINIMIZED = -32000; // left edge, in system coordinates, of minimized windows
 static const int MAX_MARGIN = 48;  // pixels: more is a window just being restored, or the ghost of a hung one
 static const int MARGIN_ERROR = 2; // pixels by which the margins of a program that is not DPI aware vary
 
@@ -17,7 +17,7 @@ constexpr DWORD DWMWA_EXTENDED_FRAME_BOUNDS = 9; // declared in a header that th
 namespace {
 
 // Sent with WM_MOVING in place of a RECT, which has the same size: right and bottom hold width and height. In
-// the coordinates of Windows.
+// system coordinates.
 struct WindowPosition {
     LONG x, y, width, height;
 };
@@ -28,7 +28,7 @@ static bool IsMargin(LONG margin) {
     return margin >= 0 && margin <= MAX_MARGIN;
 }
 
-// Only margins that are plausible: a program's picture may be scaled, or not drawn yet.
+// All 0 if implausible: the compositor may report a frame that is not drawn yet.
 static RECT ReadMargins(HWND window, const RECT& rect) {
     RECT visible{};
     if (!pDwmGetWindowAttribute || rect.left <= MINIMIZED ||
@@ -47,7 +47,8 @@ static RECT Shrink(const RECT& rect, const RECT& margins) {
             Wrap(0LL + rect.right - margins.right), Wrap(0LL + rect.bottom - margins.bottom)};
 }
 
-// Moves an edge to the edge of the screen or of the desktop that it misses by the error of its margin.
+// If the edge is within MARGIN_ERROR of the screen's or the desktop's, sets it to that and corrects the
+// margin.
 static void SnapEdge(LONG* edge, LONG* margin, LONG screen, LONG desktop, int outward) {
     for (const LONG target : {screen, desktop}) {
         const long long missed = 0LL + target - *edge;
@@ -73,7 +74,7 @@ bool ReadWindowFrame(HWND window, WindowFrame* frame) {
     if (!GetWindowRect(window, &rect))
         return false;
     const RECT margins = ReadMargins(window, rect);
-    *frame = {FromWindows(Shrink(rect, margins)), margins, rect.left <= MINIMIZED, false};
+    *frame = {FromSystem(Shrink(rect, margins)), margins, rect.left <= MINIMIZED, false};
     if (!IsSameRect(margins, {}))
         SnapFrame(frame);
     return true;
@@ -102,11 +103,11 @@ static bool PingWithPosition(HWND window, WindowPosition* position, UINT timeout
     return SendBounded(window, WM_MOVING, 0, reinterpret_cast<LPARAM>(position), timeout);
 }
 
-// What to tell Windows for a visible corner.
+// The position to pass to Windows so that the visible corner is at `corner`.
 static WindowPosition PositionFor(const WindowFrame& frame, POINT corner) {
     const RECT& margins = frame.margins;
     const RECT outer =
-        ToWindows({Wrap(0LL + corner.x - margins.left), Wrap(0LL + corner.y - margins.top), 0, 0});
+        ToSystem({Wrap(0LL + corner.x - margins.left), Wrap(0LL + corner.y - margins.top), 0, 0});
     return {outer.left, outer.top, Wrap(0LL + Width(frame.visible) + margins.left + margins.right),
             Wrap(0LL + Height(frame.visible) + margins.top + margins.bottom)};
 }
@@ -209,7 +210,7 @@ bool ReadNormalRect(HWND window, RECT* rect) {
     placement.length = sizeof placement;
     if (!GetWindowPlacement(window, &placement))
         return false;
-    const RECT normal = FromWindows(placement.rcNormalPosition);
+    const RECT normal = FromSystem(placement.rcNormalPosition);
     const POINT offset = WorkspaceOffset(window, normal);
     *rect = Offset(normal, offset.x, offset.y);
     return true;
@@ -222,7 +223,7 @@ void SetNormalRect(HWND window, const RECT& rect) {
     if (!MayMove() || !IsAlive(window) || !GetWindowPlacement(window, &placement))
         return;
     const POINT offset = WorkspaceOffset(window, rect);
-    placement.rcNormalPosition = ToWindows(Offset(rect, -offset.x, -offset.y));
+    placement.rcNormalPosition = ToSystem(Offset(rect, -offset.x, -offset.y));
     placement.showCmd = IsIconic(window) ? SW_SHOWMINNOACTIVE : SW_SHOWNA;
     SetWindowPlacement(window, &placement);
 }
@@ -296,7 +297,7 @@ void ToggleTopmost(HWND window) {
 }
 
 void TileOtherWindows(UINT how, const RECT& rect, const HWND* windows, UINT count) {
-    const RECT area = ToWindows(rect);
+    const RECT area = ToSystem(rect);
     TileWindows(nullptr, how, &area, count, windows);
 }
 

@@ -1,6 +1,6 @@
-// Windows of other programs. Every message to one, and every call that moves, shows or activates one, is
-// here. Messages have a timeout, and other calls follow a message that the window responded to, so that a
-// hung program cannot block Quorl. Positions are in screen pixels. Nothing moves while the displays change.
+// All calls that message, move, show or activate windows of other programs. None can block on a hung program:
+// each follows a message with a timeout, or does not wait for the window. Positions are in screen pixels.
+// Nothing moves while the displays change.
 #pragma once
 
 #include "core/platform.h"
@@ -11,11 +11,10 @@ constexpr UINT FOLD_TIMEOUT = 1000;  // milliseconds, when windows are brought b
 // Where a window is. Since Windows 10 a sizable window has an invisible frame, and a maximized one extends
 // past its work area, so the rectangle that Windows reports is not the one that the user sees.
 struct WindowFrame {
-    RECT visible;    // what the user sees
-    RECT margins;    // pixels by which the rectangle of Windows extends past `visible`, per side; all 0 if
-                     // unknown
+    RECT visible;
+    RECT margins; // pixels per side by which GetWindowRect's rectangle extends past `visible`; 0 if unknown
     bool bMinimized; // it is where Windows puts minimized windows
-    bool bSetSize;   // it has another size than `visible`, which a move gives it
+    bool bSetSize;   // it was restored, so the next move also sets its size to that of `visible`
 };
 
 // False if the window is gone.
@@ -30,9 +29,9 @@ bool IsAlive(HWND window);
 
 enum MoveResult {
     MOVED,
-    NOT_MOVED,      // it is gone, or of a program with higher rights, whose windows stay where they are
+    NOT_MOVED,      // it is gone, its program has higher rights, or the displays are changing
     MOVE_TIMED_OUT, // it did not respond in time
-    MOVE_REFUSED,
+    MOVE_REFUSED,   // any other error
 };
 
 // The ping: sends WM_MOVING with the position, which the window may change, and moves its visible corner
@@ -42,7 +41,7 @@ MoveResult PingAndMove(HWND window, const WindowFrame& frame, POINT corner, UINT
 // The same within SCROLL_TIMEOUT, and shows the window that has moved, without activating it.
 void PingMoveAndShow(HWND window, const WindowFrame& frame, POINT corner);
 
-// Moves the window without a ping, if it is alive.
+// The same with WM_NULL as the ping, so that the window cannot change the position.
 void MoveIfAlive(HWND window, const WindowFrame& frame, POINT corner);
 
 // Moves the window without waiting for it: a hung program obeys when it responds again.
@@ -63,7 +62,7 @@ void SetNormalRect(HWND window, const RECT& rect);
 // Moves one of Quorl's own windows, and sizes it. False if Windows refuses.
 bool MoveOwnWindow(HWND window, const WindowFrame& frame, const RECT& visible);
 
-// Restores a maximized window, hidden meanwhile; a move then gives it its maximized size. False if it does
+// Hides and restores a maximized window; the next move gives it its maximized size again. False if it does
 // not respond.
 bool RestoreIfZoomed(HWND window, WindowFrame* frame);
 

@@ -9,7 +9,7 @@ constexpr int MAX_WINDOWS = 32000;
 // with what that returns later.
 struct WindowRow {
     HWND hwnd;
-    RECT rect; // in the coordinates of Windows
+    RECT rect; // system coordinates
 };
 
 // Every top-level window, managed or not, in the order of EnumWindows: the topmost first.

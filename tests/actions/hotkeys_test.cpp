@@ -1,16 +1,28 @@
 #include "actions/hotkeys.h"
 
+#include "app/main.h"
 #include "support/quorl_test.h"
 
 class Hotkeys : public QuorlTest {};
 
 TEST_F(Hotkeys, TranslateKeyValuesToVirtualKeys) {
-    for (const int key : {VK_SPACE, VK_LEFT, VK_DOWN, VK_F1, VK_F12})
+    Desk.keyScans = {
+        {'a', -1}, {'5', 0x135}, {'\t', -1}}; // a layout without Latin letters, digits with Shift
+    for (const int key :
+         {VK_SPACE, VK_LEFT, VK_DOWN, VK_F1, VK_F12, VK_TAB, int{'A'}, int{'5'}, VK_F13, VK_F24})
         EXPECT_EQ(VirtualKey(key), key);
-    EXPECT_EQ(VirtualKey('A'), 'A');
     EXPECT_EQ(VirtualKey('!'), 0x100 + '1') << "the high byte is the shift state";
     EXPECT_EQ(VirtualKey(0x100 + '1'), '1') << "which is dropped when a stored key is read";
-    EXPECT_EQ(VirtualKey(VK_F13), -1) << "the code of '|', which this layout lacks";
+}
+
+TEST_F(Hotkeys, WithoutAKeyInTheLayoutAreRefusedAndStayStored) {
+    Desk.keyScans = {{'!', -1}};
+    Desk.files["quorl.ini"] = "[Quorl]\r\nAction28=-1|-1|6|33|0\r\n";
+    AnswerBoxes({IDOK});
+    ASSERT_TRUE(StartQuorl());
+    EXPECT_EQ(LastBox(), "Hotkey registeration failed (87): \n\t\"Move one desktop to the left\" (28)/Error");
+    EXPECT_EQ(CountCalls("RegisterHotKey"), 10);
+    EXPECT_EQ(ActionTable[ACTION_SCREEN_LEFT].vk, '!');
 }
 
 TEST_F(Hotkeys, AreRegisteredOnceAfterAllSettingsAreRead) {
@@ -22,12 +34,46 @@ TEST_F(Hotkeys, AreRegisteredOnceAfterAllSettingsAreRead) {
     EXPECT_EQ(VDesk.left, 1024);
 }
 
+static std::string KeyOf(ActionId id) {
+    return std::to_string(ActionTable[id].key_mods) + '|' + std::to_string(ActionTable[id].vk);
+}
+
 // tests/settings checks what happens to a refused binding.
-TEST_F(Hotkeys, OfOthersAreRegisteredAfterOneIsRefused) {
-    Desk.hotkeys = {{nullptr, 1, MOD_WIN, VK_DOWN}}; // another program's
+TEST_F(Hotkeys, OfTheShellAreTakenWithCtrlAndOnlyARefusalOfBothIsReported) {
+    for (const UINT modifiers : {MOD_WIN, MOD_WIN | MOD_CONTROL})
+        Desk.hotkeys.push_back({nullptr, 1, modifiers, VK_DOWN}); // other programs'
+    Desk.hotkeys.push_back({nullptr, 1, MOD_WIN, VK_UP});
     AnswerBoxes({IDOK});
     ASSERT_TRUE(StartQuorl());
     EXPECT_EQ(LastBox(), "Hotkey registeration failed (1409): \n\t\"Lock window in view\" (40)\n"
                          "Another program has already registered the hotkey combination./Error");
-    EXPECT_EQ(Desk.hotkeys.size(), 1U + 10U);
+    EXPECT_EQ(Desk.hotkeys.size(), 3U + 10U) << "the others are registered";
+    EXPECT_EQ(KeyOf(ACTION_LOCK_WINDOW) + ' ' + KeyOf(ACTION_UNLOCK_WINDOW), "-1|-1 68|38");
+}
+
+TEST_F(Hotkeys, OfTheShellInTheSettingsFileAreReported) {
+    Desk.hotkeys = {{nullptr, 1, MOD_WIN, VK_DOWN}};
+    Desk.files["quorl.ini"] = "[Quorl]\r\nAction40=-1|-1|64|40|0\r\n";
+    AnswerBoxes({IDOK});
+    ASSERT_TRUE(StartQuorl());
+    EXPECT_EQ(Desk.boxes.size(), 1U);
+    EXPECT_EQ(KeyOf(ACTION_LOCK_WINDOW), "64|40");
+}
+
+TEST_F(Hotkeys, QueuedByKeyboardRepeatAreDropped) {
+    ASSERT_TRUE(StartQuorl());
+    HoldHotkey(MOD_CONTROL | MOD_ALT, VK_RIGHT, 5);
+    HandleMessages();
+    EXPECT_EQ(VDesk.left, 1024);
+    HoldHotkey(MOD_CONTROL | MOD_ALT, VK_RIGHT, 2, 60);
+    PressHotkey(MOD_CONTROL | MOD_ALT, VK_LEFT);
+    HandleMessages();
+    EXPECT_EQ(VDesk.left, 2048) << "two presses, then another key";
+    for (const int id : {ACTION_SCREEN_LEFT, ACTION_SCREEN_LEFT})
+        PostMessageA(MainWnd, WM_HOTKEY, static_cast<WPARAM>(id), 0);
+    HandleMessages();
+    EXPECT_EQ(VDesk.left, 0) << "posted by another program";
+    HoldHotkey(MOD_CONTROL | MOD_ALT, VK_RIGHT, 2);
+    PostQuitMessage(7);
+    EXPECT_EQ(RunMessageLoop(), 7) << "the quit message is not taken for a hotkey";
 }

@@ -6,22 +6,24 @@
 
 namespace {
 
-// The strip's pixels after so many moves.
-RECT StripAfter(int moves, const RECT& start, Direction direction) {
-    switch (direction) {
-    case DIR_UP: return {start.left, start.top - moves, start.right, start.top - moves + 1};
-    case DIR_DOWN: return {start.left, start.bottom + moves - 1, start.right, start.bottom + moves};
-    case DIR_LEFT: return {start.left - moves, start.top, start.left - moves + 1, start.bottom};
-    default: return {start.right + moves - 1, start.top, start.right + moves, start.bottom};
+// The first or last pixels of the start in the sweep's direction, after so many moves.
+RECT StripAfter(int moves, const Sweep& sweep) {
+    RECT strip = sweep.start;
+    switch (sweep.direction) {
+    case DIR_UP: strip.bottom = strip.top + 1; return Offset(strip, 0, -moves);
+    case DIR_DOWN: strip.top = strip.bottom - 1; return Offset(strip, 0, moves);
+    case DIR_LEFT: strip.right = strip.left + 1; return Offset(strip, -moves, 0);
+    default: strip.left = strip.right - 1; return Offset(strip, moves, 0);
     }
 }
 
 bool HasLeft(const RECT& strip, const Sweep& sweep) {
+    const RECT at = Offset(strip, sweep.vdesk.left, sweep.vdesk.top);
     switch (sweep.direction) {
-    case DIR_UP: return sweep.vdesk.top + strip.top < 0;
-    case DIR_DOWN: return sweep.vdesk.top + strip.top > sweep.quorl.bottom;
-    case DIR_LEFT: return sweep.vdesk.left + strip.left < 0;
-    default: return sweep.vdesk.left + strip.right > sweep.quorl.right;
+    case DIR_UP: return at.top < 0;
+    case DIR_DOWN: return at.top > sweep.quorl.bottom;
+    case DIR_LEFT: return at.left < 0;
+    default: return at.right > sweep.quorl.right;
     }
 }
 
@@ -30,12 +32,12 @@ int SweepPixelByPixel(const Sweep& sweep) {
     for (bool bStop = sweep.count == 0; !bStop;)
         for (int index = 0; index < sweep.count; ++index) {
             RECT shared{};
-            const RECT strip = StripAfter(moves, sweep.start, sweep.direction);
+            const RECT strip = StripAfter(moves, sweep);
             if (IntersectRect(&shared, &strip, &sweep.windows[index])) {
                 found = index;
                 bStop = true;
             } else {
-                bStop |= HasLeft(StripAfter(++moves, sweep.start, sweep.direction), sweep);
+                bStop |= HasLeft(StripAfter(++moves, sweep), sweep);
             }
         }
     return found;

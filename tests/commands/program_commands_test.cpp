@@ -21,8 +21,8 @@ TEST_F(ProgramCommands, LockTheStationAndStartTheScreenSaver) {
     RunAction(ACTION_LOCK_STATION);
     EXPECT_EQ(Desk.locks, 1);
     RunAction(ACTION_SCREEN_SAVER);
-    EXPECT_EQ(Desk.broadcasts.at(0).message, WM_SYSCOMMAND);
-    EXPECT_EQ(Desk.broadcasts.at(0).wParam, SC_SCREENSAVE);
+    const DeskMessage& sent = Desk.broadcasts.at(0);
+    EXPECT_TRUE(sent.message == WM_SYSCOMMAND && sent.wParam == SC_SCREENSAVE);
 }
 
 TEST_F(ProgramCommands, ReportAnActionWithoutAHandler) {

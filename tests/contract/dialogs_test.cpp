@@ -51,31 +51,30 @@ TEST_F(Dialogs, EndHidesAndDestructionTakesOwnedWindowsAlong) {
     EXPECT_FALSE(IsWindow(stays));
 }
 
-// Passes a key to the dialog as a message loop does.
-BOOL Offer(HWND dialog, HWND to, WPARAM key) {
-    MSG offered{to, WM_KEYDOWN, key, 0, 0, {}};
-    return IsDialogMessageA(dialog, &offered);
+// The buttons that are pressed as a message loop passes the keys to the dialog.
+Numbers Pressed(HWND dialog, HWND to, std::initializer_list<WPARAM> keys) {
+    for (const WPARAM key : keys) {
+        MSG offered{to, WM_KEYDOWN, key, 0, 0, {}};
+        EXPECT_EQ(IsDialogMessageA(dialog, &offered), GetParent(to) == dialog);
+    }
+    return Notified(BN_CLICKED);
 }
 
 TEST_F(Dialogs, KeysAreHandledForOwnControlsOnlyAndClosingMeansCancel) {
     const HWND dialog = ShowTemplate(IDD_NAME_REGION);
     const HWND name = GetDlgItem(dialog, IDC_REGION_NAME);
-    EXPECT_FALSE(Offer(nullptr, name, VK_RETURN) || Offer(dialog, OpenOwn(), VK_RETURN));
-    EXPECT_TRUE(Offer(dialog, name, VK_ESCAPE) && Offer(dialog, name, VK_RETURN));
-    EXPECT_EQ(Notified(BN_CLICKED), (Numbers{IDCANCEL, IDOK}));
-    EXPECT_TRUE(Offer(dialog, name, VK_TAB) && Offer(dialog, name, VK_TAB) && Offer(dialog, name, VK_RETURN));
-    EXPECT_EQ(Notified(BN_CLICKED), Numbers{IDCANCEL}) << "Enter presses the focused button";
+    EXPECT_EQ(Pressed(dialog, OpenOwn(), {VK_RETURN}), Numbers{});
+    EXPECT_EQ(Pressed(dialog, name, {VK_ESCAPE, VK_RETURN}), (Numbers{IDCANCEL, IDOK}));
+    EXPECT_EQ(Pressed(dialog, name, {VK_TAB, VK_TAB, VK_RETURN}), Numbers{IDCANCEL}) << "the focused button";
     SendMessageA(dialog, WM_CLOSE, 0, 0);
     HandleFor(20);
     EXPECT_EQ(Notified(BN_CLICKED), Numbers{IDCANCEL});
 
     const HWND find = ShowTemplate(IDD_FIND); // has no default button and no Cancel
     const HWND list = GetDlgItem(find, IDC_FIND_LIST);
-    EXPECT_TRUE(Offer(find, list, VK_RETURN) && Offer(find, list, VK_ESCAPE));
-    EXPECT_EQ(Notified(BN_CLICKED), (Numbers{IDOK, IDCANCEL})) << "sent all the same";
+    EXPECT_EQ(Pressed(find, list, {VK_RETURN, VK_ESCAPE}), (Numbers{IDOK, IDCANCEL})) << "all the same";
     EnableWindow(GetDlgItem(find, IDOK), FALSE);
-    EXPECT_TRUE(Offer(find, list, VK_RETURN));
-    EXPECT_EQ(Notified(BN_CLICKED), Numbers{});
+    EXPECT_EQ(Pressed(find, list, {VK_RETURN}), Numbers{});
 }
 
 TEST_F(Dialogs, NumberHas32BitsAndIsZeroIfInvalid) {
@@ -92,38 +91,45 @@ TEST_F(Dialogs, NumberHas32BitsAndIsZeroIfInvalid) {
 
 TEST_F(Dialogs, PressedRadioButtonUnchecksTheVisibleOnesOfItsGroup) {
     const HWND dialog = ShowTemplate(IDD_OPTIONS);
-    const auto checked = [dialog] {
-        Numbers ids;
-        for (const int id : {IDC_OPTIONS_BY_MAX, IDC_OPTIONS_BY_SCREEN, IDC_OPTIONS_AT_ONCE,
-                             IDC_OPTIONS_LEFT_CLICK, IDC_OPTIONS_RIGHT_CLICK})
-            if (IsDlgButtonChecked(dialog, id) == BST_CHECKED)
-                ids.push_back(static_cast<UINT>(id));
-        return ids;
-    };
-    const Numbers all{IDC_OPTIONS_BY_MAX, IDC_OPTIONS_AT_ONCE, IDC_OPTIONS_RIGHT_CLICK}; // the last is hidden
-    for (const UINT id : all)
-        CheckDlgButton(dialog, static_cast<int>(id), BST_CHECKED);
-    EXPECT_EQ(checked(), all) << "CheckDlgButton changes one only";
+    const int other_group = IDC_OPTIONS_BY_MAX, hidden = IDC_OPTIONS_RIGHT_CLICK;
+    const auto checked = [dialog](int id) { return IsDlgButtonChecked(dialog, id) == BST_CHECKED; };
+    for (const int id : {other_group, IDC_OPTIONS_AT_ONCE, hidden})
+        CheckDlgButton(dialog, id, BST_CHECKED);
+    EXPECT_TRUE(checked(IDC_OPTIONS_AT_ONCE)) << "CheckDlgButton changes one only";
     for (const UINT message : {WM_KEYDOWN, WM_KEYUP})
         Ask(dialog, IDC_OPTIONS_LEFT_CLICK, message, VK_SPACE);
-    EXPECT_EQ(checked(), (Numbers{IDC_OPTIONS_BY_MAX, IDC_OPTIONS_LEFT_CLICK, IDC_OPTIONS_RIGHT_CLICK}));
+    EXPECT_FALSE(checked(IDC_OPTIONS_AT_ONCE));
+    EXPECT_TRUE(checked(IDC_OPTIONS_LEFT_CLICK) && checked(other_group) && checked(hidden));
     EXPECT_EQ(Notified(BN_CLICKED), Numbers{IDC_OPTIONS_LEFT_CLICK});
+}
+
+TEST_F(Dialogs, ListBoxOfADialogCreatedByAnACallKeepsUtf16) {
+    const std::wstring text = L"\u0416\u6f22 a";
+    const HWND box = GetDlgItem(OpenTemplate(IDD_CUSTOMIZE_MENU), IDC_MENU_LIST);
+    EXPECT_EQ(SendMessageW(box, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str())), 0);
+    WCHAR read[16] = {};
+    EXPECT_EQ(SendMessageW(box, LB_GETTEXT, 0, reinterpret_cast<LPARAM>(read)), 4);
+    EXPECT_EQ(read, text);
 }
 
 TEST_F(Dialogs, ListsReturnInsertedIndicesKeepItemDataAndFindWholeTexts) {
     constexpr int SORTED = IDC_MENU_ACTIONS, UNSORTED = IDC_MENU_LIST;
     const HWND dialog = ShowTemplate(IDD_CUSTOMIZE_MENU);
-    Ask(dialog, SORTED, LB_ADDSTRING, 0, "pear");
+    const auto add = [dialog](int list, const char* text) {
+        return Ask(dialog, list, LB_ADDSTRING, 0, text);
+    };
+    add(SORTED, "pear");
     Ask(dialog, SORTED, LB_SETITEMDATA, 0, reinterpret_cast<const void*>(7));
-    EXPECT_EQ(Ask(dialog, SORTED, LB_ADDSTRING, 0, "Apple"), 0);
-    EXPECT_EQ(Ask(dialog, SORTED, LB_ADDSTRING, 0, "orange"), 1);
+    EXPECT_TRUE(add(SORTED, "Apple") == 0 && add(SORTED, "orange") == 1);
     EXPECT_EQ(Ask(dialog, SORTED, LB_GETITEMDATA, 2), 7);
     EXPECT_EQ(Ask(dialog, SORTED, LB_SETCURSEL, 2), 2);
     Ask(dialog, SORTED, LB_RESETCONTENT);
     EXPECT_EQ(Ask(dialog, SORTED, LB_GETCURSEL), LB_ERR);
-    Ask(dialog, UNSORTED, LB_ADDSTRING, 0, "b");
-    EXPECT_EQ(Ask(dialog, UNSORTED, LB_ADDSTRING, 0, "a"), 1);
+    EXPECT_TRUE(add(UNSORTED, "b") == 0 && add(UNSORTED, "a") == 1);
     const HWND actions = OpenTemplate(IDD_ACTIONS);
+    EXPECT_EQ(Ask(actions, IDC_ACTIONS_LIST, LVM_SETITEMCOUNT, 3), TRUE);
+    EXPECT_EQ(Ask(actions, IDC_ACTIONS_LIST, LVM_GETNEXTITEM, NONE, reinterpret_cast<void*>(LVNI_SELECTED)),
+              -1);
     for (const char* text : {"Left", "F1", "F10"})
         Ask(actions, IDC_ACTIONS_KEYS, CB_INSERTSTRING, NONE, text);
     EXPECT_EQ(Ask(actions, IDC_ACTIONS_KEYS, CB_FINDSTRINGEXACT, NONE, "f10"), 2);

@@ -1,8 +1,6 @@
 // Hotkeys, keys, cursor and mouse, capture, focus and foreground.
 #include "contract/contract_test.h"
 
-#include <algorithm>
-
 namespace {
 
 using Input = Contract;
@@ -21,26 +19,23 @@ TEST_F(Input, HotkeyIsHeldOnceAndFreedWithItsWindow) {
 
 // The last such message; zeros if there is none.
 MSG LastOf(UINT message) {
-    const auto last = std::find_if(Received.rbegin(), Received.rend(),
-                                   [message](const MSG& received) { return received.message == message; });
-    return last == Received.rend() ? MSG{} : *last;
-}
-
-LPARAM PositionIn(UINT message) {
-    return static_cast<DWORD>(LastOf(message).lParam);
+    MSG last{};
+    for (const MSG& received : Received)
+        if (received.message == message)
+            last = received;
+    return last;
 }
 
 TEST_F(Input, MouseMessagesUseClientCoordinatesAndKeyStateFollowsTheMessage) {
     std::vector<int> down;
     Handlers[WM_RBUTTONDOWN] = Handlers[WM_RBUTTONUP] = [&down](const MSG&) {
-        down.push_back(GetKeyState(VK_LSHIFT) < 0);
-        down.push_back(GetKeyState(VK_RBUTTON) < 0);
+        down.insert(down.end(), {GetKeyState(VK_LSHIFT) < 0, GetKeyState(VK_RBUTTON) < 0});
         return 0;
     };
     const HWND window = OpenOwn(WS_POPUP | WS_VISIBLE, WS_EX_TOPMOST, {300, 300, 500, 400});
     MoveMouse(350, 340);
     HandleFor(200);
-    EXPECT_EQ(PositionIn(WM_MOUSEMOVE), MAKELPARAM(50, 40));
+    EXPECT_EQ(LastOf(WM_MOUSEMOVE).lParam, MAKELPARAM(50, 40));
     SetCapture(window);
     HoldKey(VK_LSHIFT, true);
     EXPECT_LT(GetAsyncKeyState(VK_LSHIFT), 0) << "the current state, before any message";
@@ -51,7 +46,8 @@ TEST_F(Input, MouseMessagesUseClientCoordinatesAndKeyStateFollowsTheMessage) {
     HandleFor(200);
     EXPECT_EQ(down, (std::vector{1, 1, 1, 0}));
     EXPECT_EQ(LastOf(WM_RBUTTONDOWN).wParam, MK_RBUTTON | MK_SHIFT);
-    EXPECT_EQ(PositionIn(WM_RBUTTONUP), MAKELPARAM(-50, -20)) << "outside, while it has the capture";
+    EXPECT_EQ(static_cast<DWORD>(LastOf(WM_RBUTTONUP).lParam), MAKELPARAM(-50, -20))
+        << "outside, with the capture";
     EXPECT_TRUE(ReleaseCapture());
     EXPECT_EQ(LastOf(WM_CAPTURECHANGED).hwnd, window);
     Received.clear();
@@ -77,6 +73,21 @@ TEST_F(Input, OtherProgramsWindowTakesTheForegroundButNotTheFocus) {
         HandleFor(100); // its program has to handle it
         EXPECT_EQ(GetForegroundWindow(), window);
     }
+}
+
+TEST_F(Input, PressOnAnInactiveWindowCanLeaveItInactive) {
+    Handlers[WM_MOUSEACTIVATE] = [](const MSG&) { return MA_NOACTIVATE; };
+    OpenOwn(WS_POPUP | WS_VISIBLE, WS_EX_TOPMOST, {300, 300, 500, 400});
+    const HWND front = OpenOwn(WS_POPUP | WS_VISIBLE);
+    SetForegroundWindow(front);
+    MoveMouse(450, 380); // beside `front`
+    HandleFor(200);
+    for (const bool down : {true, false}) {
+        PressMouse(VK_RBUTTON, down);
+        HandleFor(100);
+    }
+    EXPECT_EQ(ReceivedOf({WM_MOUSEACTIVATE, WM_RBUTTONDOWN}), (Numbers{WM_MOUSEACTIVATE, WM_RBUTTONDOWN}));
+    EXPECT_EQ(GetForegroundWindow(), front);
 }
 
 } // namespace

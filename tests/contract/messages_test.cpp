@@ -1,4 +1,4 @@
-// Sending and posting, to windows of this program and of others; timers.
+// Sending, posting and peeking, to windows of this program and of others; timers; notification icons.
 #include "contract/contract_test.h"
 
 namespace {
@@ -71,6 +71,42 @@ TEST_F(Messages, TimersRestartWhenSetAgainAndEndWithTheirWindow) {
     HandleFor(50);
     EXPECT_EQ(ReceivedOf({WM_TIMER}), Numbers{WM_TIMER}) << "without a callback the window gets a message";
     EXPECT_EQ(Ticks.size(), 1U);
+}
+
+TEST_F(Messages, PeekFindsTheWantedOneAndQuitWhateverTheFilter) {
+    const HWND window = OpenOwn();
+    HandleFor(50);
+    PostMessageA(window, WM_USER, 1, 0);
+    PostMessageA(window, WM_USER + 1, 2, 0);
+    MSG message{};
+    const auto peek = [&](HWND of, UINT wanted, UINT flags) {
+        return PeekMessageA(&message, of, wanted, wanted, flags) ? message.message : 0;
+    };
+    EXPECT_EQ(peek(window, WM_USER + 1, PM_NOREMOVE), UINT{WM_USER + 1}) << "not the earlier one";
+    EXPECT_EQ(peek(window, WM_USER + 1, PM_REMOVE), UINT{WM_USER + 1});
+    EXPECT_EQ(peek(window, WM_USER + 1, PM_REMOVE), 0U);
+    EXPECT_EQ(peek(window, WM_USER, PM_REMOVE), UINT{WM_USER});
+    PostQuitMessage(7);
+    EXPECT_EQ(peek(nullptr, WM_HOTKEY, PM_REMOVE), UINT{WM_QUIT});
+    EXPECT_EQ(message.wParam, 7U);
+}
+
+TEST_F(Messages, RegisteredOneHasOneNumberPerName) {
+    const UINT created = RegisterWindowMessageA("TaskbarCreated"),
+               again = RegisterWindowMessageA("TaskbarCreated");
+    EXPECT_TRUE(created >= 0xC000 && created == again && created != RegisterWindowMessageA("QuorlContract"));
+}
+
+TEST_F(Messages, NotificationIconIsAddedOnceAndModifiedOrDeletedOnlyThen) {
+    NOTIFYICONDATAA icon{};
+    icon.cbSize = NOTIFYICONDATAA_V1_SIZE;
+    icon.hWnd = OpenOwn();
+    icon.uFlags = NIF_ICON;
+    icon.hIcon = LoadIconA(nullptr, IDI_APPLICATION);
+    EXPECT_FALSE(Shell_NotifyIconA(NIM_MODIFY, &icon) || Shell_NotifyIconA(NIM_DELETE, &icon));
+    EXPECT_TRUE(Shell_NotifyIconA(NIM_ADD, &icon));
+    EXPECT_FALSE(Shell_NotifyIconA(NIM_ADD, &icon));
+    EXPECT_TRUE(Shell_NotifyIconA(NIM_MODIFY, &icon) && Shell_NotifyIconA(NIM_DELETE, &icon));
 }
 
 } // namespace

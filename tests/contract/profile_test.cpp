@@ -1,8 +1,6 @@
 // The rules of private profile files, and replacing one atomically by a copy.
 #include "contract/contract_test.h"
 
-#include <utility>
-
 namespace {
 
 constexpr char FILE_NAME[] = "contract.ini"; // a bare name: in the Windows folder
@@ -48,14 +46,12 @@ TEST_F(Profile, KeyIsReplacedInPlaceAndANewOneEndsTheSection) {
 }
 
 TEST_F(Profile, ValueIsReadWithoutBlanksAndOnePairOfQuotes) {
-    const std::pair<const char*, const char*> rows[] = {
-        {"", ""},
-        {"  a=b  ", "a=b"},
-        {"\"  a b|5\"", "  a b|5"},
-        {"\" \"a\"|5\"", " \"a\"|5"},
-        {"'a|5", "'a|5"},
-        {"\x01mail\x01web|\xE4\xFF", "\x01mail\x01web|\xE4\xFF"},
-    };
+    const char* const rows[][2] = {{"", ""},
+                                   {"  a=b  ", "a=b"},
+                                   {"\"  a b|5\"", "  a b|5"},
+                                   {"\" \"a\"|5\"", " \"a\"|5"},
+                                   {"'a|5", "'a|5"},
+                                   {"\x01mail|\xE4\xFF", "\x01mail|\xE4\xFF"}};
     for (const auto& [written, read] : rows) {
         EXPECT_TRUE(Write("line", written));
         EXPECT_EQ(Read("line"), read);
@@ -68,23 +64,19 @@ TEST_F(Profile, LongValueIsCutAtTheBufferAndNumberAtItsFirstOtherCharacter) {
     const std::string longest(2000, '7');
     Write("long", longest);
     EXPECT_EQ(Read("long", 64), longest.substr(0, 63));
-    const std::pair<const char*, int> rows[] = {
-        {"+102", 102},
-        {"-12|3", -12},
-        {"", -7},
-        {"99999999999", 1215752191},
-    };
-    for (const auto& [text, number] : rows) {
+    std::vector<int> numbers;
+    for (const char* text : {"+102", "-12|3", "", "99999999999"}) {
         Write("n", text);
-        EXPECT_EQ(static_cast<int>(GetPrivateProfileIntA("Quorl", "n", -7, FILE_NAME)), number) << text;
+        numbers.push_back(static_cast<int>(GetPrivateProfileIntA("Quorl", "n", -7, FILE_NAME)));
     }
+    EXPECT_EQ(numbers, (std::vector{102, -12, -7, 1215752191}));
 }
 
 TEST_F(Profile, CopyReplacesTheFileAndAReadOnlyOneCannotBeDeleted) {
     const std::string file = PathOf(FILE_NAME);
     const std::string copy = PathOf(COPY_NAME);
-    EXPECT_FALSE(SetFileAttributesA(copy.c_str(), FILE_ATTRIBUTE_NORMAL));
-    EXPECT_FALSE(CopyFileA(file.c_str(), copy.c_str(), FALSE));
+    EXPECT_FALSE(SetFileAttributesA(copy.c_str(), FILE_ATTRIBUTE_NORMAL) ||
+                 CopyFileA(file.c_str(), copy.c_str(), FALSE));
     EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
     for (const std::string value : {"1", "2"}) {
         const std::string before = Read("b");

@@ -1,4 +1,4 @@
-// Windows: creation and destruction, order and titles, position and visibility.
+// Windows: creation and destruction, order and titles, position and visibility; displays.
 #include "contract/contract_test.h"
 
 namespace {
@@ -32,14 +32,13 @@ TEST_F(Windows, DestroyedOneFailsEveryCall) {
     DestroyWindow(gone);
     char text[8] = "x";
     RECT rect = RECT_OF_WINDOWS;
-    EXPECT_FALSE(IsWindow(gone) || IsWindowVisible(gone) || IsWindowEnabled(gone));
-    EXPECT_FALSE(IsIconic(gone) || IsZoomed(gone) || GetWindowRect(gone, &rect));
+    EXPECT_FALSE(IsWindow(gone) || IsWindowVisible(gone) || IsWindowEnabled(gone) || IsIconic(gone) ||
+                 IsZoomed(gone) || GetWindowRect(gone, &rect) || MoveWindow(gone, 0, 0, 10, 10, TRUE) ||
+                 ShowWindow(gone, SW_SHOW) || SetForegroundWindow(gone) || DestroyWindow(gone) ||
+                 GetClassNameA(gone, text, sizeof text) || GetWindowTextA(gone, text, sizeof text) ||
+                 SendMessageA(gone, WM_USER, 0, 0) || PostMessageA(gone, WM_USER, 0, 0));
     EXPECT_EQ(rect, RECT_OF_WINDOWS) << "unchanged";
-    EXPECT_FALSE(MoveWindow(gone, 0, 0, 10, 10, TRUE) || ShowWindow(gone, SW_SHOW));
-    EXPECT_FALSE(SetForegroundWindow(gone) || DestroyWindow(gone));
-    EXPECT_FALSE(GetClassNameA(gone, text, sizeof text) || GetWindowTextA(gone, text, sizeof text));
     EXPECT_STREQ(text, "") << "emptied";
-    EXPECT_FALSE(SendMessageA(gone, WM_USER, 0, 0) || PostMessageA(gone, WM_USER, 0, 0));
 }
 
 TEST_F(Windows, EnumerationStartsAtTheTopAndIncludesHiddenOnes) {
@@ -67,6 +66,15 @@ TEST_F(Windows, TitleIsFoundWholeInAnyCaseAndCutToTheBuffer) {
     }
 }
 
+TEST_F(Windows, TitleIsTheSameForBothKindsOfCalls) {
+    const HWND window = OpenOwn();
+    EXPECT_TRUE(SetWindowTextW(window, L"a title"));
+    char ansi[16] = "";
+    WCHAR wide[16] = {};
+    EXPECT_TRUE(GetWindowTextA(window, ansi, sizeof ansi) == 7 && GetWindowTextW(window, wide, 4) == 3);
+    EXPECT_TRUE(ansi == std::string("a title") && wide == std::wstring(L"a t"));
+}
+
 TEST_F(Windows, ShowReturnsThePreviousStateAndActivatesOnlyAHiddenOne) {
     const HWND other = OpenOwn(WS_POPUP | WS_VISIBLE);
     const HWND window = OpenOwn();
@@ -78,6 +86,9 @@ TEST_F(Windows, ShowReturnsThePreviousStateAndActivatesOnlyAHiddenOne) {
     EXPECT_EQ(GetForegroundWindow(), window);
     EXPECT_TRUE(ShowWindow(window, SW_HIDE));
     EXPECT_EQ(GetForegroundWindow(), other) << "the next visible one";
+    EXPECT_FALSE(ShowWindow(window, SW_SHOWNA));
+    EXPECT_TRUE(IsWindowVisible(window));
+    EXPECT_EQ(GetForegroundWindow(), other);
 }
 
 TEST_F(Windows, FromPointIsTheTopmostVisibleOneWithoutItsFarEdges) {
@@ -92,6 +103,51 @@ TEST_F(Windows, FromPointIsTheTopmostVisibleOneWithoutItsFarEdges) {
 TEST_F(Windows, OpacityNeedsALayeredOne) {
     EXPECT_TRUE(SetLayeredWindowAttributes(OpenOwn(WS_POPUP, WS_EX_LAYERED), 0, 128, LWA_ALPHA));
     EXPECT_FALSE(SetLayeredWindowAttributes(OpenOwn(), 0, 128, LWA_ALPHA));
+}
+
+TEST_F(Windows, SetWindowPosCanMoveWithoutSizingRaisingOrActivating) {
+    const HWND below = OpenOwn(WS_POPUP | WS_VISIBLE);
+    const HWND above = OpenOwn(WS_POPUP | WS_VISIBLE);
+    SetForegroundWindow(above);
+    EXPECT_TRUE(SetWindowPos(below, HWND_TOP, -500, 20, 1, 1, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE));
+    EXPECT_EQ(WindowRect(below), (RECT{-500, 20, -200, 220}));
+    EXPECT_EQ(Order({below, above}), (std::vector{above, below}));
+    EXPECT_EQ(GetForegroundWindow(), above);
+}
+
+TEST_F(Windows, PlacementChangesTheNormalRectangleOfAMinimizedWindow) {
+    const HWND window = OpenOwn(WS_OVERLAPPEDWINDOW | WS_VISIBLE, WS_EX_TOOLWINDOW);
+    ShowWindow(window, SW_MINIMIZE);
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    ASSERT_TRUE(GetWindowPlacement(window, &placement));
+    EXPECT_EQ(placement.showCmd, UINT{SW_SHOWMINIMIZED});
+    EXPECT_EQ(placement.rcNormalPosition, RECT_OF_WINDOWS);
+    placement.showCmd = SW_SHOWMINNOACTIVE;
+    placement.rcNormalPosition = {150, 160, 450, 360};
+    EXPECT_TRUE(SetWindowPlacement(window, &placement));
+    EXPECT_TRUE(IsIconic(window));
+    ShowWindow(window, SW_RESTORE);
+    EXPECT_EQ(WindowRect(window), (RECT{150, 160, 450, 360}));
+}
+
+TEST_F(Windows, DisplayIsTheNearestOneAndReportsItsAreas) {
+    const HMONITOR primary = MonitorFromPoint({0, 0}, MONITOR_DEFAULTTONULL);
+    ASSERT_NE(primary, nullptr);
+    const RECT away{-30000, -30000, -29000, -29000};
+    EXPECT_EQ(MonitorFromRect(&away, MONITOR_DEFAULTTONULL), nullptr);
+    EXPECT_EQ(MonitorFromRect(&away, MONITOR_DEFAULTTONEAREST), primary);
+    EXPECT_EQ(MonitorFromPoint({30000, 30000}, MONITOR_DEFAULTTOPRIMARY), primary);
+    EXPECT_EQ(MonitorFromWindow(OpenOwn(), MONITOR_DEFAULTTONULL), primary);
+    MONITORINFOEXA info{};
+    EXPECT_FALSE(GetMonitorInfoA(primary, &info)) << "without its size";
+    info.cbSize = sizeof info;
+    ASSERT_TRUE(GetMonitorInfoA(primary, &info));
+    EXPECT_EQ(info.rcMonitor, (RECT{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}));
+    RECT shared;
+    EXPECT_TRUE(IntersectRect(&shared, &info.rcMonitor, &info.rcWork) && shared == info.rcWork);
+    EXPECT_EQ(info.dwFlags, MONITORINFOF_PRIMARY);
+    EXPECT_TRUE(std::string(info.szDevice).starts_with("\\\\.\\DISPLAY"));
 }
 
 } // namespace

@@ -1,4 +1,3 @@
-// Binding actions to keys and mouse combinations.
 #include "dialogs/dialog_test.h"
 
 constexpr int KEY_ITEM = 25, MOUSE_ITEM = 21; // of ACTION_SCREEN_RIGHT on the two tabs
@@ -67,6 +66,11 @@ TEST_F(ActionsDialog, BeepsWithoutAnActionOrAKey) {
     ChooseAction(2); // unbound
     Click(IDC_ACTIONS_APPLY);
     EXPECT_EQ(Desk.beeps.size(), 3U) << "no key";
+    ChooseAction(KEY_ITEM);
+    ChooseAction(-1);
+    Click(IDC_ACTIONS_APPLY, IDC_ACTIONS_CLEAR);
+    EXPECT_EQ(Desk.beeps.size(), 5U) << "the selection was taken away";
+    EXPECT_EQ(Binding(KEY_ITEM), "C-A-Right");
 }
 
 TEST_F(ActionsDialog, StoresAMouseCombinationAsChecked) {

@@ -1,4 +1,3 @@
-// Composing the popup menu.
 #include "dialogs/dialog_test.h"
 #include "dialogs/registry.h"
 #include "menus/entries.h"

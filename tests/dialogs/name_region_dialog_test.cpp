@@ -1,4 +1,3 @@
-// Marking the view's position as a region.
 #include "dialogs/dialog_test.h"
 #include "regions/region_table.h"
 
@@ -57,7 +56,14 @@ TEST_F(NameRegion, ANewRegionGetsItsColorAndHotkey) {
     ASSERT_EQ(num_regions, 1);
     EXPECT_EQ(RegionTable[0].color, COLOR);
     EXPECT_EQ(RegionTable[0].left, 2048) << "the view at OK";
+    num_regions = MAX_REGIONS;
     RunAction(ACTION_SCREEN_LEFT);
+    Open(ACTION_MARK_REGION);
+    Type(IDC_REGION_NAME, "more");
+    AnswerBoxes({IDOK});
+    Click(IDOK);
+    EXPECT_EQ(LastBox(), "All 200 regions are in use. Unmark one first./No room");
+    EXPECT_EQ(Text(IDC_REGION_NAME), "more") << "the dialog stays open";
     PressHotkey(MOD_ALT | MOD_CONTROL | MOD_SHIFT, '0');
     HandleMessages();
     EXPECT_EQ(VDesk.left, 2048);

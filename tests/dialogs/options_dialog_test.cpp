@@ -1,4 +1,3 @@
-// The Options dialog: what it shows, and what OK does with it.
 #include "dialogs/dialog_test.h"
 #include "dialogs/options_rules.h"
 #include "dialogs/registry.h"

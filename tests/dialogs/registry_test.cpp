@@ -1,4 +1,3 @@
-// Which dialogs are open.
 #include "dialogs/registry.h"
 
 #include "regions/region_table.h"

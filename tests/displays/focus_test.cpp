@@ -4,7 +4,6 @@
 #include "hook/hook_message.h"
 #include "menus/menu_list.h"
 #include "scroll/scroll_view.h"
-#include "support/map_mouse.h"
 
 class Focus : public ModernDesktop {
   protected:
@@ -33,7 +32,9 @@ TEST_F(Focus, StaysWhereItIsAtStartWhileScrollingAndOnTheMap) {
     ShowWindow(other, SW_HIDE);
     Desk.clicksActivate = true;
     RunAction(ACTION_SCREEN_RIGHT);
-    ClickOnMap(10, 10, VK_LBUTTON);
+    MoveOnMap(10, 10);
+    PressOnMap(VK_LBUTTON);
+    ReleaseOnMap(VK_LBUTTON);
     EXPECT_EQ(Desk.foreground, editor);
 }
 
@@ -88,7 +89,9 @@ TEST_F(Focus, CommandsFromTheMenuAndTheMapActOnTheWindowBefore) {
     Wait(100);
     MoveWindow(MainWnd, 1000, 700, 200, 100, TRUE); // the dialog is above it
     BindMouse(ACTION_ACTIVE_TO_BOTTOM, KEY_CTRL, MBUTTON);
-    ClickOnMap(10, 10, VK_MBUTTON, {VK_LCONTROL});
+    HoldKey(VK_LCONTROL, true);
+    MoveOnMap(10, 10);
+    PressOnMap(VK_MBUTTON);
     EXPECT_EQ(VisibleRect(editor).bottom, 1080);
     KillWindow(editor);
     Choose(ACTION_ACTIVE_TO_LEFT);

@@ -4,7 +4,6 @@
 #include "hook/hook_message.h"
 #include "scroll/desktop_size.h"
 #include "status/status_strip.h"
-#include "support/map_mouse.h"
 
 static POINT AfterMouseAt(int x, int y) {
     Desk.cursor = {x, y};

@@ -3,7 +3,6 @@
 
 #include "core/displays.h"
 #include "hook/hook_message.h"
-#include "support/map_mouse.h"
 
 class WholeWay : public TwoDisplays {
   protected:
@@ -70,12 +69,14 @@ class WholeWay : public TwoDisplays {
         ChangeDisplays({Primary, Left});
         Wait(2000);
         PressAllDefaultHotkeys();
-        ClickOnMap(190, 80, VK_LBUTTON);
+        MoveOnMap(190, 80);
+        PressOnMap(VK_MBUTTON); // the view goes there
+        ReleaseOnMap(VK_MBUTTON);
         Wait(200);
     }
 
     void ExpectEverythingWhereItWas() {
-        EXPECT_TRUE(IsTitleInReach(FromWindows(VisibleRect(active))));
+        EXPECT_TRUE(IsTitleInReach(FromSystem(VisibleRect(active))));
         for (const Kept& row : kept) {
             const RECT now = RectOf(row.window);
             EXPECT_NEAR(now.left, row.rect.left, row.tolerance) << WindowOf(row.window).title;

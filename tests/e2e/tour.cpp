@@ -64,7 +64,7 @@ void OpenPrograms() {
         const RECT& home = program.home;
         if (IsWindow(program.window))
             continue;
-        program.window = OpenProgram(program.command, program.windowClass);
+        program.window = WaitForVisible(GetProcessId(Launch(program.command)), program.windowClass, nullptr);
         Require(program.window != nullptr, program.name);
         SetWindowPos(program.window, nullptr, home.left, home.top, home.right - home.left,
                      home.bottom - home.top, SWP_NOZORDER | (home.right == home.left ? SWP_NOSIZE : 0U));
@@ -121,14 +121,10 @@ void GoByMap(const char* step, int key, int button, POINT at, LONG x, LONG y) {
 
 void ClickOnTheMap() {
     Covers<ACTION_VIEW_CENTER_POINT, ACTION_VIEW_TO_CELL>();
-    const POINT at = OnMap(1200, 800);
-    RECT map{};
-    GetClientRect(QuorlWindow(), &map);
-    POINT middle = at;
-    ScreenToClient(QuorlWindow(), &middle);
+    const POINT at = OnMap(1200, 800), corner = OnMap(0, 0), end = OnMap(4 * SCREEN_W, 2 * SCREEN_H);
     GoByMap("middle button in the midst of the map", 0, VK_MBUTTON, at,
-            middle.x * 4 * SCREEN_W / map.right - SCREEN_W / 2,
-            middle.y * 2 * SCREEN_H / map.bottom - SCREEN_H / 2);
+            (at.x - corner.x) * 4 * SCREEN_W / (end.x - corner.x) - SCREEN_W / 2,
+            (at.y - corner.y) * 2 * SCREEN_H / (end.y - corner.y) - SCREEN_H / 2);
     TakePicture("3-map");
     GoByMap("Shift and left button on the map's first screen", VK_LSHIFT, VK_LBUTTON, OnMap(100, 100), 0, 0);
 }
@@ -213,26 +209,17 @@ void QuitByTheMenu() {
         Stored("quorl_pos.top").c_str(), Stored("Quorl.right").c_str(), Stored("Quorl.bottom").c_str());
 }
 
-const char* const OwnSettings[][2] = {
-    {"num_regions", "3"},
-    {"Region0", "home|0|0|1024|768|16763080"},
-    {"Region1", "mail|2048|0|3072|768|8454143"},
-    {"Region2", "web|1024|768|2048|1536|8454016"},
-    {"quorl_pos.left", "160"},
-    {"quorl_pos.top", "40"},
-    {"quorl_pos.right", "460"},
-    {"quorl_pos.bottom", "220"},
-    {"Action36", "-1|-1|6|78|0"}, // next region: Ctrl+Alt+N
-    {"Action37", "-1|-1|6|80|0"}, // previous region: Ctrl+Alt+P
-    {"Action38", "-1|-1|-1|-1|0"},
-    {"Action39", "0|8|-1|-1|0"},    // left button: drag a window's box
-    {"Action114", "-1|-1|-1|-1|0"}, // move the pointer along at the screen's edge
-};
+// The keys of the next and the previous region are Ctrl+Alt+N and P; the left button drags a window's box;
+// the pointer moves along at the screen's edge.
+constexpr char OwnSettings[] =
+    "num_regions=3\0Region0=home|0|0|1024|768|16763080\0Region1=mail|2048|0|3072|768|8454143\0"
+    "Region2=web|1024|768|2048|1536|8454016\0quorl_pos.left=160\0quorl_pos.top=40\0quorl_pos.right=460\0"
+    "quorl_pos.bottom=220\0Action36=-1|-1|6|78|0\0Action37=-1|-1|6|80|0\0Action38=-1|-1|-1|-1|0\0"
+    "Action39=0|8|-1|-1|0\0Action114=-1|-1|-1|-1|0\0";
 
 void StartWithSettings() {
     OpenPrograms();
-    for (const auto& [key, value] : OwnSettings)
-        Store(key, value);
+    StoreSettings(OwnSettings);
     StartQuorl();
     SayRect("quorl.exe starts with three regions and keys of our own in quorl.ini", "the map", QuorlWindow());
     TakePicture("6-regions");

@@ -1,5 +1,4 @@
 // The chapters of the tour that walk through the dialogs.
-#include "dialogs.h"
 #include "tour.h"
 
 namespace {

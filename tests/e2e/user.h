@@ -3,6 +3,7 @@
 #pragma once
 
 #include "actions/action_ids.h"
+#include "resources/control_ids.h"
 #include "shared/desktop.h"
 
 #include <algorithm>
@@ -26,8 +27,6 @@ HWND StartQuorl();
 HWND QuorlWindow();
 bool IsMapShown();
 bool Responds(HWND window);
-// Starts a program that comes with Windows and waits for its window.
-HWND OpenProgram(const char* command, const char* windowClass);
 
 // Presses the keys in this order and releases them in reverse; false if they could not be held.
 bool PressKeys(std::initializer_list<WORD> keys);
@@ -62,19 +61,15 @@ RECT RectAfterMoving(HWND window, POINT to);
 POINT MousePosition();
 
 std::string TextOf(HWND window);
-// The visible status strip and the open popup menu, or null.
-HWND StatusStrip();
-HWND OpenedMenu();
+HWND OpenedMenu(); // null if none is open
 
-// A key of Quorl's settings file: read; written before Quorl starts; expected after Quorl has saved.
+// Quorl's settings file: a key; all lines, each with a terminator; a key after Quorl has saved.
 std::string Stored(const std::string& key);
-void Store(const std::string& key, const std::string& value);
+void StoreSettings(const char* lines);
 void ExpectSaved(const std::string& key, const std::string& wanted);
 
 // Requires a dialog or message box with this caption.
 HWND WaitForBox(const char* caption);
-// Answers a message box by a key until it is closed, and returns its text.
-std::string AnswerBox(const char* caption, WORD key);
 // Answers the open question with Yes and requires exit code 0; or asks Quorl to close first.
 void AnswerYesToQuit();
 void Quit();
@@ -92,3 +87,35 @@ void Retry(Happened happened, Act act) {
             return;
     }
 }
+
+// Runs the action and requires the dialog with this title.
+template <ActionId ID>
+HWND OpenDialog(const char* title) {
+    RunActions<ID>();
+    return WaitForBox(title);
+}
+// The same by a button of an open dialog, which is then closed by its OK.
+HWND OpenByButton(HWND dialog, int button, const char* title);
+
+// The dialog's control as soon as it exists; null after the timeout.
+HWND Control(HWND dialog, int id);
+// The id of the dialog's focused control; 0: none.
+int Focused(HWND dialog);
+
+// Clicks into the middle of a window, or at a point of its client area, and waits until its program has
+// handled it; PressOnly does not wait, for a click that opens something modal.
+void Press(HWND window);
+void PressAt(HWND window, POINT at);
+void PressOnly(HWND window);
+
+// Closes the dialog by a button or a key.
+void CloseBy(HWND dialog, int id);
+void CloseByKey(HWND dialog, WORD key);
+
+// Replaces the text of an edit box; letters, digits and blanks.
+void TypeOver(HWND edit, const std::string& text);
+std::string ControlText(HWND dialog, int id);
+
+// List boxes. PressItem requires an item with this text.
+std::vector<std::string> ListTexts(HWND list);
+void PressItem(HWND list, const std::string& text);

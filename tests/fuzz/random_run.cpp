@@ -10,7 +10,7 @@
 #include "regions/region_table.h"
 #include "scroll/scroll_view.h"
 #include "settings/ini.h"
-#include "support/map_mouse.h"
+#include "support/quorl_test.h"
 #include "windows/window_table.h"
 
 #include <algorithm>

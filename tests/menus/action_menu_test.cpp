@@ -1,10 +1,9 @@
-// The popup menu, its list and the icon that opens it.
 #include "menus/action_menu.h"
 
 #include "actions/dispatch.h"
 #include "menus/entries.h"
 #include "status/status_strip.h"
-#include "support/map_mouse.h"
+#include "support/quorl_test.h"
 
 #include <algorithm>
 

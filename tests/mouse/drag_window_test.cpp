@@ -1,7 +1,6 @@
-// Dragging windows by their boxes on the map.
 #include "mouse/drag_window.h"
 
-#include "support/map_mouse.h"
+#include "support/quorl_test.h"
 
 // Holds the combination that drags windows, over nothing yet. The box of `editor` is from (10, 10) to
 // (30, 20).

@@ -1,8 +1,7 @@
-// Moving the mouse over the map.
 #include "mouse/map_hover.h"
 
 #include "status/status_strip.h"
-#include "support/map_mouse.h"
+#include "support/quorl_test.h"
 
 class MapHover : public MapTest {};
 

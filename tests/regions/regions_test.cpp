@@ -1,4 +1,3 @@
-// Regions: their table, their actions and their hotkeys.
 #include "regions/region_table.h"
 
 #include "actions/dispatch.h"

@@ -6,14 +6,12 @@
 
 TEST(NeedToFollow, IsToScrollToAWindowOutOfView) {
     const auto need = [](const RECT& rect) { return NeedToFollow(rect, 1024, 768, {0, 0, 4096, 1536}); };
-    EXPECT_EQ(need({-4, -4, 501, 400}), false) << "within the tolerance";
-    EXPECT_EQ(need({-5, 0, 500, 400}), true);
-    EXPECT_EQ(need({0, -5, 500, 400}), true);
-    EXPECT_EQ(need({928, 672, 1128, 872}), false) << "its middle is at the edge";
-    EXPECT_EQ(need({929, 0, 1129, 400}), true);
-    EXPECT_EQ(need({0, 673, 400, 873}), true);
-    EXPECT_EQ(need({4000, 1500, 4192, 1572}), true) << "at the desktop's edge";
-    EXPECT_EQ(need({100, 1500, 400, 1574}), false) << "off the desktop: out of reach";
+    EXPECT_FALSE(need({-4, -4, 501, 400})) << "within the tolerance";
+    EXPECT_FALSE(need({928, 672, 1128, 872})) << "its middle is at the edge";
+    for (const RECT& rect : {Rect(-5, 0, 500, 400), Rect(0, -5, 500, 400), Rect(929, 0, 1129, 400),
+                             Rect(0, 673, 400, 873), Rect(4000, 1500, 4192, 1572)}) // at the desktop's edge
+        EXPECT_TRUE(need(rect)) << testing::PrintToString(rect);
+    EXPECT_FALSE(need({100, 1500, 400, 1574})) << "off the desktop: out of reach";
 }
 
 class Follow : public RunningQuorl {

@@ -11,13 +11,16 @@ class Shift : public RunningQuorl {
 };
 
 TEST_F(Shift, ClampsToTheDesktop) {
-    const auto shifted = [](const RECT& window, int dx, int dy) {
-        return ShiftedCorner(window, dx, dy, {1000, 500, 2024, 1268}, {0, 0, 4096, 1536}, 5);
+    VDesk = {1000, 500, 2024, 1268};
+    const auto shifted = [this](const RECT& from, int dx, int dy) {
+        WindowOf(editor).rect = from;
+        ShiftWindows(dx, dy);
+        return RectOf(editor);
     };
-    EXPECT_EQ(shifted({4000, 1500, 4400, 1700}, 96, 36), (POINT{4096, 1536}));
-    EXPECT_EQ(shifted({4000, 1500, 4400, 1700}, 97, 37), (POINT{3691, 1331})) << "past the far edges";
-    EXPECT_EQ(shifted({-900, -450, -500, -150}, -200, -100), (POINT{-1000, -500}));
-    EXPECT_EQ(shifted({4000, 1500, 9000, 4000}, 200, 200), (POINT{-909, -500})) << "too large";
+    EXPECT_EQ(shifted({4000, 1500, 4400, 1700}, 96, 36), Rect(4096, 1536, 4496, 1736));
+    EXPECT_EQ(shifted({4000, 1500, 4400, 1700}, 97, 37), Rect(3691, 1331, 4091, 1531))
+        << "past the far edges";
+    EXPECT_EQ(shifted({4000, 1500, 9000, 4000}, 200, 200), Rect(-909, -500, 4091, 2000)) << "too large";
 }
 
 TEST_F(Shift, PingsMovesAndShowsWindowsAndScrollsListViews) {

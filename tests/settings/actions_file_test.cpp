@@ -1,4 +1,3 @@
-// Bindings in the settings file, at start and when loaded later.
 #include "settings/settings_test.h"
 
 #include <algorithm>
@@ -32,6 +31,9 @@ TEST_F(ActionsFile, ARefusedBindingIsReportedAndKeptUnlessItIsADefault) {
     AnswerBoxes({IDOK, IDOK});
     StartQuorl();
     EXPECT_EQ(Desk.boxes.size(), 2U);
+    EXPECT_EQ(LastBox(), "Hotkey registeration failed (1409): \n\t\"Move one desktop to the right\" (30)\n"
+                         "Another program has already registered the hotkey combination./Error");
+    EXPECT_EQ(Desk.hotkeys.size(), 2U + 9U) << "all others are registered";
     RunAction(ACTION_SAVE_SETTINGS);
     EXPECT_EQ(Stored("Action28") + " " + Stored("Action30"), "-1|-1|4|112|0 -1|-1|-1|-1|0");
 }

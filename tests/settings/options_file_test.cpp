@@ -1,4 +1,3 @@
-// Options, desktop, map and menu in the settings file.
 #include "menus/entries.h"
 #include "settings/settings_test.h"
 

@@ -1,4 +1,3 @@
-// Regions in the settings file.
 #include "settings/regions_file.h"
 
 #include "settings/settings_test.h"

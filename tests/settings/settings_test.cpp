@@ -1,4 +1,3 @@
-// Saving and loading everything.
 #include "settings/settings.h"
 
 #include "actions/hotkeys.h"
@@ -69,4 +68,31 @@ TEST_F(Settings, SavingIsAtomic) {
         EXPECT_EQ(save(before, call, 1), after) << call;
     Desk.protectedFiles = {SETTINGS_FILE};
     EXPECT_EQ(save(before), before);
+}
+
+TEST(PortableMode, UsesTheFileBesideTheProgram) {
+    const auto startsAndSaves = [](const std::wstring& program, const std::string& file) {
+        Desk.programPath = program;
+        Desk.files = {{"quorl.ini", "[Quorl]\r\nborder=3\r\n"}};
+        if (!file.empty())
+            Desk.files[file] = "";
+        PrepareDesk();
+        OnCreate(MainWnd);
+        SaveSettings();
+        return Desk.files;
+    };
+    ASSERT_TRUE((PrepareDesk(), StartQuorl()));
+    auto files = startsAndSaves(L"D:\\Tools\\quorl.exe", "d:\\tools\\quorl.ini");
+    EXPECT_NE(files["d:\\tools\\quorl.ini"].find("border=5"), std::string::npos) << "even if it is empty";
+    EXPECT_EQ(files["quorl.ini"], "[Quorl]\r\nborder=3\r\n");
+    EXPECT_EQ(files.size(), 2u) << "the copy is beside it, and replaced it";
+    Desk.shortPaths[L"D:\\\x0414\\quorl.ini"] = L"D:\\D~1\\quorl.ini"; // a Cyrillic name
+    files = startsAndSaves(L"D:\\\x0414\\quorl.exe", "d:\\d~1\\quorl.ini");
+    EXPECT_NE(files["d:\\d~1\\quorl.ini"].find("border=5"), std::string::npos);
+    Desk.shortPaths.clear();
+    files = startsAndSaves(L"D:\\\x0414\\quorl.exe", "d:\\d~1\\quorl.ini");
+    EXPECT_NE(files["quorl.ini"].find("border=3\r\nmaxscroll"), std::string::npos)
+        << "no name, so the usual file";
+    files = startsAndSaves(L"D:\\Tools\\quorl.exe", "");
+    EXPECT_NE(files["quorl.ini"].find("border=3\r\nmaxscroll"), std::string::npos) << "not portable";
 }

@@ -51,16 +51,14 @@ static LRESULT CALLBACK PlayerProc(HWND window, UINT message, WPARAM wParam, LPA
         Sleep(INFINITE);
     if (message == WM_MOVING && Behaviour == "slow")
         Sleep(500);
-    if (message == WM_MOVING && Behaviour == "dies")
+    if (message == WM_DESTROY || (message == WM_MOVING && Behaviour == "dies"))
         ExitProcess(0);
     if (message == WM_MOVING && Behaviour == "overrides") {
-        RECT* const rect = reinterpret_cast<RECT*>(lParam);
-        rect->left += 7;
-        rect->top += 9;
+        RECT& rect = *reinterpret_cast<RECT*>(lParam); // right and bottom are a size here
+        rect.left += 7;
+        rect.top += 9;
         return TRUE;
     }
-    if (message == WM_DESTROY)
-        PostQuitMessage(0);
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
@@ -81,10 +79,8 @@ bool PlayWindow(int count, char** arguments) {
     UpdateWindow(window);
     PostMessageA(window, WM_APP, 0, 0);
     MSG message;
-    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-        TranslateMessage(&message);
+    while (GetMessageA(&message, nullptr, 0, 0) > 0)
         DispatchMessageA(&message);
-    }
     return true;
 }
 

@@ -49,6 +49,11 @@ void RunningQuorl::SetUp() {
     Desk.trace.clear();
 }
 
+void MapTest::SetUp() {
+    RunningQuorl::SetUp();
+    WindowOf(MainWnd).rect = {100, 100, 364, 204}; // including the frame
+}
+
 bool StartQuorl() {
     return StartUp(reinterpret_cast<HINSTANCE>(0x400000));
 }
@@ -75,6 +80,22 @@ void AnswerBoxes(std::initializer_list<int> answers) {
 void BindMouse(int id, int mods, int button) {
     ActionTable[id].mouse_mods = mods;
     ActionTable[id].mouse_btn = button;
+}
+
+void MoveOnMap(int x, int y) {
+    const POINT at = ToScreen(MainWnd, x, y);
+    MoveMouse(at.x, at.y);
+    HandleMessages();
+}
+
+void PressOnMap(int button) {
+    PressMouse(button, 1);
+    HandleMessages();
+}
+
+void ReleaseOnMap(int button) {
+    PressMouse(button, 0);
+    HandleMessages();
 }
 
 HWND OpenAndList(const char* title, const RECT& rect, const char* className) {

@@ -29,6 +29,12 @@ class RunningQuorl : public QuorlTest {
     void SetUp() override;
 };
 
+// The map then has 256 by 96 pixels: one pixel is 16 on the desktop.
+class MapTest : public RunningQuorl {
+  protected:
+    void SetUp() override;
+};
+
 // What the hook library was called with.
 struct HookRecord {
     HWND window;          // SaveSharedData
@@ -53,6 +59,11 @@ void RunAction(int id);
 void AnswerBoxes(std::initializer_list<int> answers);
 
 void BindMouse(int id, int mods, int button);
+
+// Mouse input on the map, handled at once. Client coordinates of the map at its current position; VK_ values.
+void MoveOnMap(int x, int y);
+void PressOnMap(int button);
+void ReleaseOnMap(int button);
 
 // Opens another program's window and adds it to the window table.
 HWND OpenAndList(const char* title, const RECT& rect, const char* className = "Program");

@@ -29,6 +29,7 @@ constexpr int VK_DOWN = 40;
 constexpr int VK_F1 = 112;
 constexpr int VK_F12 = 123;
 constexpr int VK_F13 = 124;
+constexpr int VK_F24 = 135;
 constexpr int VK_LSHIFT = 160;
 constexpr int VK_RSHIFT = 161;
 constexpr int VK_LCONTROL = 162;

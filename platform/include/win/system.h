@@ -70,6 +70,7 @@ BOOL WINAPI SetProcessShutdownParameters(DWORD level, DWORD flags);
 BOOL WINAPI LockWorkStation();
 
 HANDLE WINAPI LoadImageA(HINSTANCE instance, LPCSTR name, UINT type, int width, int height, UINT flags);
+BOOL WINAPI DestroyIcon(HICON icon);
 HICON WINAPI LoadIconA(HINSTANCE instance, LPCSTR name);
 HCURSOR WINAPI LoadCursorA(HINSTANCE instance, LPCSTR name);
 
@@ -92,6 +93,7 @@ BOOL WINAPI WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, 
 // Files. The profile functions look for a bare name in the Windows folder.
 constexpr int MAX_PATH = 260;
 constexpr UINT CP_ACP = 0;
+constexpr DWORD WC_NO_BEST_FIT_CHARS = 0x400;
 DWORD WINAPI GetShortPathNameW(LPCWSTR path, LPWSTR shortPath, DWORD size);
 int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR from, int length, LPSTR to, int limit,
                                LPCSTR defaultChar, BOOL* usedDefault);

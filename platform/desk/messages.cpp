@@ -138,9 +138,12 @@ static DeskTimer* NextTimer() {
     return next == Desk.timers.end() ? nullptr : &*next;
 }
 
+// A handler that takes longer than its timer's period would keep a test waiting for ever: `runUntil` ends
+// that.
 static bool TakeTimer(MSG* message, const Filter& filter) {
     DeskTimer* timer = NextTimer();
-    if (!timer || timer->due > Desk.now || !Matches(filter, timer->window, WM_TIMER))
+    const DWORD last = Desk.runUntil ? std::min(Desk.now, Desk.runUntil) : Desk.now;
+    if (!timer || timer->due > last || !Matches(filter, timer->window, WM_TIMER))
         return false;
     timer->due = Desk.now + timer->period;
     *message = {timer->window, WM_TIMER,   timer->id, reinterpret_cast<LPARAM>(timer->callback),

@@ -311,7 +311,7 @@ std::vector<HWND> WindowsToKeepInReach() {
 // Also after log-off ended its program.
 void ExpectInReach(HWND handle) {
     const DeskWindow& window = WindowOf(handle);
-    const RECT rect = FromWindows(window.style & WS_MINIMIZE ? window.normalRect : VisibleRect(handle));
+    const RECT rect = FromSystem(window.style & WS_MINIMIZE ? window.normalRect : VisibleRect(handle));
     EXPECT_TRUE(rect.right - rect.left < 5 || rect.bottom - rect.top < 5 || IsTitleInReach(rect))
         << testing::PrintToString(rect) << " of " << testing::PrintToString(ScreenRect);
 }

@@ -380,6 +380,8 @@ void TestSession(std::string_view input) {
 
 void TestRun(std::string_view input) {
     TestSession(input);
+    if (input.empty() || !(input[0] & 32))
+        return;
     const bool loads = IsOn(ACTION_LOAD_AT_START);
     const auto files = Desk.files;
     const auto displays = Desk.displays;

@@ -11,5 +11,5 @@ void TestSettings(std::string_view input);
 // as the end. Checks after each step and at the end what must always hold.
 void TestSession(std::string_view input);
 
-// The same; for some inputs also that the next start finds what was saved.
+// The same; if the first byte asks for it, also that the next start finds what was saved.
 void TestRun(std::string_view input);

@@ -270,9 +270,13 @@ void ExpectScrollingToBeClamped() {
 }
 
 // A negative position of the map would not be loaded.
-void ExpectSavedToLoad() {
+void SaveWhatLoads() {
     MoveWindow(MainWnd, 100, 100, 200, 100, TRUE);
     RunAction(ACTION_SAVE_SETTINGS);
+}
+
+void ExpectSavedToLoad() {
+    SaveWhatLoads();
     const std::string saved = Desk.files[SETTINGS_FILE];
     RunAction(ACTION_LOAD_SETTINGS);
     RunAction(ACTION_SAVE_SETTINGS);
@@ -344,19 +348,22 @@ void ExpectWindowsAndResourcesBack(bool logsOff, const std::vector<std::pair<HWN
 
 } // namespace
 
+// Bits of the first byte.
+enum { COMPOSITOR = 1, FRAMES = 2, SCALES = 4, FOREGROUND_LOCK = 8, LOGS_OFF = 16, STARTS_AGAIN = 32 };
+
 void TestSession(std::string_view input) {
     Bytes bytes{input.data(), input.data() + input.size()};
     Faults = 0;
     Others.clear();
     PrepareDesk();
     const int setup = bytes.Byte();
-    if (setup & 1) {
+    if (setup & COMPOSITOR) {
         InstallCompositor();
-        Desk.frameMargins = setup & 2 ? RECT{7, 0, 7, 7} : RECT{};
+        Desk.frameMargins = setup & FRAMES ? RECT{7, 0, 7, 7} : RECT{};
     }
-    if (setup & 4)
+    if (setup & SCALES)
         InstallDpiFunctions();
-    Desk.foregroundLock = Desk.clicksActivate = setup & 8;
+    Desk.foregroundLock = Desk.clicksActivate = setup & FOREGROUND_LOCK;
     AnswerAll(IDOK);
     StartQuorl();
     while (bytes.next < bytes.end && !testing::Test::HasFailure()) {
@@ -374,13 +381,16 @@ void TestSession(std::string_view input) {
     Wait(2000);
     const auto fixed = FixedWindows();
     ExpectScrollingToBeClamped();
-    ExpectSavedToLoad();
-    ExpectWindowsAndResourcesBack(setup & 16, fixed);
+    if (setup & STARTS_AGAIN)
+        SaveWhatLoads();
+    else
+        ExpectSavedToLoad();
+    ExpectWindowsAndResourcesBack(setup & LOGS_OFF, fixed);
 }
 
 void TestRun(std::string_view input) {
     TestSession(input);
-    if (input.empty() || !(input[0] & 32))
+    if (input.empty() || !(input[0] & STARTS_AGAIN))
         return;
     const bool loads = IsOn(ACTION_LOAD_AT_START);
     const auto files = Desk.files;

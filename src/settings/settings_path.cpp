@@ -14,7 +14,7 @@ static bool FindBesideProgram(WCHAR (&path)[MAX_PATH]) {
     if (!length || length >= MAX_PATH)
         return false;
     WCHAR* const end = std::wcsrchr(path, L'\\');
-    if (!end || end + 1 - path + std::wcslen(name) >= MAX_PATH)
+    if (!end || static_cast<std::size_t>(end + 1 - path) + std::wcslen(name) >= MAX_PATH)
         return false;
     std::wcscpy(end + 1, name);
     return true;

@@ -42,7 +42,8 @@ static void DisableUnless(ActionId id, bool bAvailable) {
         ActionTable[id].flags = ACTION_OFF;
 }
 
-// By the full path: a library of that name in the program's folder is not Windows' own. Null if it is missing.
+// By the full path: a library of that name in the program's folder is not Windows' own. Null if it is
+// missing.
 static HMODULE LoadSystemLibrary(const char* name) {
     char folder[MAX_PATH] = "";
     char path[MAX_PATH + 16];

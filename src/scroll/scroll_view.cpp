@@ -11,6 +11,13 @@ static int ScrollCount; // calls of ScrollView
 
 namespace {
 
+// The view after a scroll, and the distance by which it scrolled. If the old view did not have the size of
+// the screen, as after a display change, the corners need not differ by that distance.
+struct ViewStep {
+    RECT view;  // desktop pixels
+    int dx, dy; // pixels
+};
+
 // The window that IsLeftBehind describes; null if there is none.
 struct LeftBehindRecord {
     HWND window;
@@ -51,7 +58,8 @@ static void ClampAxis(LONG* nearEdge, LONG* farEdge, int* distance, int desktop,
     }
 }
 
-ViewStep ClampStep(const RECT& vdesk, POINT distance, const RECT& quorl, int screenW, int screenH) {
+// Pure: the step clamped to the desktop, whose near edges are at 0.
+static ViewStep ClampStep(const RECT& vdesk, POINT distance, const RECT& quorl, int screenW, int screenH) {
     const int dx = distance.x;
     const int dy = distance.y;
     ViewStep step{Offset(vdesk, dx, dy), dx, dy};

@@ -28,13 +28,3 @@ void ShowView();
 // Sets the view to the screen's size, with its corner at that desktop point or as near as the desktop allows.
 // Moves no window.
 void SetView(POINT corner);
-
-// The view after a scroll, and the distance by which it scrolled. If the old view did not have the size of
-// the screen, as after a display change, the corners need not differ by that distance.
-struct ViewStep {
-    RECT view;  // desktop pixels
-    int dx, dy; // pixels
-};
-
-// Pure: the step clamped to the desktop, whose near edges are at 0.
-ViewStep ClampStep(const RECT& vdesk, POINT distance, const RECT& quorl, int screenW, int screenH);

@@ -49,7 +49,10 @@ static int ShiftedCoordinate(int coordinate, int delta, int size, int view, int 
     return Wrap(0LL + shifted + view) < 0 ? Wrap(0LL - view) : shifted;
 }
 
-POINT ShiftedCorner(const RECT& window, int dx, int dy, const RECT& vdesk, const RECT& quorl, int border) {
+// Pure: the corner, in screen pixels, of a window moved by (dx, dy) and clamped to the desktop. The far edges
+// are compared with the desktop's size in screen pixels, without the view's corner, as in IsManagedWindow.
+static POINT ShiftedCorner(const RECT& window, int dx, int dy, const RECT& vdesk, const RECT& quorl,
+                           int border) {
     return {ShiftedCoordinate(window.left, dx, Width(window), vdesk.left, quorl.right, border),
             ShiftedCoordinate(window.top, dy, Height(window), vdesk.top, quorl.bottom, border)};
 }

@@ -14,7 +14,3 @@ void ShiftWindows(int dx, int dy);
 // After a change of displays: moves every managed, unlocked window that no display of the old layout showed
 // to its position on the desktop. Windows moves all others itself.
 void ReturnUnseenWindows(const DisplayLayout& before);
-
-// Pure: the corner, in screen pixels, of a window moved by (dx, dy) and clamped to the desktop. The far edges
-// are compared with the desktop's size in screen pixels, without the view's corner.
-POINT ShiftedCorner(const RECT& window, int dx, int dy, const RECT& vdesk, const RECT& quorl, int border);

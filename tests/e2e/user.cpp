@@ -187,8 +187,9 @@ static std::string AskText(HWND window, UINT message, WPARAM wParam) {
 
 // Makes sure that the click does not happen at the previous position.
 static void ClickAt(POINT screen) {
-    Retry([&] { return MousePosition().x == screen.x && MousePosition().y == screen.y; },
-          [&] { MoveMouse(screen.x, screen.y); });
+    const auto isThere = [screen] { return MousePosition().x == screen.x && MousePosition().y == screen.y; };
+    for (int tries = 0; tries < 5 && !isThere(); ++tries)
+        MoveMouse(screen.x, screen.y);
     Click(VK_LBUTTON);
 }
 

@@ -158,7 +158,8 @@ void AnswerYesToQuit() {
 
 void Quit() {
     PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
-    AnswerYesToQuit();
+    PostMessageA(WaitForBox("QUIT?"), WM_COMMAND, IDYES, 0);
+    Require(WaitForExit(Quorl) == 0, "Quorl's exit with code 0");
 }
 
 bool WaitForEnd(HWND window) {

@@ -4,7 +4,8 @@ BUILD_PACKAGES=(git cmake ninja-build g++ libgtest-dev googletest libbenchmark-d
     g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
 CHECK_PACKAGES=(clang-tidy clang-format binutils python3)
 FUZZ_PACKAGES=(clang libclang-rt-14-dev)
-WINE_PACKAGES=(wine wine64 fonts-wine fonts-liberation xvfb x11-utils imagemagick)
+WINE_PACKAGES=(wine wine64 fonts-wine fonts-liberation xvfb xserver-xephyr x11-utils
+    imagemagick)
 X86_PACKAGES=(debootstrap)
 
 LOGS=$PWD/build/log

@@ -22,11 +22,14 @@ suite_test() {
     } >>"$SUITE/CTestTestfile.cmake"
 }
 
-# suite_windows PREFIX TIMEOUT PROGRAM: adds the cases of a GoogleTest program on the Wine desktop. PROGRAM is a
+# The end-to-end tests that need two displays and a compositor.
+ON_DISPLAYS='TwoDisplays.*:Frames.*'
+
+# suite_windows PREFIX TIMEOUT PROGRAM [FILTER]: adds the cases of a GoogleTest program on a Wine desktop. PROGRAM is a
 # path inside the environment of wine_env (wine.sh).
 suite_windows() {
-    local prefix=$1 timeout=$2 program=$3 list=$LOGS/$1list name
-    "${wine_env[@]}" wine "$program" --gtest_list_tests >"$list" 2>"$list.errors" </dev/null ||
+    local prefix=$1 timeout=$2 program=$3 filter=${4:-*} list=$LOGS/$1list name
+    "${wine_env[@]}" wine "$program" --gtest_list_tests "--gtest_filter=$filter" >"$list" 2>"$list.errors" </dev/null ||
         die "$program does not list its tests: $list.errors"
     for name in $(tr -d '\r' <"$list" | awk '/^[^ ]/ { suite = $1; next } { print suite $1 }'); do
         suite_test "$prefix$name" "$timeout" "${wine_env[@]}" wine "$program" "--gtest_filter=$name"

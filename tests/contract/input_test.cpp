@@ -56,7 +56,7 @@ TEST_F(Input, MouseMessagesUseClientCoordinatesAndKeyStateFollowsTheMessage) {
     EXPECT_EQ(LastOf(WM_MOUSEMOVE).hwnd, nullptr);
     POINT at{};
     EXPECT_TRUE(SetCursorPos(-50, 5000) && GetCursorPos(&at));
-    EXPECT_TRUE(at.x == 0 && at.y == 767) << "clamped to the screen";
+    EXPECT_TRUE(at.x == 0 && at.y == GetSystemMetrics(SM_CYSCREEN) - 1) << "clamped to the screen";
 }
 
 TEST_F(Input, OtherProgramsWindowTakesTheForegroundButNotTheFocus) {

@@ -189,6 +189,7 @@ Resources ResourcesAtRest(HANDLE quorl) {
 } // namespace
 
 TEST(Soak, QuorlKeepsRespondingAndLeaksNothing) {
+    NEEDS(IsWine(), "Wine: it types and clicks anywhere");
     Prepare();
     const HANDLE quorl = Start();
     OpenDialogs<ACTION_OPTIONS, ACTION_MARK_REGION, ACTION_FIND_WINDOW, ACTION_RESIZE_WINDOW,
@@ -207,6 +208,7 @@ TEST(Soak, QuorlKeepsRespondingAndLeaksNothing) {
 }
 
 TEST(Soak, NextRunAfterAKillReturnsTheWindowsAndFindsCompleteSettings) {
+    NEEDS(IsWine(), "Wine: it types and clicks anywhere");
     Prepare();
     Start();
     ExpectSaved("num_regions", "0");

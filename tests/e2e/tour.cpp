@@ -342,15 +342,18 @@ int Tour() {
 }
 
 TEST(Tour, DefaultKeysMapAndMenuWork) {
+    NEEDS(IsWine(), "the programs that come with Wine");
     RunChapters(DefaultChapters);
 }
 
 TEST(Tour, RegionsAndKeysFromTheFileWork) {
+    NEEDS(IsWine(), "the programs that come with Wine");
     RunChapters(SettingsChapters);
     End();
 }
 
 TEST(Tour, EachDialogWorks) {
+    NEEDS(IsWine(), "the programs that come with Wine");
     StartWithSettings();
     RunChapters(DialogChapters);
     End();

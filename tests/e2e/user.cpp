@@ -1,11 +1,34 @@
 #include "user.h"
 
+#include <fstream>
+
 static HANDLE Quorl; // the process started last
 
-static std::string SettingsFile() {
+static std::string OwnFolder() {
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(nullptr, path, sizeof path);
+    *(strrchr(path, '\\') + 1) = 0;
+    return path;
+}
+
+// In portable mode, which the kit uses, the file is beside the programs.
+static std::string SettingsFile(bool portable) {
     char folder[MAX_PATH] = "";
     GetWindowsDirectoryA(folder, sizeof folder);
-    return std::string(folder) + "\\quorl.ini";
+    return (portable ? OwnFolder() : std::string(folder) + "\\") + "quorl.ini";
+}
+
+static const bool Portable = GetFileAttributesA(SettingsFile(true).c_str()) != INVALID_FILE_ATTRIBUTES;
+
+static std::string SettingsFile() {
+    return SettingsFile(Portable);
+}
+
+static void ClearSettings() {
+    WritePrivateProfileStringA(nullptr, nullptr, nullptr, SettingsFile().c_str()); // not from the cache later
+    DeleteFileA(SettingsFile().c_str());
+    if (Portable)
+        std::ofstream(SettingsFile(), std::ios::binary); // an empty one keeps portable mode
 }
 
 void Require(bool happened, const std::string& wanted) {
@@ -19,7 +42,7 @@ void Require(bool happened, const std::string& wanted) {
 void CleanDesktop() {
     EndPrograms();
     EXPECT_EVENTUALLY(QuorlWindow(), HWND{});
-    DeleteFileA(SettingsFile().c_str());
+    ClearSettings();
     SetCursorPos(SCREEN_W - 1, SCREEN_H - 1); // away from the windows
 }
 
@@ -28,10 +51,7 @@ HWND QuorlWindow() {
 }
 
 HANDLE LaunchQuorl() {
-    char path[MAX_PATH] = "";
-    GetModuleFileNameA(nullptr, path, sizeof path);
-    *(strrchr(path, '\\') + 1) = 0;
-    return Quorl = Launch("\"" + std::string(path) + "quorl.exe\"");
+    return Quorl = Launch("\"" + OwnFolder() + "quorl.exe\"");
 }
 
 // The window is visible before the message loop runs; responding means ready for keys.
@@ -158,7 +178,8 @@ void AnswerYesToQuit() {
 
 void Quit() {
     PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
-    AnswerYesToQuit();
+    PostMessageA(WaitForBox("QUIT?"), WM_COMMAND, IDYES, 0);
+    Require(WaitForExit(Quorl) == 0, "Quorl's exit with code 0");
 }
 
 bool WaitForEnd(HWND window) {

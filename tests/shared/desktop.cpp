@@ -1,9 +1,21 @@
 #include "shared/desktop.h"
 
+#include <dwmapi.h>
+
 #include <vector>
 
 static HANDLE Job; // closing it ends every program in it
 static std::vector<HANDLE> Programs;
+
+bool IsWine() {
+    return GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+int ScreenMetric(int metric) {
+    static const BOOL real = SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+    static_cast<void>(real);
+    return GetSystemMetrics(metric);
+}
 
 HANDLE Launch(std::string command) {
     if (!Job) {
@@ -44,6 +56,27 @@ HWND OpenWindow(const char* title, const RECT& rect, const char* behaviour) {
     return window;
 }
 
+// Wine's own library has these functions too, but they fail.
+template <typename Function>
+static Function* Compositor(const char* name) {
+    static const HMODULE library = LoadLibraryA("dwmapi.dll");
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+}
+
+RECT VisibleRect(HWND window) {
+    constexpr DWORD EXTENDED_FRAME_BOUNDS = 9;
+    RECT visible{};
+    const auto read = Compositor<decltype(DwmGetWindowAttribute)>("DwmGetWindowAttribute");
+    return SUCCEEDED(read(window, EXTENDED_FRAME_BOUNDS, &visible, sizeof visible)) ? visible
+                                                                                    : WindowRect(window);
+}
+
+static void Cloak(HWND window) {
+    constexpr DWORD CLOAK = 13;
+    const BOOL yes = TRUE;
+    Compositor<decltype(DwmSetWindowAttribute)>("DwmSetWindowAttribute")(window, CLOAK, &yes, sizeof yes);
+}
+
 static std::string Behaviour;
 
 static LRESULT CALLBACK PlayerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -77,6 +110,8 @@ bool PlayWindow(int count, char** arguments) {
                       atoi(arguments[6]), atoi(arguments[7]), nullptr, nullptr, nullptr, nullptr);
     ShowWindow(window, SW_SHOWNOACTIVATE);
     UpdateWindow(window);
+    if (Behaviour == "cloaked")
+        Cloak(window);
     PostMessageA(window, WM_APP, 0, 0);
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0)
@@ -121,9 +156,14 @@ static void Send(LONG x, LONG y, DWORD data, DWORD flags) {
     SendInput(1, &input, sizeof input);
 }
 
+// Without the flag Windows counts from the primary display; with it Wine's virtual desktop loses moves.
 void SendMouse(int x, int y) {
-    const auto scaled = [](int at, int metric) { return (at * 65536 + 32768) / GetSystemMetrics(metric); };
-    Send(scaled(x, SM_CXSCREEN), scaled(y, SM_CYSCREEN), 0, MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
+    const auto scaled = [](int at, int start, int size) {
+        return ((at - GetSystemMetrics(start)) * 65536 + 32768) / GetSystemMetrics(size);
+    };
+    const DWORD all = GetSystemMetrics(SM_CMONITORS) > 1 ? MOUSEEVENTF_VIRTUALDESK : 0U;
+    Send(scaled(x, SM_XVIRTUALSCREEN, SM_CXVIRTUALSCREEN), scaled(y, SM_YVIRTUALSCREEN, SM_CYVIRTUALSCREEN),
+         0, MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | all);
 }
 
 // Under Wine a move that was only sent is replaced by the X server's pointer position after some 100 ms, and

@@ -14,9 +14,15 @@ constexpr DWORD TIMEOUT = 10000; // ms; for what must happen, however slow the m
 HANDLE Launch(std::string command);
 void EndPrograms();
 
+bool IsWine();
+
+// GetSystemMetrics in the pixels of the displays. Windows counts in those only for programs that ask for it,
+// which the first call does.
+int ScreenMetric(int metric);
+
 // Opens a window of another process, inactive and on top of the others. Behaviours: "plain"; "slow" (handles
 // WM_MOVING in half a second); "hung" (never responds once it is visible); "dies" (exits in WM_MOVING);
-// "overrides" (moves the rect of WM_MOVING by 7 and 9 pixels more).
+// "cloaked" (by the compositor); "overrides" (moves the rect of WM_MOVING by 7 and 9 pixels more).
 HWND OpenWindow(const char* title, const RECT& rect, const char* behaviour = "plain");
 // Main function of that process, which is this program again: `--play BEHAVIOUR TITLE LEFT TOP WIDTH HEIGHT`.
 // Returns false if the arguments are others.
@@ -26,6 +32,9 @@ bool PlayWindow(int count, char** arguments);
 HWND FindVisible(DWORD process, const char* windowClass, const char* title);
 HWND WaitForVisible(DWORD process, const char* windowClass, const char* title);
 DWORD ProcessOf(HWND window);
+
+// What the user sees of a window: without the invisible frame that a compositor gives it.
+RECT VisibleRect(HWND window);
 
 void HoldKey(int key, bool down);
 // Moves the pointer and waits until all programs know.

@@ -7,6 +7,7 @@
 #include <iterator>
 
 int main(int count, char** arguments) {
+    ScreenMetric(SM_CXSCREEN); // as DPI aware as Quorl
     if (PlayWindow(count, arguments))
         return 0;
     testing::InitGoogleTest(&count, arguments);

@@ -34,6 +34,11 @@ BREAKS = (
     (r" - ", lambda _: " + "),
     (r"(?<=if \()!", lambda _: ""),
     (r"^( +)(\w[^;{}=]*\([^;{}=]*;)\n\1(\w[^;{}=]*\([^;{}=]*;)$", lambda found: f"{found[1]}{found[3]}\n{found[1]}{found[2]}"),
+    # A call or an assignment as a statement of its own, not a declaration.
+    (r"(?<=[;{}\n)]\n)( +)(?!return\b|else\b)[\w.\[\]>-]+(\([^;{}]*\)| [-+|&*]?= [^;{}]*);$", lambda found: f"{found[1]};"),
+    # Two simple arguments of a call.
+    (r"(?<=\w\()(\w[\w.]*), (\w[\w.]*)(?=[,)])", lambda found: f"{found[2]}, {found[1]}"),
+    (r"(?<=, )(\w[\w.]*), (\w[\w.]*)(?=\))", lambda found: f"{found[2]}, {found[1]}"),
 )
 
 # file, function or text of the break (all as patterns): why no test can detect it
@@ -83,7 +88,8 @@ def sites():
         code = code_of(file.read_text())
         for pattern, change in BREAKS:
             for found in re.finditer(pattern, code, re.M):
-                yield file.relative_to(ROOT), found.start(), found.end(), change(found)
+                if change(found) != found[0]:
+                    yield file.relative_to(ROOT), found.start(), found.end(), change(found)
 
 
 def spread(chance):

@@ -84,7 +84,8 @@ struct DeskWindow {
     std::optional<RECT> pendingRect; // posted by SWP_ASYNCWINDOWPOS; WakeWindow applies it
     SIZE minSize{0, 0};
     SIZE maxSize{1 << 20, 1 << 20};
-    int diesAtCall = 0; // destroyed just before the n-th call that names it; 0: never
+    std::function<void()> duringMessage; // runs while it handles a message that somebody waits for
+    int diesAtCall = 0;                  // destroyed just before the n-th call that names it; 0: never
     std::vector<DeskMessage> received;
 
     bool needsPaint = false; // WM_PAINT is pending

@@ -145,6 +145,8 @@ int GetSystemMetrics(int index) {
     case SM_YVIRTUALSCREEN: return desktop.top;
     case SM_CXVIRTUALSCREEN: return Width(desktop);
     case SM_CYVIRTUALSCREEN: return Height(desktop);
+    case SM_CXSIZEFRAME:
+    case SM_CXPADDEDBORDER: return 4;
     default: return 0;
     }
 }

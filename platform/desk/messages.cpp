@@ -62,6 +62,8 @@ LRESULT SendMessageTimeoutA(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         *result = static_cast<DWORD_PTR>(CallWndProc(window, message, wParam, lParam));
     else
         Deliver(*record, message, wParam, lParam);
+    if (record->duringMessage)
+        std::function<void()>(record->duringMessage)();
     return 1;
 }
 

@@ -1,14 +1,16 @@
 #include "app/crash.h"
 
-#include "core/platform.h"
+#include "core/state.h"
 #include "scroll/gather.h"
 
 static LONG bFolding;
 
 // The state may be corrupt: a second exception, or one of another thread, must not start this again.
 static LONG WINAPI FoldOnCrash(EXCEPTION_POINTERS*) {
-    if (!InterlockedExchange(&bFolding, 1))
+    if (!InterlockedExchange(&bFolding, 1)) {
+        bQuitting = true; // also while the displays change
         GatherWindows(FOLD_IN_CRASH);
+    }
     return EXCEPTION_CONTINUE_SEARCH;
 }
 

@@ -19,11 +19,11 @@ static void SaveIfWanted() {
 
 static void Quit(HWND window, FoldReason reason) {
     bQuitting = true;
-    PostQuitMessage(0); // takes effect only in the message loop, after all that follows
     RemoveTrayIcon(window);
     SaveIfWanted();
     ClearAllActionKeys();
     GatherWindows(reason);
+    PostQuitMessage(0); // last: it would close a box about a window that refuses to move
 }
 
 bool ConfirmQuit(HWND window) {
@@ -34,12 +34,13 @@ bool ConfirmQuit(HWND window) {
     return true;
 }
 
-// May arrive while Quit shows a message box; settings and hotkeys are done by then, so only fold again.
+// May arrive while Quit shows a message box; settings and hotkeys are done by then, so only fold again, and
+// close the box.
 void EndSession(HWND window) {
-    if (bQuitting)
-        GatherWindows(FOLD_AT_LOGOFF);
-    else
-        Quit(window, FOLD_AT_LOGOFF);
+    if (!bQuitting)
+        return Quit(window, FOLD_AT_LOGOFF);
+    GatherWindows(FOLD_AT_LOGOFF);
+    PostQuitMessage(0);
 }
 
 void EndFirstAtLogoff() {

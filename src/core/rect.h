@@ -17,6 +17,12 @@ constexpr RECT Offset(const RECT& rect, int dx, int dy) {
             Wrap(0LL + rect.bottom + dy)};
 }
 
+// Each side moved inwards by its margin, or outwards by a negative one.
+constexpr RECT Shrink(const RECT& rect, const RECT& margins) {
+    return {Wrap(0LL + rect.left + margins.left), Wrap(0LL + rect.top + margins.top),
+            Wrap(0LL + rect.right - margins.right), Wrap(0LL + rect.bottom - margins.bottom)};
+}
+
 constexpr bool IsSameRect(const RECT& a, const RECT& b) {
     return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
 }

@@ -30,8 +30,8 @@ extern HINSTANCE AppInstance; // for dialogs
 extern HBRUSH BackBrush;      // the map's background
 extern HICON TrayImage;       // of the size of small icons. Written by menus/tray.cpp.
 
-// Set by app/quit.cpp once Quorl is ending, because the user confirmed or the session ends: messages still in
-// the queue must not move windows that are back on the screen.
+// Set by app/ once Quorl is ending, because the user confirmed, the session ends, or in a crash: messages
+// still in the queue must not move windows that are back on the screen.
 extern bool bQuitting;
 
 // Set while the displays change, by scroll/display_change.cpp: Quorl moves nothing until they have settled.

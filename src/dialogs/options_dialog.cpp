@@ -209,6 +209,10 @@ static void StoreNumbers(const OptionNumbers& accepted) {
 // If the desktop shrinks, windows fold back onto the screen, and all are clamped to the desktop. The view
 // stays: the next scroll clamps it.
 static void OnAccept(HWND dialog, int) {
+    if (!MayScroll()) {
+        MessageBeep(0); // no window could be folded now
+        return;
+    }
     const RECT before = Quorl;
     StoreNumbers(AcceptNumbers(NumbersShown(dialog), ScreenW(), ScreenH(), Options.minscroll));
     if (Options.hook_present)

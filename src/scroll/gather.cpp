@@ -74,8 +74,11 @@ static void FoldNormalRect(HWND window) {
 }
 
 static MoveResult FoldWindow(const FoldRow& row, UINT timeout) {
+    const int fold = FoldCount;
     const RECT folded = FoldRect(row.frame.visible);
     const MoveResult result = PingAndMove(row.window, row.frame, {folded.left, folded.top}, timeout);
+    if (fold != FoldCount)
+        return NOT_MOVED; // another fold, during the ping
     if (result == MOVE_TIMED_OUT)
         PostMove(row.window, row.frame, {folded.left, folded.top});
     return result;
@@ -87,7 +90,8 @@ static void PostFold(const FoldRow& row) {
         PostMove(row.window, row.frame, {folded.left, folded.top});
 }
 
-static void FoldOne(const FoldRule& rule, const FoldRow& row) {
+// The row is a copy: a fold that starts meanwhile fills the table again.
+static void FoldOne(const FoldRule& rule, const FoldRow row) {
     if (row.bMoves && FoldWindow(row, rule.timeout) == MOVE_REFUSED && rule.bReport)
         MessageBoxA(nullptr, "Not a timeout! A window won't restore!", "ok", MB_OK);
     if (row.bHasNormalRect)

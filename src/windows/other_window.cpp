@@ -42,9 +42,8 @@ static RECT ReadMargins(HWND window, const RECT& rect) {
     return bPlausible ? margins : RECT{};
 }
 
-static RECT Shrink(const RECT& rect, const RECT& margins) {
-    return {Wrap(0LL + rect.left + margins.left), Wrap(0LL + rect.top + margins.top),
-            Wrap(0LL + rect.right - margins.right), Wrap(0LL + rect.bottom - margins.bottom)};
+static RECT Grow(const RECT& rect, const RECT& margins) {
+    return Shrink(rect, {-margins.left, -margins.top, -margins.right, -margins.bottom});
 }
 
 // If the edge is within MARGIN_ERROR of the screen's or the desktop's, sets it to that and corrects the
@@ -117,6 +116,17 @@ static bool MayMove() {
     return !bDisplaysChanging || bQuitting;
 }
 
+// While Quorl waits for a response, it handles what is sent to it: the end of the session, which folds every
+// window, or a change of the displays. The move it waits for must not follow then.
+static bool MayStillMove(bool bWasQuitting) {
+    return MayMove() && bQuitting == bWasQuitting;
+}
+
+static bool IsAliveToMove(HWND window) {
+    const bool bWasQuitting = bQuitting;
+    return MayMove() && IsAlive(window) && MayStillMove(bWasQuitting);
+}
+
 static void MoveCorner(HWND window, const WindowPosition& position, UINT flags) {
     SetWindowPos(window, nullptr, position.x, position.y, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
@@ -146,10 +156,13 @@ static MoveResult ResultOf(DWORD error) {
 MoveResult PingAndMove(HWND window, const WindowFrame& frame, POINT corner, UINT timeout) {
     if (!MayMove())
         return NOT_MOVED;
+    const bool bWasQuitting = bQuitting;
     const WindowPosition sent = PositionFor(frame, corner);
     WindowPosition position = sent;
     if (!PingWithPosition(window, &position, timeout))
         return ResultOf(GetLastError());
+    if (!MayStillMove(bWasQuitting))
+        return NOT_MOVED;
     Move(window, position, frame.bSetSize || position.width != sent.width || position.height != sent.height);
     return MOVED;
 }
@@ -160,7 +173,7 @@ void PingMoveAndShow(HWND window, const WindowFrame& frame, POINT corner) {
 }
 
 void MoveIfAlive(HWND window, const WindowFrame& frame, POINT corner) {
-    if (MayMove() && IsAlive(window))
+    if (IsAliveToMove(window))
         Move(window, PositionFor(frame, corner), frame.bSetSize);
 }
 
@@ -179,14 +192,14 @@ bool GetOtherWindowSize(HWND window, SIZE* size) {
 
 void ResizeIfAlive(HWND window, SIZE size) {
     RECT rect{};
-    if (MayMove() && GetWindowRect(window, &rect) && IsAlive(window))
+    if (IsAliveToMove(window) && GetWindowRect(window, &rect))
         MoveAndSize(window, {rect.left, rect.top, size.cx, size.cy});
 }
 
 bool RestoreIfZoomed(HWND window, WindowFrame* frame) {
     if (!IsZoomed(window))
         return true;
-    if (!MayMove() || !IsAlive(window))
+    if (!IsAliveToMove(window))
         return false;
     ShowWindow(window, SW_HIDE);
     ShowWindow(window, SW_RESTORE);
@@ -205,6 +218,15 @@ static POINT WorkspaceOffset(HWND window, const RECT& rect) {
     return {display.work.left - display.rect.left, display.work.top - display.rect.top};
 }
 
+// The margins that a sizable window has when it is neither minimized nor maximized: the compositor reports
+// only those that it has now.
+static RECT NormalMargins(HWND window) {
+    if (!pDwmGetWindowAttribute || !(GetWindowLongPtrA(window, GWL_STYLE) & WS_THICKFRAME))
+        return {};
+    const LONG margin = GetSystemMetrics(SM_CXSIZEFRAME) + GetSystemMetrics(SM_CXPADDEDBORDER) - 1;
+    return {margin, 0, margin, margin};
+}
+
 bool ReadNormalRect(HWND window, RECT* rect) {
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
@@ -212,7 +234,7 @@ bool ReadNormalRect(HWND window, RECT* rect) {
         return false;
     const RECT normal = FromSystem(placement.rcNormalPosition);
     const POINT offset = WorkspaceOffset(window, normal);
-    *rect = Offset(normal, offset.x, offset.y);
+    *rect = Shrink(Offset(normal, offset.x, offset.y), NormalMargins(window));
     return true;
 }
 
@@ -220,15 +242,18 @@ bool ReadNormalRect(HWND window, RECT* rect) {
 void SetNormalRect(HWND window, const RECT& rect) {
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
-    if (!MayMove() || !IsAlive(window) || !GetWindowPlacement(window, &placement))
+    if (!IsAliveToMove(window) || !GetWindowPlacement(window, &placement))
         return;
-    const POINT offset = WorkspaceOffset(window, rect);
-    placement.rcNormalPosition = ToSystem(Offset(rect, -offset.x, -offset.y));
+    const RECT outer = Grow(rect, NormalMargins(window));
+    const POINT offset = WorkspaceOffset(window, outer);
+    placement.rcNormalPosition = ToSystem(Offset(outer, -offset.x, -offset.y));
     placement.showCmd = IsIconic(window) ? SW_SHOWMINNOACTIVE : SW_SHOWNA;
     SetWindowPlacement(window, &placement);
 }
 
 bool MoveOwnWindow(HWND window, const WindowFrame& frame, const RECT& visible) {
+    if (!MayMove())
+        return false;
     WindowFrame sized = frame;
     sized.visible = visible;
     const WindowPosition position = PositionFor(sized, {visible.left, visible.top});
@@ -298,7 +323,8 @@ void ToggleTopmost(HWND window) {
 
 void TileOtherWindows(UINT how, const RECT& rect, const HWND* windows, UINT count) {
     const RECT area = ToSystem(rect);
-    TileWindows(nullptr, how, &area, count, windows);
+    if (MayMove())
+        TileWindows(nullptr, how, &area, count, windows);
 }
 
 bool BroadcastScreenSaver() {

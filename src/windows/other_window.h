@@ -1,6 +1,6 @@
 // All calls that message, move, show or activate windows of other programs. None can block on a hung program:
 // each follows a message with a timeout, or does not wait for the window. Positions are in screen pixels.
-// Nothing moves while the displays change.
+// Nothing moves while the displays change, nor after a wait in which all windows were folded.
 #pragma once
 
 #include "core/platform.h"
@@ -29,7 +29,7 @@ bool IsAlive(HWND window);
 
 enum MoveResult {
     MOVED,
-    NOT_MOVED,      // it is gone, its program has higher rights, or the displays are changing
+    NOT_MOVED,      // it is gone, its program has higher rights, or everything has been folded meanwhile
     MOVE_TIMED_OUT, // it did not respond in time
     MOVE_REFUSED,   // any other error
 };
@@ -53,13 +53,13 @@ bool GetOtherWindowSize(HWND window, SIZE* size);
 // Sets that size if the window is alive; its corner stays.
 void ResizeIfAlive(HWND window, SIZE size);
 
-// The rectangle that a minimized or maximized window has when it is restored. False if the window is gone.
+// What the user will see of a minimized or maximized window when it is restored. False if the window is gone.
 bool ReadNormalRect(HWND window, RECT* rect);
 
 // Changes that rectangle without activating the window or restoring it. Nothing happens if it is not alive.
 void SetNormalRect(HWND window, const RECT& rect);
 
-// Moves one of Quorl's own windows, and sizes it. False if Windows refuses.
+// Moves one of Quorl's own windows, and sizes it. False if Windows refuses, or while the displays change.
 bool MoveOwnWindow(HWND window, const WindowFrame& frame, const RECT& visible);
 
 // Hides and restores a maximized window; the next move gives it its maximized size again. False if it does

@@ -61,6 +61,10 @@ TEST_F(OptionsDialog, ASmallerDesktopFoldsWindowsAndKeepsTheView) {
         EXPECT_EQ(RectOf(editor).left, 1500);
         Open(ACTION_OPTIONS);
         Type(IDC_OPTIONS_WIDTH, width);
+        SendMessageA(MainWnd, WM_DISPLAYCHANGE, 0, 0);
+        Click(IDOK);
+        EXPECT_EQ(Text(IDC_OPTIONS_WIDTH), width) << "refused until the displays have settled";
+        Wait(2000);
         Click(IDOK);
     }
     EXPECT_EQ(RectOf(editor), Rect(476, 200, 776, 400));

@@ -1,6 +1,8 @@
 // At exit no window stays out of reach, whatever state it is in.
 #include "displays/display_test.h"
 
+#include "windows/window_table.h"
+
 class Reach : public ModernDesktop {
   protected:
     HWND window = OpenWindow("window", {2000, 1200, 2400, 1500}); // in reach of a folded screen only
@@ -41,6 +43,8 @@ TEST_F(Reach, AMinimizedWindowIsRestoredInReach) {
     ShowWindow(window, SW_MAXIMIZE);
     ShowWindow(window, SW_MINIMIZE);
     ShowWindow(maximized, SW_MAXIMIZE);
+    const HWND edge = OpenWindow("only its invisible frame is in reach", {1910, 200, 2310, 500});
+    ShowWindow(edge, SW_MINIMIZE);
     const HWND active = OpenWindow("active", {0, 40, 300, 340});
     Desk.foreground = active;
     Exit();
@@ -49,6 +53,7 @@ TEST_F(Reach, AMinimizedWindowIsRestoredInReach) {
     EXPECT_EQ(record.normalRect, Rect(80, 120, 480, 420));
     EXPECT_TRUE(IsZoomed(maximized));
     EXPECT_EQ(WindowOf(maximized).normalRect, Rect(80, 120, 480, 420));
+    EXPECT_EQ(WindowOf(edge).normalRect, Rect(-4, 200, 396, 500));
     EXPECT_EQ(Desk.foreground, active);
 }
 
@@ -68,12 +73,36 @@ TEST_F(Reach, TheEndOfTheSessionDuringAFoldReplacesIt) {
     record.error = 87;
     AnswerBoxes({IDYES, IDOK});
     Desk.duringBox = [] {
+        EXPECT_FALSE(Desk.quitPosted) << "it would close the box at once";
         if (Desk.boxes.size() == 1)
             SendMessageA(MainWnd, WM_ENDSESSION, 1, 0);
+        EXPECT_EQ(Desk.quitPosted, bQuitting) << "it closes the box";
     };
     RunAction(ACTION_EXIT);
     EXPECT_EQ(WindowOf(next).received.size(), 1u) << "the first fold must not go on after the second";
 }
+
+class SessionEnd : public Reach, public testing::WithParamInterface<ActionId> {};
+
+// The session ends while Quorl waits for a window to respond.
+TEST_P(SessionEnd, LeavesWindowsWhereTheyWereFolded) {
+    record.rect = {300, 300, 700, 600};
+    record.style |= GetParam() == ACTION_RESTORE_MAXIMIZED ? WS_MAXIMIZE : 0U;
+    Desk.foreground = window;
+    RebuildWindowTable();
+    record.duringMessage = [] {
+        if (!bQuitting)
+            SendMessageA(MainWnd, WM_ENDSESSION, 1, 0);
+    };
+    RunAction(GetParam());
+    RunAction(ACTION_SCREEN_RIGHT);
+    EXPECT_TRUE(bQuitting);
+    EXPECT_EQ(RectOf(window), Rect(300, 300, 700, 600));
+}
+
+INSTANTIATE_TEST_SUITE_P(, SessionEnd,
+                         testing::Values(ACTION_SCREEN_RIGHT, ACTION_ACTIVE_RIGHT_SCREEN,
+                                         ACTION_RESTORE_MAXIMIZED));
 
 // Overlays would cover the map, and dragging on it would hit them.
 TEST_F(Reach, OverlaysDoNotMoveWithTheView) {

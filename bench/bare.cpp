@@ -197,7 +197,15 @@ void PingMoveShow() {
 static BOOL CALLBACK QueryWindow(HWND window, LPARAM) {
     RECT rect;
     GetWindowRect(window, &rect);
+    if (IsWindowVisible(window))
+        IsIconic(window);
     return TRUE;
+}
+
+static BOOL CALLBACK QueryMonitor(HMONITOR monitor, HDC, RECT*, LPARAM) {
+    MONITORINFOEXA info{};
+    info.cbSize = sizeof info;
+    return GetMonitorInfoA(monitor, &info);
 }
 
 void BareTicks() {
@@ -208,14 +216,9 @@ void BareTicks() {
             GetWindowRect(Rows[row].hwnd, &rect);
     }
     GetForegroundWindow();
+    EnumDisplayMonitors(nullptr, nullptr, QueryMonitor, 0);
     EnumWindows(QueryWindow, 0);
     BarePaint();
-}
-
-static BOOL CALLBACK QueryMonitor(HMONITOR monitor, HDC, RECT*, LPARAM) {
-    MONITORINFOEXA info{};
-    info.cbSize = sizeof info;
-    return GetMonitorInfoA(monitor, &info);
 }
 
 void BareMouseMove() {

@@ -45,12 +45,13 @@ static void KeepMapOnDisplay() {
 }
 
 static void AdoptDisplays(const DisplayLayout& now) {
-    const DisplayLayout before = Displays;
-    const POINT moved = MovementInUnion(before, now);
+    const POINT moved = MovementInUnion(Displays, now);
     UseDisplays(now);
     FitDesktop();
     SetView({Wrap(0LL + VDesk.left - moved.x), Wrap(0LL + VDesk.top - moved.y)});
-    ReturnUnseenWindows(before);
+    ReturnUnseenWindows();
+    if (bDisplaysChanging)
+        return; // again, during the moves: the table keeps where the remaining windows belong
     KeepMapOnDisplay();
     RebuildWindowTable();
     ShowView();

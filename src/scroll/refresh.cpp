@@ -1,6 +1,7 @@
 #include "scroll/refresh.h"
 
 #include "core/state.h"
+#include "scroll/display_change.h"
 #include "scroll/follow.h"
 #include "windows/foreground.h"
 #include "windows/window_table.h"
@@ -25,6 +26,9 @@ void CALLBACK RefreshTimer(HWND window, UINT, UINT_PTR, DWORD) {
         return;
     const bool bFollowed = FollowActiveWindow();
     if (!IsRefreshDue() && !HasAnyWindowMoved() && !bFollowed)
+        return;
+    CheckDisplays(); // windows move before Windows announces a change of the displays
+    if (bDisplaysChanging)
         return;
     RebuildWindowTable();
     Repaint(window);

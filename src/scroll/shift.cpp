@@ -104,6 +104,8 @@ static void MoveRow(ShiftRow& row) {
         return;
     if (IsOn(ACTION_RESTORE_MAXIMIZED) && !RestoreIfZoomed(row.window, &row.frame))
         return;
+    if (bQuitting)
+        return; // the end of the session interrupted the restore
     const POINT corner = ShiftedCorner(row.frame.visible, row.by.x, row.by.y, VDesk, Quorl, Options.border);
     PingMoveAndShow(row.window, row.frame, corner);
     Requests[num_requests++] = {row.window, corner};
@@ -115,11 +117,12 @@ static void ScrollRow(ShiftRow& row) {
     MoveRow(row);
 }
 
-// From the bottom to the top: owners are below the windows that they own. Ends when the user quits meanwhile.
+// From the bottom to the top: owners are below the windows that they own. Ends when the user quits or the
+// displays change meanwhile.
 static void MoveAll(int count, void (*move)(ShiftRow& row)) {
     bShifting = true;
     num_requests = 0;
-    for (int i = count - 1; i >= 0 && !bQuitting; --i)
+    for (int i = count - 1; i >= 0 && !bQuitting && !bDisplaysChanging; --i)
         move(Shifts[i]);
     bShifting = false;
 }
@@ -130,20 +133,28 @@ void ShiftWindows(int dx, int dy) {
 }
 
 // How far a window has to move so that it is where the table had it on the desktop.
-static POINT DistanceToTable(const WindowRow& row, const WindowFrame& frame, const DisplayLayout& before) {
+static POINT DistanceToTable(const WindowRow& row, const WindowFrame& frame) {
+    const RECT& before = WindowTableDisplays.all;
     const LONG left = Wrap(0LL + frame.visible.left - frame.margins.left);
     const LONG top = Wrap(0LL + frame.visible.top - frame.margins.top);
-    return {Wrap(0LL + row.rect.left - before.all.left + WindowTableView.x - VDesk.left - left),
-            Wrap(0LL + row.rect.top - before.all.top + WindowTableView.y - VDesk.top - top)};
+    return {Wrap(0LL + row.rect.left - before.left + WindowTableView.x - VDesk.left - left),
+            Wrap(0LL + row.rect.top - before.top + WindowTableView.y - VDesk.top - top)};
 }
 
-void ReturnUnseenWindows(const DisplayLayout& before) {
+// The invisible frame of a window beside a display overlaps it, and its margins are exact to two pixels.
+static bool WasSeen(const WindowRow& row, const RECT& margins) {
+    const RECT visible = Shrink(row.rect, margins);
+    return IsShownBy(WindowTableDisplays, Shrink(visible, {ROUNDING, ROUNDING, ROUNDING, ROUNDING}));
+}
+
+void ReturnUnseenWindows() {
     if (!MayScroll())
         return;
     const int count = ReadPositions({});
     for (int i = 0; i < count; ++i) {
-        Shifts[i].bMoves = Shifts[i].bMoves && !IsShownBy(before, WindowTable[i].rect);
-        Shifts[i].by = DistanceToTable(WindowTable[i], Shifts[i].frame, before);
+        ShiftRow& row = Shifts[i];
+        row.bMoves = row.bMoves && WindowTable[i].bShown && !WasSeen(WindowTable[i], row.frame.margins);
+        row.by = DistanceToTable(WindowTable[i], row.frame);
     }
     MoveAll(count, MoveRow);
 }

@@ -11,6 +11,6 @@ bool MayScroll();
 // and costs SCROLL_TIMEOUT. Does nothing unless MayScroll.
 void ShiftWindows(int dx, int dy);
 
-// After a change of displays: moves every managed, unlocked window that no display of the old layout showed
-// to its position on the desktop. Windows moves all others itself.
-void ReturnUnseenWindows(const DisplayLayout& before);
+// After a change of displays: moves every managed, unlocked window that no display showed when the window
+// table was built to the position on the desktop that it had then. Windows moves all others itself.
+void ReturnUnseenWindows();

@@ -9,6 +9,7 @@
 WindowRow WindowTable[MAX_WINDOWS];
 int num_windows;
 POINT WindowTableView;
+DisplayLayout WindowTableDisplays;
 
 constexpr DWORD DWMWA_CLOAKED = 14; // declared in a header of its own, which the in-memory desktop lacks
 
@@ -30,8 +31,8 @@ static BOOL CALLBACK AddWindowRow(HWND window, LPARAM) {
     if (num_windows >= MAX_WINDOWS)
         return FALSE;
     WindowRow& row = WindowTable[num_windows++];
-    row = {window, {}}; // a window that has just gone keeps the empty rectangle until the next rebuild
-    GetWindowRect(window, &row.rect);
+    row = {window, {}, false}; // a window that has just gone keeps the empty rectangle until the next rebuild
+    row.bShown = GetWindowRect(window, &row.rect) && IsWindowVisible(window) && !IsIconic(window);
     return TRUE;
 }
 
@@ -39,6 +40,7 @@ void RebuildWindowTable() {
     const int before = num_windows;
     num_windows = 0;
     WindowTableView = {VDesk.left, VDesk.top};
+    WindowTableDisplays = Displays;
     if (!EnumWindows(AddWindowRow, 0) && num_windows == 0)
         num_windows = before; // old rows are better than none
 }

@@ -1,6 +1,7 @@
 // The snapshot of all top-level windows, and which of them Quorl may move.
 #pragma once
 
+#include "core/displays.h"
 #include "windows/other_window.h"
 
 constexpr int MAX_WINDOWS = 32000;
@@ -9,15 +10,17 @@ constexpr int MAX_WINDOWS = 32000;
 // with what that returns later.
 struct WindowRow {
     HWND hwnd;
-    RECT rect; // system coordinates
+    RECT rect;   // system coordinates
+    bool bShown; // false if it was hidden, minimized or gone, so that `rect` is not where the user left it
 };
 
 // Every top-level window, managed or not, in the order of EnumWindows: the topmost first.
 extern WindowRow WindowTable[MAX_WINDOWS];
 extern int num_windows;
 
-// The corner of the view when the table was built, in desktop pixels.
+// The corner of the view, in desktop pixels, and the displays when the table was built.
 extern POINT WindowTableView;
+extern DisplayLayout WindowTableDisplays;
 
 // Empties the table and enumerates again. If the enumeration fails at once, the old rows stay.
 void RebuildWindowTable();

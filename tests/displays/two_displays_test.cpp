@@ -106,7 +106,10 @@ TEST_F(DisplayChange, TheViewShowsTheSamePartOfTheDesktop) {
     RunAction(ACTION_SCREEN_RIGHT); // the table is from before this
     const POINT before[] = {DesktopCorner(onRight), DesktopCorner(far)};
     ChangeDisplays({Primary});
-    RunAction(ACTION_SCREEN_LEFT);
+    for (const ActionId id : {ACTION_SCREEN_LEFT, ACTION_TOOLWIN_RIGHT_MIN, ACTION_TILE_VERTICALLY})
+        RunAction(id);
+    EXPECT_EQ(RectOf(MainWnd).left, 100);
+    EXPECT_TRUE(Desk.tilings.empty());
     EXPECT_EQ(VDesk.left, 8960) << "scrolls are dropped until the displays have settled";
     Wait(200);
     SendMessageA(MainWnd, WM_SETTINGCHANGE, SPI_SETWORKAREA, 0);
@@ -121,6 +124,26 @@ TEST_F(DisplayChange, TheViewShowsTheSamePartOfTheDesktop) {
     EXPECT_EQ(DesktopCorner(far), before[1]);
     RunAction(ACTION_VIEW_TO_LEFT);
     EXPECT_EQ(RectOf(onRight), Rect(100, 100, 500, 500));
+}
+
+// Windows may move windows beyond the displays, before and after it announces the change.
+TEST_F(DisplayChange, WindowsOutOfViewReturnUnlessTheyWereMinimized) {
+    const HWND beside = OpenWindow("its invisible frame overlaps the display", {1913, 100, 2313, 400});
+    const RECT before[] = {RectOf(beside), RectOf(far), RectOf(onRight)};
+    ShowWindow(onRight, SW_MINIMIZE);
+    Wait(2000);
+    Desk.displays = {Primary};
+    ShowWindow(onRight, SW_RESTORE);
+    for (const HWND window : {beside, far})
+        WindowOf(window).rect = Rect(700, 100, 1100, 400);
+    WindowOf(far).duringMessage = [this] { // once more, while the windows return
+        WindowOf(far).duringMessage = nullptr;
+        SendMessageA(MainWnd, WM_DISPLAYCHANGE, 0, 0);
+    };
+    Wait(4000);
+    EXPECT_EQ(RectOf(beside), before[0]);
+    EXPECT_EQ(RectOf(far).left, before[1].left);
+    EXPECT_EQ(RectOf(onRight), before[2]);
 }
 
 TEST_F(DisplayChange, TheMapComesBackAndTheChosenSizeIsSaved) {

@@ -169,7 +169,7 @@ static void MoveRow(const BareRow& row, int dx, UINT timeout) {
 static void ScrollRow(const BareRow& row, int dx) {
     char name[256];
     GetClassNameA(row.hwnd, name, 255);
-    if (!row.managed || !IsWindowVisible(row.hwnd))
+    if (!row.managed || !IsWindowVisible(row.hwnd) || IsIconic(row.hwnd))
         return;
     MoveRow(row, dx, SCROLL_TIMEOUT);
     ShowWindow(row.hwnd, SW_SHOWNA);

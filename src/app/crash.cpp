@@ -1,6 +1,7 @@
 #include "app/crash.h"
 
 #include "core/state.h"
+#include "scroll/display_change.h"
 #include "scroll/gather.h"
 
 static LONG bFolding;
@@ -9,6 +10,7 @@ static LONG bFolding;
 static LONG WINAPI FoldOnCrash(EXCEPTION_POINTERS*) {
     if (!InterlockedExchange(&bFolding, 1)) {
         bQuitting = true; // also while the displays change
+        UseCurrentDisplays();
         GatherWindows(FOLD_IN_CRASH);
     }
     return EXCEPTION_CONTINUE_SEARCH;

@@ -13,7 +13,7 @@
 
 void OnCreate(HWND window) {
     MainWnd = window;
-    UseDisplaysAtStart();
+    UseCurrentDisplays();
     ResetDesktop();
     SetView({0, 0});
     ResetOptions();

@@ -3,6 +3,7 @@
 #include "actions/hotkeys.h"
 #include "core/state.h"
 #include "menus/tray.h"
+#include "scroll/display_change.h"
 #include "scroll/gather.h"
 #include "settings/settings.h"
 
@@ -19,6 +20,7 @@ static void SaveIfWanted() {
 
 static void Quit(HWND window, FoldReason reason) {
     bQuitting = true;
+    UseCurrentDisplays();
     RemoveTrayIcon(window);
     SaveIfWanted();
     ClearAllActionKeys();

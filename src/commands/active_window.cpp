@@ -47,10 +47,10 @@ static HWND CommandTarget(const ActionCall& call) {
     return call.target && !IsShellWindow(call.target) ? call.target : nullptr;
 }
 
-// The window to move and where it is; null if there is none or it has just gone.
+// The window to move and where it is; null if there is none or it has just gone or been minimized.
 static HWND WindowToMove(const ActionCall& call, WindowFrame* frame) {
     const HWND window = CommandTarget(call);
-    return window && ReadWindowFrame(window, frame) ? window : nullptr;
+    return window && ReadWindowFrame(window, frame) && !frame->bMinimized ? window : nullptr;
 }
 
 int MoveActiveWindow(const ActionCall& call) {

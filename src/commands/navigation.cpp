@@ -85,8 +85,9 @@ static bool ShowsOn(HWND window, const RECT& display) {
 // Without a window the call would tile all there are, those of the shell too.
 int TileView(const ActionCall& call) {
     static HWND tiles[MAX_WINDOWS];
-    RECT active{};
-    const DisplayArea display = GetVisibleRect(call.target, &active) ? DisplayNear(active) : PrimaryDisplay();
+    WindowFrame active{};
+    const bool bOnDisplay = ReadWindowFrame(call.target, &active) && !active.bMinimized;
+    const DisplayArea display = bOnDisplay ? DisplayNear(active.visible) : PrimaryDisplay();
     UINT count = 0;
     for (int i = 0; i < num_windows; ++i)
         if (ShowsOn(WindowTable[i].hwnd, display.rect))

@@ -5,6 +5,7 @@
 #include "dialogs/registry.h"
 #include "regions/region_table.h"
 #include "resources/control_ids.h"
+#include "core/state.h"
 #include "scroll/follow.h"
 #include "scroll/scroll_view.h"
 #include "windows/other_window.h"
@@ -32,7 +33,7 @@ static void GoToWindow(HWND window) {
     if (!IsAlive(window))
         return;
     ActivateWindow(window);
-    CenterOnWindow(window, window);
+    CenterOnWindow(MainWnd, window);
 }
 
 static void OnSelectWindow(HWND dialog) {

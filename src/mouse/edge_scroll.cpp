@@ -9,6 +9,8 @@
 #include "scroll/scroll_view.h"
 #include "windows/window_table.h"
 
+#include <algorithm>
+
 static const UINT_PTR DELAY_TIMER = 2002;
 static const int INSET = 3; // the cursor lands this many borders inside the opposite edge
 
@@ -23,6 +25,7 @@ struct PendingRecord {
     UINT_PTR timer; // 0: nothing waits
     POINT view;     // desktop pixels
     POINT landing;  // screen pixels
+    RECT displays;  // the union of all, in system coordinates: a change of the displays cancels the scroll
 };
 
 } // namespace
@@ -113,6 +116,17 @@ static bool MayJump() {
     return !IsHeld(VK_RSHIFT) && IsHeld(VK_LSHIFT);
 }
 
+// Windows keeps the cursor on the displays. Next to a smaller one it would move the landing to an edge, which
+// scrolls back.
+static POINT KeepOnDisplay(POINT landing, int border) {
+    if (Displays.count < 2)
+        return landing;
+    const RECT display =
+        DisplayNear({landing.x, landing.y, Wrap(1LL + landing.x), Wrap(1LL + landing.y)}).rect;
+    return {std::max(display.left + border, std::min(landing.x, display.right - border)),
+            std::max(display.top + border, std::min(landing.y, display.bottom - border))};
+}
+
 static bool ScrollTo(HWND window, POINT view) {
     return ScrollView(window, view.x, view.y, SV_ABSOLUTE, ACTION_FOLLOW_MOUSE);
 }
@@ -121,8 +135,9 @@ static bool ScrollTo(HWND window, POINT view) {
 // moved to another edge, the view still scrolls in the first direction.
 static void CALLBACK DelayedScrollTimer(HWND window, UINT, UINT_PTR, DWORD) {
     POINT cursor{};
-    if (ReadCursor(&cursor) && IsStillAtEdge(cursor, edge_dir, Options.border, OuterEdges(cursor)) &&
-        !IsFullScreenProgramActive() && ScrollTo(window, PendingScroll.view))
+    if (IsSameRect(PendingScroll.displays, Displays.all) && ReadCursor(&cursor) &&
+        IsStillAtEdge(cursor, edge_dir, Options.border, OuterEdges(cursor)) && !IsFullScreenProgramActive() &&
+        ScrollTo(window, PendingScroll.view))
         MoveCursor(PendingScroll.landing);
     Repaint(window);
     KillTimer(window, PendingScroll.timer);
@@ -133,7 +148,8 @@ static void StartDelayedScroll(HWND window, const EdgeStep& step) {
     if (PendingScroll.timer)
         return;
     const UINT delay = static_cast<UINT>(Options.mousescroll_delay_time);
-    PendingScroll = {SetTimer(window, DELAY_TIMER, delay, DelayedScrollTimer), step.view, step.landing};
+    PendingScroll = {SetTimer(window, DELAY_TIMER, delay, DelayedScrollTimer), step.view, step.landing,
+                     Displays.all};
     if (!PendingScroll.timer)
         MessageBeep(0);
 }
@@ -156,7 +172,8 @@ bool EdgeScroll(HWND window, POINT cursor, EdgeCause cause) {
     if (edge_busy)
         return false;
     edge_busy = true;
-    const EdgeStep step = EdgeStepAt(cursor, Options, VDesk, OuterEdges(cursor));
+    EdgeStep step = EdgeStepAt(cursor, Options, VDesk, OuterEdges(cursor));
+    step.landing = KeepOnDisplay(step.landing, Options.border);
     edge_dir = step.dir;
     if (step.dir && !IsFullScreenProgramActive())
         ScrollAtEdge(window, step, cause);

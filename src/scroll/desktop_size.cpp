@@ -44,8 +44,10 @@ void SetDesktop(const RECT& desktop) {
     FitDesktop();
 }
 
+// A side that does not change keeps the size that the user chose, even if the screen is larger at present.
 void SetDesktopSize(int width, int height) {
-    SetDesktop({Quorl.left, Quorl.top, width, height});
+    SetDesktop({Quorl.left, Quorl.top, width == Quorl.right ? ChosenDesktop.right : width,
+                height == Quorl.bottom ? ChosenDesktop.bottom : height});
 }
 
 void FitDesktop() {

@@ -10,7 +10,7 @@ extern RECT ChosenDesktop;
 // Sets the default desktop: four by two screens, each side at most LARGEST_DESKTOP pixels.
 void ResetDesktop();
 
-// Sets the desktop's width and height as the user chose them, in pixels.
+// Sets the desktop's width and height, in pixels, to what the user chose when Quorl's were shown.
 void SetDesktopSize(int width, int height);
 
 // Sets the desktop to a rectangle from the settings file.

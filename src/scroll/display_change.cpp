@@ -69,10 +69,11 @@ static void CALLBACK DisplaysSettled(HWND window, UINT, UINT_PTR, DWORD) {
         AdoptDisplays(now); // without any display nobody looks
 }
 
-void UseDisplaysAtStart() {
+void UseCurrentDisplays() {
     DisplayLayout now;
     MonitorUnion(&now);
-    UseDisplays(now);
+    if (now.count)
+        UseDisplays(now);
 }
 
 void OnDisplayChange() {

@@ -4,8 +4,9 @@
 
 #include "core/platform.h"
 
-// Measures the displays at start.
-void UseDisplaysAtStart();
+// Measures the displays and uses them at once: at start, and at exit, when Quorl no longer waits for them to
+// settle. Without any display the old ones stay in use.
+void UseCurrentDisplays();
 
 // Measures the displays, and waits for them to settle if others are found than the last time.
 void CheckDisplays();

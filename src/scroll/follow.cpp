@@ -48,7 +48,7 @@ static void ScrollToActive(HWND active, const RECT& rect) {
     if (IsKnownUnmoved(active, rect) || !IsAlive(active))
         return;
     RECT now{};
-    CenterOnWindow(active, active);
+    CenterOnWindow(MainWnd, active);
     const bool bStayed = GetVisibleRect(active, &now) && IsSameRect(now, rect);
     Unmoved = {bStayed ? active : nullptr, rect, Quorl, IsLockedWindow(active)};
 }
@@ -58,7 +58,7 @@ bool FollowActiveWindow() {
         return false;
     const HWND active = GetForegroundWindow();
     WindowFrame frame{};
-    if (active != Unmoved.window)
+    if (active && active != Unmoved.window) // null while the foreground changes
         Unmoved.window = nullptr;
     const bool bLeftBehind = IsLeftBehind(active);
     if (!IsManagedWindow(active, &frame) || frame.bMinimized)

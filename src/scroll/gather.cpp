@@ -98,22 +98,12 @@ static void FoldOne(const FoldRule& rule, const FoldRow row) {
         FoldNormalRect(row.window);
 }
 
-// The displays may have changed since they were last measured, and Quorl no longer waits for them to settle.
-static void UseDisplaysAtExit() {
-    DisplayLayout now;
-    MonitorUnion(&now);
-    if (now.count)
-        UseDisplays(now);
-}
-
 // From the bottom to the top: owners are below the windows that they own.
 void GatherWindows(FoldReason reason) {
     if (bDisplaysChanging && !bQuitting)
         return; // nothing could be moved
     const FoldRule& rule = FoldRules[reason];
     const int fold = ++FoldCount;
-    if (bQuitting)
-        UseDisplaysAtExit();
     RebuildWindowTable();
     const DWORD start = GetTickCount();
     for (int i = ReadFoldRows() - 1; i >= 0 && fold == FoldCount; --i)

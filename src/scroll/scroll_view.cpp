@@ -88,15 +88,22 @@ void ShowView() {
 
 // Windows denies the foreground to a process that did not receive the last input.
 static void TakeForeground() {
-    RECT rect{};
     SetForegroundWindow(MainWnd);
     const HWND active = GetForegroundWindow();
-    LeftBehind.window = active != MainWnd && GetVisibleRect(active, &rect) ? active : nullptr;
-    LeftBehind.corner = DesktopCorner(rect);
+    LeftBehind.window = active != MainWnd ? active : nullptr;
+}
+
+// After the shift, which may have moved the window by a little more or less than the view.
+static void RecordLeftBehind() {
+    RECT rect{};
+    if (GetVisibleRect(LeftBehind.window, &rect))
+        LeftBehind.corner = DesktopCorner(rect);
 }
 
 bool IsLeftBehind(HWND active) {
     RECT rect{};
+    if (!active)
+        return false; // the foreground is changing, perhaps back to the same window
     if (active == LeftBehind.window && GetVisibleRect(active, &rect)) {
         const POINT corner = DesktopCorner(rect);
         if (corner.x == LeftBehind.corner.x && corner.y == LeftBehind.corner.y)
@@ -111,11 +118,15 @@ bool ScrollView(HWND window, int x, int y, ScrollMode mode, int id) {
         return false;
     ShowCount(id);
     const RECT before = VDesk;
-    if (IsOn(ACTION_FOLLOW_ACTIVE) && mode != SV_WINDOW)
-        TakeForeground(); // a window that is activated afterwards would see its open menu closed
+    // A window that is activated afterwards would see its open menu closed.
+    const bool bTakes = IsOn(ACTION_FOLLOW_ACTIVE) && mode != SV_WINDOW;
+    if (bTakes)
+        TakeForeground();
     const ViewStep step = ClampStep(before, ScrollDistance(before, x, y, mode), Quorl, ScreenW(), ScreenH());
     VDesk = step.view;
     ShiftWindows(Wrap(0LL - step.dx), Wrap(0LL - step.dy));
+    if (bTakes)
+        RecordLeftBehind();
     ShowView();
     Repaint(window);
     return before.left != VDesk.left || before.top != VDesk.top;

@@ -98,17 +98,17 @@ static int ReadPositions(POINT by) {
     return num_windows;
 }
 
-// The window may have been hidden or closed since its position was read.
+// The window may have been hidden, minimized or closed since its position was read.
 static void MoveRow(ShiftRow& row) {
-    if (!row.bMoves || !IsWindowVisible(row.window))
+    if (!row.bMoves || !IsWindowVisible(row.window) || IsIconic(row.window))
         return;
     if (IsOn(ACTION_RESTORE_MAXIMIZED) && !RestoreIfZoomed(row.window, &row.frame))
         return;
     if (bQuitting)
         return; // the end of the session interrupted the restore
     const POINT corner = ShiftedCorner(row.frame.visible, row.by.x, row.by.y, VDesk, Quorl, Options.border);
-    PingMoveAndShow(row.window, row.frame, corner);
-    Requests[num_requests++] = {row.window, corner};
+    if (PingMoveAndShow(row.window, row.frame, corner))
+        Requests[num_requests++] = {row.window, corner};
 }
 
 static void ScrollRow(ShiftRow& row) {

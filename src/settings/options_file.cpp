@@ -8,6 +8,7 @@
 #include "scroll/desktop_size.h"
 #include "settings/ini.h"
 #include "toolwin/placement.h"
+#include "windows/other_window.h"
 
 #include <algorithm>
 #include <climits>
@@ -97,12 +98,17 @@ static void ReadMapRect(LPCSTR file) {
     MoveWindow(MainWnd, moved.left, moved.top, Width(moved), Height(moved), TRUE);
 }
 
-// With the invisible frame, which a window that is not shown yet does not have when it is read again. If the
+// With the invisible frame, which a window that is not shown yet does not have when it is read again. Only
+// the frame may be to the left of the screen: a start ignores such a position, so it is corrected. If the
 // rectangle cannot be read, the stored one stays.
 static void WriteMapRect(LPCSTR file) {
     RECT rect{};
-    if (GetWindowRect(MainWnd, &rect))
-        WriteRect(file, MapKeys, FromSystem(rect));
+    WindowFrame frame{};
+    if (!GetWindowRect(MainWnd, &rect) || !ReadWindowFrame(MainWnd, &frame))
+        return;
+    rect = FromSystem(rect);
+    const int correction = frame.visible.left > 0 && rect.left <= 0 ? 1 - rect.left : 0;
+    WriteRect(file, MapKeys, Offset(rect, correction, 0));
 }
 
 static void ReadMenu(LPCSTR file) {

@@ -71,6 +71,6 @@ int ResizeToolwin(const ActionCall& call) {
 int ToggleToolwin(const ActionCall&) {
     int& bShown = ActionTable[ACTION_SHOW_TOOLWIN].value;
     bShown = !bShown;
-    ShowWindow(MainWnd, bShown ? SW_SHOW : SW_HIDE);
+    ShowWindow(MainWnd, bShown ? SW_SHOWNA : SW_HIDE);
     return 1;
 }

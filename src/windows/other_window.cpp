@@ -167,9 +167,11 @@ MoveResult PingAndMove(HWND window, const WindowFrame& frame, POINT corner, UINT
     return MOVED;
 }
 
-void PingMoveAndShow(HWND window, const WindowFrame& frame, POINT corner) {
-    if (PingAndMove(window, frame, corner, SCROLL_TIMEOUT) == MOVED)
-        ShowWindow(window, SW_SHOWNA);
+bool PingMoveAndShow(HWND window, const WindowFrame& frame, POINT corner) {
+    if (PingAndMove(window, frame, corner, SCROLL_TIMEOUT) != MOVED)
+        return false;
+    ShowWindow(window, SW_SHOWNA);
+    return true;
 }
 
 void MoveIfAlive(HWND window, const WindowFrame& frame, POINT corner) {
@@ -202,7 +204,7 @@ bool RestoreIfZoomed(HWND window, WindowFrame* frame) {
     if (!IsAliveToMove(window))
         return false;
     ShowWindow(window, SW_HIDE);
-    ShowWindow(window, SW_RESTORE);
+    ShowWindow(window, SW_SHOWNOACTIVATE); // unlike SW_RESTORE, leaves the focus where it is
     WindowFrame restored{};
     if (ReadWindowFrame(window, &restored))
         frame->margins = restored.margins; // narrower than those of a maximized window

@@ -38,8 +38,9 @@ enum MoveResult {
 // there. A window that does not respond within `timeout` milliseconds stays where it is.
 MoveResult PingAndMove(HWND window, const WindowFrame& frame, POINT corner, UINT timeout);
 
-// The same within SCROLL_TIMEOUT, and shows the window that has moved, without activating it.
-void PingMoveAndShow(HWND window, const WindowFrame& frame, POINT corner);
+// The same within SCROLL_TIMEOUT, and shows the window that has moved, without activating it. True if it has
+// moved.
+bool PingMoveAndShow(HWND window, const WindowFrame& frame, POINT corner);
 
 // The same with WM_NULL as the ping, so that the window cannot change the position.
 void MoveIfAlive(HWND window, const WindowFrame& frame, POINT corner);

@@ -31,7 +31,10 @@ TEST_F(Focus, StaysWhereItIsAtStartWhileScrollingAndOnTheMap) {
     Wait(2000);
     ShowWindow(other, SW_HIDE);
     Desk.clicksActivate = true;
-    RunAction(ACTION_SCREEN_RIGHT);
+    WindowOf(OpenAndList("maximized", {600, 100, 900, 400})).style |= WS_MAXIMIZE;
+    for (const ActionId id :
+         {ACTION_RESTORE_MAXIMIZED, ACTION_SCREEN_RIGHT, ACTION_SHOW_TOOLWIN, ACTION_SHOW_TOOLWIN})
+        RunAction(id);
     MoveOnMap(10, 10);
     PressOnMap(VK_LBUTTON);
     ReleaseOnMap(VK_LBUTTON);
@@ -43,8 +46,12 @@ TEST_F(Focus, AWindowLeftBehindByAnEdgeScrollIsNotFollowed) {
     ActionTable[ACTION_FOLLOW_ACTIVE].value = 1;
     Desk.foregroundLock = true;
     Wait(200);
+    WindowOf(editor).rect = {-57, 100, 343, 400}; // the scroll moves it onto the desktop as well
     ScrollView(MainWnd, 1920, 0, SV_ABSOLUTE, 0);
-    Wait(500);
+    for (const HWND active : {editor, HWND{}, editor}) {
+        Desk.foreground = active;
+        Wait(200);
+    }
     EXPECT_EQ(ViewCorner(), (POINT{1920, 0}));
     EXPECT_TRUE(Desk.foreground == editor);
     Desk.foreground = other;

@@ -43,6 +43,11 @@ TEST_F(TwoDisplays, OnlyTheOuterEdgesScroll) {
     EXPECT_EQ(AfterMouseAt(500, 2), (POINT{100, 0}));
     EXPECT_EQ(AfterMouseAt(-2558, 500), (POINT{0, 0}));
     EXPECT_EQ(Desk.cursor, (POINT{-2560 + 100 - 15, 500}));
+    Options.mousescroll_type = EDGE_BY_SCREEN;
+    RunAction(ACTION_SCREEN_RIGHT);
+    EXPECT_EQ(AfterMouseAt(-2558, 1120), (POINT{0, 0}));
+    EXPECT_EQ(Desk.cursor, (POINT{1905, 1075}))
+        << "below the primary display Windows would put it on the edge";
 }
 
 TEST_F(TwoDisplays, TheMapLivesOnTheLeftOneAcrossARestart) {
@@ -55,6 +60,11 @@ TEST_F(TwoDisplays, TheMapLivesOnTheLeftOneAcrossARestart) {
     MoveWindow(MainWnd, 500, 500, 200, 100, TRUE);
     RunAction(ACTION_LOAD_SETTINGS);
     EXPECT_EQ(RectOf(MainWnd), map);
+    MoveWindow(MainWnd, -2564, 300, 200, 100, TRUE);
+    RunAction(ACTION_SAVE_SETTINGS);
+    RunAction(ACTION_LOAD_SETTINGS);
+    EXPECT_EQ(RectOf(MainWnd), Rect(-2559, 300, -2359, 400))
+        << "a start ignores positions left of the screen";
     MoveWindow(MainWnd, 500, 1055, 200, 100, TRUE); // behind the taskbar
     RunAction(ACTION_SAVE_SETTINGS);
     RunAction(ACTION_LOAD_SETTINGS);
@@ -158,8 +168,20 @@ TEST_F(DisplayChange, TheMapComesBackAndTheChosenSizeIsSaved) {
     PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0);
     Wait(1500);
     EXPECT_EQ(Quorl, Rect(0, 0, 6000, 1600));
+    RunAction(ACTION_ADD_BOTTOM);
     RunAction(ACTION_SAVE_SETTINGS);
-    EXPECT_NE(Desk.files["quorl.ini"].find("Quorl.right=5000\r\nQuorl.bottom=1500"), std::string::npos);
+    EXPECT_NE(Desk.files["quorl.ini"].find("Quorl.right=5000\r\nQuorl.bottom=3200"), std::string::npos);
+}
+
+TEST_F(DisplayChange, CancelsADelayedEdgeScroll) {
+    ActionTable[ACTION_FOLLOW_MOUSE].value = 1;
+    Options.mousescroll_delay = EDGE_AFTER_DELAY;
+    Options.mousescroll_delay_time = 3000;
+    for (int move = 0; move < 2; ++move) // the first one never scrolls
+        AfterMouseAt(1919, 500);
+    ChangeDisplays({Primary});
+    Wait(4000);
+    EXPECT_EQ(VDesk.left, 2560);
 }
 
 // Nobody moved these windows by hand, so they end where they started.

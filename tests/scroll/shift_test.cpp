@@ -52,3 +52,16 @@ TEST_F(Shift, WaitsOnceForEachWindowThatDoesNotAnswer) {
         EXPECT_EQ(IsZoomed(other), !bOn);
     }
 }
+
+// While the window below it handles its ping.
+TEST_F(Shift, LeavesAWindowThatIsMinimizedMeanwhile) {
+    WindowOf(editor).duringMessage = [this] { ShowWindow(other, SW_MINIMIZE); };
+    const RECT normal = RectOf(other);
+    ShiftWindows(30, 0);
+    const RECT minimized = RectOf(other);
+    Desk.foreground = other;
+    RunAction(ACTION_ACTIVE_RIGHT_MIN);
+    EXPECT_EQ(RectOf(other), minimized);
+    EXPECT_EQ(WindowOf(other).normalRect, normal);
+    EXPECT_TRUE(WindowOf(other).received.empty());
+}

@@ -15,19 +15,43 @@ static const DWORD START_TIMEOUT = 2000; // milliseconds for the thread to start
 // hung has removed a move posted this long ago.
 static const DWORD MOVE_TIMEOUT = 6000;
 
+// At most one move per interval is posted, in milliseconds, for which the steps of GetTickCount, 16 of them,
+// are fine enough. Posted messages come before input: moves without a limit would keep the map's own mouse
+// messages waiting.
+static const DWORD MOVE_INTERVAL = 10;
+
+static const DWORD MAX_SILENCE = 3000; // milliseconds without a hook call, until the cursor is checked
+
+namespace {
+
+struct Hooks {
+    HHOOK queue; // on the map's queue
+    HHOOK mouse;
+};
+
+} // namespace
+
 static HWND MainWindow;
 static HMODULE Self;   // the watcher's own reference: keeps its code loaded while it runs
 static HANDLE Watcher; // the thread; null if it was not started, or ended by SetMouseHook(0)
 static HANDLE Started; // event: the hooks are set
 static HANDLE Stop;    // event: the thread must end
+static HANDLE Renew;   // event: the mouse hook must be installed again
+
+// On the watcher's thread:
+static POINT LastPosition; // of the mouse, in the last hook call
+static DWORD LastMove;     // when a move was posted last
+static bool bMoveWaits;    // a move is to be posted when MOVE_INTERVAL is over
 
 static volatile LONG MoveQueued; // when the move in the map's queue was posted; 0 if there is none
 
 // Called before the cursor moves, so GetCursorPos would return the old position. Queue the event to this
 // thread and forward it from its loop.
 static LRESULT CALLBACK OnMouse(int code, WPARAM message, LPARAM details) {
-    if (code == HC_ACTION)
+    if (code == HC_ACTION) {
+        LastPosition = reinterpret_cast<const MSLLHOOKSTRUCT*>(details)->pt;
         PostThreadMessageA(GetCurrentThreadId(), HOOK_EVENT, message, 0);
+    }
     return CallNextHookEx(nullptr, code, message, details);
 }
 
@@ -57,10 +81,19 @@ static bool HasMissedRemoval(HWND window) {
            !IsHungAppWindow(window);
 }
 
-static void ForwardMove(HWND window) {
-    if (InterlockedCompareExchange(&MoveQueued, Now(), 0) == 0 &&
-        !PostMessageA(window, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0))
+// Not needed if one is queued: the map reads the cursor's position when it handles it.
+static void PostMove(HWND window) {
+    if (InterlockedCompareExchange(&MoveQueued, Now(), 0) != 0)
+        return;
+    if (!PostMessageA(window, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0))
         InterlockedExchange(&MoveQueued, 0);
+    LastMove = GetTickCount();
+}
+
+static void ForwardMove(HWND window) {
+    bMoveWaits = GetTickCount() - LastMove < MOVE_INTERVAL;
+    if (!bMoveWaits)
+        PostMove(window);
 }
 
 // False if the window is gone.
@@ -80,28 +113,80 @@ static bool ForwardAll(HWND window) {
     return true;
 }
 
-static void WatchUntilStopped(HWND window, HHOOK* queue) {
-    while (MsgWaitForMultipleObjects(1, &Stop, FALSE, INFINITE, QS_ALLINPUT) == WAIT_OBJECT_0 + 1) {
-        if (HasMissedRemoval(window)) {
-            UnhookWindowsHookEx(*queue);
-            *queue = HookQueueOf(window);
-            InterlockedExchange(&MoveQueued, 0);
+static HHOOK HookMouse() {
+    return SetWindowsHookExA(WH_MOUSE_LL, OnMouse, Self, 0);
+}
+
+// Hooks are called while this thread looks for messages. It does not in between, so no click is reported
+// twice.
+static void RenewMouseHook(Hooks& hooks) {
+    const HHOOK renewed = HookMouse();
+    if (!renewed)
+        return;
+    UnhookWindowsHookEx(hooks.mouse);
+    hooks.mouse = renewed;
+}
+
+// Windows silently removes a low-level hook that once did not return in time, for example after sleep or
+// paging. The only sign is a cursor that moves without a hook call.
+static void RenewIfRemoved(Hooks& hooks) {
+    POINT at;
+    if (!GetCursorPos(&at) || (at.x == LastPosition.x && at.y == LastPosition.y))
+        return;
+    LastPosition = at;
+    RenewMouseHook(hooks);
+}
+
+static void RenewQueueHook(HWND window, Hooks& hooks) {
+    UnhookWindowsHookEx(hooks.queue);
+    hooks.queue = HookQueueOf(window);
+    InterlockedExchange(&MoveQueued, 0);
+}
+
+// False if the window is gone.
+static bool OnMessages(HWND window, Hooks& hooks) {
+    if (HasMissedRemoval(window))
+        RenewQueueHook(window, hooks);
+    return ForwardAll(window);
+}
+
+static void OnTimeout(HWND window, Hooks& hooks) {
+    if (bMoveWaits)
+        ForwardMove(window);
+    else
+        RenewIfRemoved(hooks);
+}
+
+static DWORD WaitForEvents() {
+    const HANDLE events[] = {Stop, Renew};
+    const DWORD timeout = bMoveWaits ? MOVE_INTERVAL : MAX_SILENCE;
+    return MsgWaitForMultipleObjects(2, events, FALSE, timeout, QS_ALLINPUT);
+}
+
+static void WatchUntilStopped(HWND window, Hooks& hooks) {
+    for (;;)
+        switch (WaitForEvents()) {
+        case WAIT_OBJECT_0 + 1: RenewMouseHook(hooks); break;
+        case WAIT_OBJECT_0 + 2:
+            if (!OnMessages(window, hooks))
+                return;
+            break;
+        case WAIT_TIMEOUT: OnTimeout(window, hooks); break;
+        default: return;
         }
-        if (!ForwardAll(window))
-            return;
-    }
 }
 
 // Windows removes the hooks itself when the thread that installed them ends.
 static void Watch(HWND window) {
-    HHOOK queue = HookQueueOf(window);
-    const HHOOK mouse = SetWindowsHookExA(WH_MOUSE_LL, OnMouse, Self, 0);
+    Hooks hooks = {HookQueueOf(window), HookMouse()};
+    bMoveWaits = false;
+    GetCursorPos(&LastPosition);
     ForwardAll(window); // Wine calls a hook only after its thread has looked for messages
     SetEvent(Started);
-    if (queue && mouse)
-        WatchUntilStopped(window, &queue);
-    UnhookWindowsHookEx(mouse);
-    UnhookWindowsHookEx(queue);
+    if (hooks.queue && hooks.mouse)
+        WatchUntilStopped(window, hooks);
+    UnhookWindowsHookEx(hooks.mouse);
+    UnhookWindowsHookEx(hooks.queue);
 }
 
 static DWORD WINAPI WatcherMain(void* window) {
@@ -124,6 +209,7 @@ static void ReleaseWatcher() {
     CloseAndClear(Watcher);
     CloseAndClear(Started);
     CloseAndClear(Stop);
+    CloseAndClear(Renew);
     if (Self)
         FreeLibrary(Self); // not the last reference: the caller has its own
     Self = nullptr;
@@ -147,14 +233,21 @@ static void DropWaitingMoves(HWND window) {
     if (!PostMessageA(window, HOOK_MOUSE_MESSAGE, END_MARK, 0))
         return;
     while (PeekMessageA(&queued, window, HOOK_MOUSE_MESSAGE, HOOK_MOUSE_MESSAGE, PM_REMOVE) &&
-           queued.wParam != END_MARK)
+           !(queued.message == HOOK_MOUSE_MESSAGE && queued.wParam == END_MARK)) {
+        if (queued.message == WM_QUIT) { // returned whatever the filter
+            PostQuitMessage(static_cast<int>(queued.wParam));
+            return;
+        }
         if (queued.wParam != WM_MOUSEMOVE)
             PostMessageA(window, HOOK_MOUSE_MESSAGE, queued.wParam, queued.lParam);
+    }
 }
 
 static void BeginWatching() {
-    if (!HasEnded(0))
+    if (!HasEnded(0)) {
+        SetEvent(Renew);
         return;
+    }
     ReleaseWatcher(); // a thread that ended by itself
     if (!IsWindow(MainWindow))
         return;
@@ -162,6 +255,7 @@ static void BeginWatching() {
     MoveQueued = 0;
     Started = CreateEventA(nullptr, TRUE, FALSE, nullptr);
     Stop = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+    Renew = CreateEventA(nullptr, FALSE, FALSE, nullptr);
     StartWatcher();
 }
 

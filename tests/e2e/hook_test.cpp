@@ -11,11 +11,14 @@ constexpr UINT HOOK_MESSAGE = 1124;
 constexpr POINT TARGET = {300, 300}; // over the window
 
 std::vector<WPARAM> Reported; // by the library, in order
+std::vector<LONG> MoveTimes;  // when they were posted
 int Pressed;                  // presses that reached the window itself
 
 LRESULT CALLBACK TargetWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == HOOK_MESSAGE)
         Reported.push_back(wParam);
+    if (message == HOOK_MESSAGE && wParam == WM_MOUSEMOVE)
+        MoveTimes.push_back(GetMessageTime());
     Pressed += message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK;
     return DefWindowProcA(window, message, wParam, lParam);
 }
@@ -136,6 +139,35 @@ TEST_F(HookLibrary, QueuesOneMoveAndEveryClickForABusyWindow) {
     EXPECT_EQ(Pressed, TIMES) << "no input is withheld";
     MoveBy(50);
     EXPECT_EVENTUALLY(CountOf(WM_MOUSEMOVE), 2);
+}
+
+TEST_F(HookLibrary, PostsMovesTenMillisecondsApartAndAlwaysTheLast) {
+    for (int i = 0; i < 50; ++i) {
+        const int before = CountOf(WM_MOUSEMOVE);
+        MoveBy(2 * i);
+        while (CountOf(WM_MOUSEMOVE) == before)
+            YieldProcessor();
+        MoveBy(2 * i + 1);
+        ASSERT_TRUE(Eventually([&] { return CountOf(WM_MOUSEMOVE) > before + 1; }, true)) << i;
+    }
+    for (std::size_t i = 1; i < MoveTimes.size(); ++i)
+        EXPECT_GE(MoveTimes[i] - MoveTimes[i - 1], 10);
+}
+
+// A removed hook cannot be told from one that another program's hook keeps from being called, until it is
+// installed again: then it is the first to be called.
+TEST_F(HookLibrary, IsInstalledAgainOnRequestAndWhenTheMouseMovesUnseen) {
+    for (const bool requested : {true, false}) {
+        const HHOOK hiding = SetWindowsHookExA(WH_MOUSE_LL, HideMessage, GetModuleHandleA(nullptr), 0);
+        ExpectReportsOfAClick(0);
+        if (requested)
+            SetMouseHook(1);
+        else
+            MoveMouse(TARGET.x + 40, TARGET.y);
+        Sleep(requested ? 200 : 3500);
+        ExpectReportsOfAClick(1);
+        UnhookWindowsHookEx(hiding);
+    }
 }
 
 TEST_F(HookLibrary, QueuesOneMoveAcrossRestarts) {

@@ -1,7 +1,7 @@
 # Installing packages, building and cleaning up, for ./run, ./test and ./fuzz. Source it in the root of the clone.
 
 BUILD_PACKAGES=(git cmake ninja-build g++ libgtest-dev googletest libbenchmark-dev
-    g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
+    g++-mingw-w64-i686-win32 g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
 CHECK_PACKAGES=(clang-tidy clang-format binutils python3)
 FUZZ_PACKAGES=(clang libclang-rt-14-dev)
 WINE_PACKAGES=(wine wine64 fonts-wine fonts-liberation xvfb xserver-xephyr x11-utils

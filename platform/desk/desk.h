@@ -294,6 +294,10 @@ struct DeskState {
     std::wstring programPath = L"C:\\Program Files\\Quorl\\quorl.exe"; // GetModuleFileNameW
     std::map<std::wstring, std::wstring> shortPaths; // GetShortPathNameW; others stay as they are
     std::set<std::string> protectedFiles;            // read-only ones
+    std::set<std::string> ownRights; // files with other access rights than those of their folder
+    std::set<std::string>
+        openFiles; // here or in another program, which shares reading and writing, not deleting
+    DWORD processId = 0x1234;
 
     std::deque<int> boxAnswers; // to the next message boxes
     std::vector<DeskBox> boxes;

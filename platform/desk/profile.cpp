@@ -166,8 +166,12 @@ static void PutLine(Section* section, const std::string& lowerKey, const Line& l
 }
 
 BOOL WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file) {
-    if (CallFails("WritePrivateProfileStringA") || Desk.protectedFiles.contains(FileKey(file)))
+    if (CallFails("WritePrivateProfileStringA"))
         return FALSE;
+    if (Desk.protectedFiles.contains(FileKey(file))) {
+        SetLastError(ERROR_ACCESS_DENIED);
+        return FALSE;
+    }
     std::string& content = Desk.files[FileKey(file)];
     const std::string lowerKey = LowerCase(key);
     const Section& stored = SectionOf(content, section);

@@ -10,7 +10,7 @@
 static const int KEY_SIZE = 32;
 static const char DELIMITERS[] = {DELIMITER, 0};
 
-bool bWriteFailed;
+bool bDiskFull;
 
 const char* FirstField(const char* line) {
     return line + std::strspn(line, DELIMITERS);
@@ -58,8 +58,10 @@ int ReadIniText(LPCSTR file, LPCSTR key, char* text, int size) {
 }
 
 void WriteIniText(LPCSTR file, LPCSTR key, LPCSTR text) {
-    if (!WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file))
-        bWriteFailed = true;
+    if (WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file))
+        return;
+    const DWORD error = GetLastError();
+    bDiskFull |= error == ERROR_DISK_FULL || error == ERROR_HANDLE_DISK_FULL;
 }
 
 int ReadIniLine(LPCSTR file, LPCSTR format, int index, char (&line)[LINE_SIZE]) {

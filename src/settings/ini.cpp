@@ -1,6 +1,8 @@
 // The settings file as keys and values.
 #include "settings/ini.h"
 
+#include "core/letters.h"
+
 #include <algorithm>
 #include <climits>
 #include <cstdio>
@@ -17,7 +19,11 @@ const char* FirstField(const char* line) {
 }
 
 std::size_t FieldLength(const char* field) {
-    return std::strcspn(field, DELIMITERS);
+    const std::size_t end = std::strlen(field);
+    std::size_t length = 0;
+    while (length < end && field[length] != DELIMITER)
+        length += LetterSize(field[length]);
+    return std::min(length, end);
 }
 
 // Pure: the field after this one; an empty text at the end.

@@ -35,7 +35,7 @@ int ReadIniLine(LPCSTR file, LPCSTR format, int index, char (&line)[LINE_SIZE]);
 void WriteIniLine(LPCSTR file, LPCSTR format, int index, LPCSTR line);
 
 // Pure: the first field of a line; an empty text if there is none. Consecutive delimiters count as one and
-// leading ones are skipped, so no field is empty.
+// leading ones are skipped, so no field is empty. The second byte of a letter is not a delimiter.
 const char* FirstField(const char* line);
 std::size_t FieldLength(const char* field);
 

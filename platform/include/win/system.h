@@ -101,6 +101,7 @@ BOOL WINAPI WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, 
 constexpr int MAX_PATH = 260;
 constexpr UINT CP_ACP = 0;
 constexpr DWORD WC_NO_BEST_FIT_CHARS = 0x400;
+BOOL WINAPI IsDBCSLeadByte(BYTE first);
 DWORD WINAPI GetShortPathNameW(LPCWSTR path, LPWSTR shortPath, DWORD size);
 int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR from, int length, LPSTR to, int limit,
                                LPCSTR defaultChar, BOOL* usedDefault);

@@ -294,7 +294,12 @@ struct DeskState {
         files; // text by lower-case name in the Windows folder, else by full path
     std::wstring programPath = L"C:\\Program Files\\Quorl\\quorl.exe"; // GetModuleFileNameW
     std::map<std::wstring, std::wstring> shortPaths; // GetShortPathNameW; others stay as they are
+    UINT codePage = 1252;                            // 932, 936, 949 and 950 have letters of two bytes
     std::set<std::string> protectedFiles;            // read-only ones
+    std::set<std::string> ownRights; // files with other access rights than those of their folder
+    std::set<std::string>
+        openFiles; // here or in another program, which shares reading and writing, not deleting
+    DWORD processId = 0x1234;
 
     std::deque<int> boxAnswers; // to the next message boxes
     std::vector<DeskBox> boxes;

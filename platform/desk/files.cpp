@@ -24,9 +24,11 @@ static bool IsProtected(const std::string& name) {
     return Desk.protectedFiles.contains(name);
 }
 
-BOOL CopyFileA(LPCSTR from, LPCSTR to, BOOL) {
-    if (CallFails("CopyFileA"))
-        return FALSE;
+static bool IsOpen(const std::string& name) {
+    return Desk.openFiles.contains(name);
+}
+
+static BOOL Copy(LPCSTR from, LPCSTR to) {
     const auto file = Desk.files.find(FileKey(from));
     if (file == Desk.files.end())
         return FailWith(ERROR_FILE_NOT_FOUND);
@@ -39,12 +41,43 @@ BOOL CopyFileA(LPCSTR from, LPCSTR to, BOOL) {
     return TRUE;
 }
 
-// The read-only attribute moves along with the file. A read-only target is not replaced.
+static BOOL Remove(LPCSTR file) {
+    Desk.protectedFiles.erase(FileKey(file));
+    Desk.files.erase(FileKey(file));
+    return TRUE;
+}
+
+BOOL CopyFileA(LPCSTR from, LPCSTR to, BOOL) {
+    return !CallFails("CopyFileA") && Copy(from, to);
+}
+
+// Attributes and rights move along with the file. A read-only target is not replaced.
 BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD) {
-    if (CallFails("MoveFileExA") || !CopyFileA(from, to, FALSE))
+    if (CallFails("MoveFileExA"))
         return FALSE;
-    Desk.protectedFiles.erase(FileKey(from));
-    return DeleteFileA(from);
+    if (IsOpen(FileKey(from)))
+        return FailWith(ERROR_SHARING_VIOLATION);
+    if (IsOpen(FileKey(to)))
+        return FailWith(ERROR_ACCESS_DENIED);
+    if (!Copy(from, to))
+        return FALSE;
+    Desk.ownRights.erase(FileKey(to));
+    return Remove(from);
+}
+
+BOOL ReplaceFileA(LPCSTR replaced, LPCSTR replacement, LPCSTR, DWORD, LPVOID, LPVOID) {
+    if (CallFails("ReplaceFileA"))
+        return FALSE;
+    const std::string to = FileKey(replaced);
+    const auto from = Desk.files.find(FileKey(replacement));
+    if (from == Desk.files.end() || !Desk.files.contains(to))
+        return FailWith(ERROR_FILE_NOT_FOUND);
+    if (IsProtected(to))
+        return FailWith(ERROR_ACCESS_DENIED);
+    if (IsOpen(to) || IsOpen(from->first))
+        return FailWith(ERROR_SHARING_VIOLATION);
+    Desk.files[to] = from->second;
+    return Remove(replacement);
 }
 
 BOOL DeleteFileA(LPCSTR file) {
@@ -54,8 +87,9 @@ BOOL DeleteFileA(LPCSTR file) {
         return FailWith(ERROR_FILE_NOT_FOUND);
     if (IsProtected(FileKey(file)))
         return FailWith(ERROR_ACCESS_DENIED);
-    Desk.files.erase(FileKey(file));
-    return TRUE;
+    if (IsOpen(FileKey(file)))
+        return FailWith(ERROR_SHARING_VIOLATION);
+    return Remove(file);
 }
 
 BOOL SetFileAttributesA(LPCSTR file, DWORD attributes) {
@@ -77,4 +111,28 @@ DWORD GetFileAttributesA(LPCSTR file) {
         return INVALID_FILE_ATTRIBUTES;
     }
     return IsProtected(key) ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL;
+}
+
+// The handle is the address of the open file's name.
+HANDLE CreateFileA(LPCSTR file, DWORD, DWORD, SECURITY_ATTRIBUTES*, DWORD, DWORD, HANDLE) {
+    const std::string key = FileKey(file);
+    if (CallFails("CreateFileA"))
+        return INVALID_HANDLE_VALUE;
+    if (!Desk.files.contains(key)) {
+        SetLastError(ERROR_FILE_NOT_FOUND);
+        return INVALID_HANDLE_VALUE;
+    }
+    return const_cast<std::string*>(&*Desk.openFiles.insert(key).first);
+}
+
+BOOL FlushFileBuffers(HANDLE) {
+    return !CallFails("FlushFileBuffers");
+}
+
+BOOL CloseHandle(HANDLE handle) {
+    return !CallFails("CloseHandle") && Desk.openFiles.erase(*static_cast<std::string*>(handle)) == 1;
+}
+
+DWORD GetCurrentProcessId() {
+    return Desk.processId;
 }

@@ -247,8 +247,7 @@ LRESULT DefaultProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE: DestroyTree(window); return 0;
     case WM_PAINT: record->needsPaint = record->needsErase = false; return 0;
     case WM_SETTEXT: record->title = TextFrom(lParam); return TRUE;
-    case WM_GETTEXT:
-        return CopyText(record->title, reinterpret_cast<LPSTR>(lParam), static_cast<int>(wParam));
+    case WM_GETTEXT: return TextTo(record->title, lParam, wParam);
     case WM_GETTEXTLENGTH: return static_cast<LRESULT>(ToWide(record->title).size());
     default: return 0;
     }

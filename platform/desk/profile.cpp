@@ -165,9 +165,29 @@ static void PutLine(Section* section, const std::string& lowerKey, const Line& l
     section->entries[lowerKey] = LineAt(section->text, line.start);
 }
 
+// Text is converted to Unicode on its way to the file: two bytes that are no letter become another character,
+// and half a letter at the end is dropped.
+static std::string WithoutHalfLetters(std::string text) {
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (!IsDBCSLeadByte(static_cast<BYTE>(text[at])))
+            continue;
+        const bool isLast = at + 1 == text.size();
+        if (isLast || static_cast<BYTE>(text[at + 1]) < 0x40)
+            text.replace(at, 2, isLast ? "" : "?");
+        else
+            ++at;
+    }
+    return text;
+}
+
 BOOL WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file) {
-    if (CallFails("WritePrivateProfileStringA") || Desk.protectedFiles.contains(FileKey(file)))
+    if (CallFails("WritePrivateProfileStringA"))
         return FALSE;
+    if (Desk.protectedFiles.contains(FileKey(file))) {
+        SetLastError(ERROR_ACCESS_DENIED);
+        return FALSE;
+    }
+    const std::string value = WithoutHalfLetters(text);
     std::string& content = Desk.files[FileKey(file)];
     const std::string lowerKey = LowerCase(key);
     const Section& stored = SectionOf(content, section);
@@ -178,7 +198,7 @@ BOOL WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR 
         content += "[" + std::string(section) + "]\r\n";
     Section& extended = SectionOf(content, section);
     const Line target = isNew ? Line{extended.end, extended.end} : extended.entries[lowerKey];
-    const std::string line = std::string(key) + "=" + text + (isNew ? "\r\n" : "");
+    const std::string line = std::string(key) + "=" + value + (isNew ? "\r\n" : "");
     content.replace(target.start, target.end - target.start, line);
     PutLine(&extended, lowerKey, target, line);
     return TRUE;

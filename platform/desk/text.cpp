@@ -183,7 +183,17 @@ DWORD GetShortPathNameW(LPCWSTR path, LPWSTR shortPath, DWORD size) {
         CopyWide(found == Desk.shortPaths.end() ? path : found->second, shortPath, static_cast<int>(size)));
 }
 
-// Only the ANSI code page and texts that end in 0.
+BOOL IsDBCSLeadByte(BYTE first) {
+    switch (Desk.codePage) {
+    case 932: return (first >= 0x81 && first <= 0x9F) || (first >= 0xE0 && first <= 0xFC);
+    case 936:
+    case 949:
+    case 950: return first >= 0x81 && first <= 0xFE;
+    default: return FALSE;
+    }
+}
+
+// Only Latin-1 and texts that end in 0.
 int WideCharToMultiByte(UINT, DWORD, LPCWSTR from, int, LPSTR to, int limit, LPCSTR, BOOL* usedDefault) {
     if (CallFails("WideCharToMultiByte"))
         return 0;

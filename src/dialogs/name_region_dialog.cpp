@@ -1,5 +1,6 @@
 #include "dialogs/name_region_dialog.h"
 
+#include "core/letters.h"
 #include "core/rect.h"
 #include "core/state.h"
 #include "dialogs/registry.h"
@@ -90,7 +91,9 @@ static void OnAccept(HWND dialog) {
                      Wrap(0LL + VDesk.left + ScreenW()),
                      Wrap(0LL + VDesk.top + ScreenH()),
                      RegionColor};
-    if (!GetDlgItemTextA(dialog, IDC_REGION_NAME, region.name, NAME_SIZE)) {
+    GetDlgItemTextA(dialog, IDC_REGION_NAME, region.name, NAME_SIZE + 1); // may end within a letter
+    region.name[WholeLetters(region.name, NAME_SIZE - 1)] = 0;
+    if (!region.name[0]) {
         MessageBoxA(dialog, "That's an invalid name, see.", "Fix name", MB_OK);
         return;
     }

@@ -1,6 +1,7 @@
 #include "mouse/map_hover.h"
 
 #include "actions/dispatch.h"
+#include "core/letters.h"
 #include "mouse/drag_window.h"
 #include "mouse/map_buttons.h"
 #include "regions/region_table.h"
@@ -56,10 +57,13 @@ static void DescribePoint(ActionPoint map) {
         return;
     }
     const int region = FindRegionAt(desktop.x, desktop.y);
-    if (region >= 0)
-        ShowTip("Region %d: %.32s [%d, %d]", region, RegionTable[region].name, desktop.x, desktop.y);
-    else
+    if (region >= 0) {
+        const char* const name = RegionTable[region].name;
+        const int length = static_cast<int>(WholeLetters(name, 32));
+        ShowTip("Region %d: %.*s [%d, %d]", region, length, name, desktop.x, desktop.y);
+    } else {
         ShowTip("Quorl: %d, %d", desktop.x, desktop.y);
+    }
 }
 
 // The action that opens the menu does not replace the description.

@@ -37,3 +37,8 @@ void SaveActions(LPCSTR file) {
         WriteIniLine(file, LINE_KEY, id, line);
     }
 }
+
+bool HasLastAction(LPCSTR file) {
+    char line[LINE_SIZE];
+    return ReadIniLine(file, LINE_KEY, NUM_ACTIONS - 1, line) > 0;
+}

@@ -13,3 +13,6 @@ void ReadActions(LPCSTR file, bool (&bStored)[NUM_ACTIONS]);
 
 // Writes a line for each action.
 void SaveActions(LPCSTR file);
+
+// Whether the file contains the last line that SaveActions writes.
+bool HasLastAction(LPCSTR file);

@@ -3,7 +3,8 @@
 
 #include "core/platform.h"
 
-// Runs `save` on a copy of the file, then replaces the file with the copy, so that a crash or a full disk
-// damages nothing. If a write to the copy fails, the file stays as it is. If the copy cannot be made, or
-// cannot replace the file, runs `save` on the file itself.
-void SaveAtomically(LPCSTR file, void (*save)(LPCSTR file));
+// Runs `save` on a copy of the file, then replaces the file with the copy, unless the disk is full or
+// `isComplete` rejects what was written. If anything fails, the file stays as it is and the copy is deleted.
+// Only if access to the folder is denied, so that it cannot take a copy, runs `save` on the file itself. A
+// read-only file is not changed.
+void SaveAtomically(LPCSTR file, void (*save)(LPCSTR file), bool (*isComplete)(LPCSTR file));

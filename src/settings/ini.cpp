@@ -1,6 +1,8 @@
 // The settings file as keys and values.
 #include "settings/ini.h"
 
+#include "core/letters.h"
+
 #include <algorithm>
 #include <climits>
 #include <cstdio>
@@ -10,14 +12,18 @@
 static const int KEY_SIZE = 32;
 static const char DELIMITERS[] = {DELIMITER, 0};
 
-bool bWriteFailed;
+bool bDiskFull;
 
 const char* FirstField(const char* line) {
     return line + std::strspn(line, DELIMITERS);
 }
 
 std::size_t FieldLength(const char* field) {
-    return std::strcspn(field, DELIMITERS);
+    const std::size_t end = std::strlen(field);
+    std::size_t length = 0;
+    while (length < end && field[length] != DELIMITER)
+        length += LetterSize(field[length]);
+    return std::min(length, end);
 }
 
 // Pure: the field after this one; an empty text at the end.
@@ -58,8 +64,10 @@ int ReadIniText(LPCSTR file, LPCSTR key, char* text, int size) {
 }
 
 void WriteIniText(LPCSTR file, LPCSTR key, LPCSTR text) {
-    if (!WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file))
-        bWriteFailed = true;
+    if (WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file))
+        return;
+    const DWORD error = GetLastError();
+    bDiskFull |= error == ERROR_DISK_FULL || error == ERROR_HANDLE_DISK_FULL;
 }
 
 int ReadIniLine(LPCSTR file, LPCSTR format, int index, char (&line)[LINE_SIZE]) {

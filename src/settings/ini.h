@@ -15,12 +15,13 @@ constexpr char DELIMITER = '|';
 // Bytes of the line of an action or a region, the terminator included. A longer value is cut.
 constexpr int LINE_SIZE = 64;
 
-extern bool bWriteFailed; // set by a failed write, which leaves the stored value unchanged
+extern bool bDiskFull; // set by a write that failed for lack of space
 
 // Stores the number in `target`, if that is not null, and returns it. Returns -1 and leaves `target`
 // unchanged if the key is absent or negative. A value that is not a number counts as 0.
 int ReadIniInt(LPCSTR file, LPCSTR key, int* target);
 
+// A failed write leaves the stored value unchanged.
 void WriteIniInt(LPCSTR file, LPCSTR key, int number);
 
 // Reads a value into `text`, at most `size` bytes with the terminator. The number of characters; 0 if the key
@@ -34,7 +35,7 @@ int ReadIniLine(LPCSTR file, LPCSTR format, int index, char (&line)[LINE_SIZE]);
 void WriteIniLine(LPCSTR file, LPCSTR format, int index, LPCSTR line);
 
 // Pure: the first field of a line; an empty text if there is none. Consecutive delimiters count as one and
-// leading ones are skipped, so no field is empty.
+// leading ones are skipped, so no field is empty. The second byte of a letter is not a delimiter.
 const char* FirstField(const char* line);
 std::size_t FieldLength(const char* field);
 

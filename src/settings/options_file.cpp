@@ -152,3 +152,7 @@ void SaveOptions(LPCSTR file) {
     WriteMapRect(file);
     WriteMenu(file);
 }
+
+bool HasFirstOption(LPCSTR file) {
+    return ReadIniInt(file, OptionDefs[0].key, nullptr) >= 0;
+}

@@ -11,3 +11,6 @@ void LoadOptions(LPCSTR file);
 // Writes them, each with one call; a failed one leaves the stored value unchanged. A menu too long for its
 // value loses its end, in the list as well.
 void SaveOptions(LPCSTR file);
+
+// Whether the file contains the first value that SaveOptions writes.
+bool HasFirstOption(LPCSTR file);

@@ -1,5 +1,6 @@
 #include "settings/regions_file.h"
 
+#include "core/letters.h"
 #include "core/state.h"
 
 #include <algorithm>
@@ -12,8 +13,11 @@ static const char LINE_KEY[] = "Region%d";
 static const int NUMBERS = 5;           // in a line, after the name
 static const char STORED_DELIMITER = 1; // in the file, a delimiter in a name; it cannot be typed
 
+// Does not replace the second byte of a letter. The text ends with a whole letter.
 static void Replace(char* text, char from, char to) {
-    std::replace(text, text + std::strlen(text), from, to);
+    for (char* letter = text; *letter; letter += LetterSize(*letter))
+        if (*letter == from)
+            *letter = to;
 }
 
 static int FormatNumbers(const RegionRow& row, char* text, std::size_t size) {
@@ -37,7 +41,7 @@ void MakeStorable(RegionRow* row) {
     for (char* letter = row->name; *letter; ++letter)
         if (*letter > 0 && *letter < ' ')
             *letter = ' ';
-    row->name[NameSize(*row) - 1] = 0;
+    row->name[WholeLetters(row->name, static_cast<std::size_t>(NameSize(*row)) - 1)] = 0;
 }
 
 void FormatRegion(const RegionRow& row, char (&line)[WRITTEN_SIZE]) {
@@ -60,7 +64,8 @@ static int ClampEdge(int coordinate) {
 }
 
 static void ReadName(const char* field, RegionRow* row) {
-    const std::size_t length = std::min<std::size_t>(FieldLength(field), REGION_NAME_SIZE - 1);
+    const std::size_t length =
+        WholeLetters(field, std::min<std::size_t>(FieldLength(field), REGION_NAME_SIZE - 1));
     std::memcpy(row->name, field, length);
     row->name[length] = 0;
     Replace(row->name, STORED_DELIMITER, DELIMITER);

@@ -14,7 +14,7 @@ void LoadRegions(LPCSTR file);
 void SaveRegions(LPCSTR file);
 
 // Pure: makes the name one that reads back: control characters become spaces, and the end that would not fit
-// into a line is cut off.
+// into a line is cut off, in whole letters.
 void MakeStorable(RegionRow* region);
 
 constexpr int WRITTEN_SIZE = LINE_SIZE + REGION_NAME_SIZE; // bytes of a written line, quotes included

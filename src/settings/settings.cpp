@@ -35,8 +35,12 @@ static void SaveTo(LPCSTR file) {
     SaveActions(file);
 }
 
+static bool IsComplete(LPCSTR file) {
+    return HasFirstOption(file) && HasLastAction(file);
+}
+
 void SaveSettings() {
-    SaveAtomically(SettingsFile(), SaveTo);
+    SaveAtomically(SettingsFile(), SaveTo, IsComplete);
 }
 
 int SaveSettingsAction(const ActionCall&) {

@@ -5,7 +5,9 @@
 #include <cstring>
 #include <cwchar>
 
-static char PortableFile[MAX_PATH]; // empty: not portable
+static const int PATH_SIZE = MAX_PATH - 8; // the name of the copy for saving is up to 8 bytes longer
+
+static char PortableFile[PATH_SIZE]; // empty: not portable
 
 // The path of quorl.ini in the program's folder. False if the path is too long.
 static bool FindBesideProgram(WCHAR (&path)[MAX_PATH]) {
@@ -20,16 +22,16 @@ static bool FindBesideProgram(WCHAR (&path)[MAX_PATH]) {
     return true;
 }
 
-// False if a character of the path has no form in the ANSI code page.
-static bool ToAnsiPath(const WCHAR* path, char (&ansi)[MAX_PATH]) {
+// False if a character of the path has no form in the ANSI code page, or if the path is too long.
+static bool ToAnsiPath(const WCHAR* path, char (&ansi)[PATH_SIZE]) {
     BOOL bUsedDefault = FALSE;
-    return WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, path, -1, ansi, MAX_PATH, nullptr,
+    return WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, path, -1, ansi, PATH_SIZE, nullptr,
                                &bUsedDefault) &&
            !bUsedDefault;
 }
 
 // The folder may be named in another alphabet; its short name then has a form.
-static bool FindAnsiPath(char (&ansi)[MAX_PATH]) {
+static bool FindAnsiPath(char (&ansi)[PATH_SIZE]) {
     WCHAR path[MAX_PATH];
     if (!FindBesideProgram(path))
         return false;

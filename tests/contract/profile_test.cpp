@@ -75,16 +75,29 @@ TEST_F(Profile, LongValueIsCutAtTheBufferAndNumberAtItsFirstOtherCharacter) {
 TEST_F(Profile, CopyReplacesTheFileAndAReadOnlyOneCannotBeDeleted) {
     const std::string file = PathOf(FILE_NAME);
     const std::string copy = PathOf(COPY_NAME);
-    EXPECT_FALSE(SetFileAttributesA(copy.c_str(), FILE_ATTRIBUTE_NORMAL) ||
-                 CopyFileA(file.c_str(), copy.c_str(), FALSE));
+    const auto replace = [&] {
+        return ReplaceFileA(file.c_str(), copy.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                            nullptr);
+    };
+    const auto rename = [&] {
+        return MoveFileExA(copy.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+    };
+    EXPECT_FALSE(CopyFileA(file.c_str(), copy.c_str(), FALSE));
+    EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
+    EXPECT_FALSE(Write("b", "0", COPY_NAME) && replace());
     EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
     for (const std::string value : {"1", "2"}) {
         const std::string before = Read("b");
         Write("a", value);
         EXPECT_TRUE(CopyFileA(file.c_str(), copy.c_str(), FALSE) && Write("b", value, COPY_NAME));
         EXPECT_EQ(Read("b"), before) << "the file itself is unchanged";
-        EXPECT_TRUE(
-            MoveFileExA(copy.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+        const HANDLE open =
+            CreateFileA((value == "1" ? copy : file).c_str(), GENERIC_WRITE,
+                        FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+        EXPECT_FALSE(replace() || rename()) << "open";
+        EXPECT_TRUE(FlushFileBuffers(open) && CloseHandle(open));
+        EXPECT_TRUE(value == "1" ? rename() : replace());
+        EXPECT_EQ(GetFileAttributesA(copy.c_str()), INVALID_FILE_ATTRIBUTES);
         EXPECT_EQ(Read("a") + Read("b"), value + value);
     }
     EXPECT_TRUE(SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_READONLY));

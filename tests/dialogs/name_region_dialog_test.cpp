@@ -30,11 +30,12 @@ TEST_F(NameRegion, RenamesTheRegionAtTheCurrentView) {
     Open(ACTION_MARK_REGION);
     EXPECT_EQ(Text(IDC_REGION_NAME), "mail");
     EXPECT_EQ(SwatchColor(), COLOR);
-    Type(IDC_REGION_NAME, "a name of more than thirty-one characters");
+    Desk.codePage = 932;
+    Type(IDC_REGION_NAME, "of a letter of two bytes, half\x83| would fit");
     Click(IDOK);
     ASSERT_EQ(num_regions, 2);
     const RegionRow& region = RegionTable[1];
-    EXPECT_STREQ(region.name, "a name of more than thirty-one ");
+    EXPECT_STREQ(region.name, "of a letter of two bytes, half");
     EXPECT_EQ(Rect(region.left, region.top, region.right, region.bottom), Rect(5, 0, 1029, 768));
 }
 

@@ -13,11 +13,12 @@ static void MoveBy(int dx, int dy) {
 
 TEST_F(MapHover, DescribesTheWindowElseTheRegionElseThePoint) {
     OpenAndList("100%n %s%d \u0416\u6f22ll, and so on and so forth", {400, 0, 600, 320});
-    AddRegion("50%s done, 32 characters of name", 0, 0);
+    Desk.codePage = 932;
+    AddRegion("50%s of the last letter would f\x83|", 0, 0); // 31 bytes and a letter of two
     MoveOnMap(30, 10);
     EXPECT_EQ(LastStatus(), "100%n %s%d \u0416\u6f22ll, and so on and : [480, 160]");
     MoveOnMap(50, 30);
-    EXPECT_EQ(LastStatus(), "Region 0: 50%s done, 32 characters of name [800, 480]");
+    EXPECT_EQ(LastStatus(), "Region 0: 50%s of the last letter would f [800, 480]");
     MoveOnMap(200, 80);
     EXPECT_EQ(LastStatus(), "Quorl: 3200, 1280");
 }

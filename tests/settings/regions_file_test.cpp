@@ -7,18 +7,26 @@ class RegionsFile : public RunningQuorl {};
 TEST_F(RegionsFile, ANameReadsBackAsSaved) {
     const std::pair<const char*, const char*> cases[] = {
         {"a|b||c|", "a|b||c|"},
+        {"\x83||\x83\x83|\x83|", "\x83||\x83\x83|\x83|"}, // letters with '|' as their second byte
         {"  two in front, one behind ", "  two in front, one behind "},
         {";=\xE4\xFF", ";=\xE4\xFF"},
         {"tab\tand\x01one", "tab and one"},
         {" 12345678901234567890123456789", " 123456789012345678901234567"},
         {"012345678901234567890123456789", "01234567890123456789012345678"},
     };
-    for (const auto& [name, saved] : cases) {
+    const auto readBack = [](const std::string& name) {
         num_regions = 0;
         AddRegion(name, 1111111, 2222222);
         RunAction(ACTION_SAVE_SETTINGS);
         RunAction(ACTION_LOAD_SETTINGS);
-        EXPECT_STREQ(RegionTable[0].name, saved);
+        return std::string(RegionTable[0].name);
+    };
+    for (const UINT codePage : {1252U, 932U, 936U, 949U, 950U}) {
+        Desk.codePage = codePage;
+        for (const auto& [name, saved] : cases)
+            EXPECT_EQ(readBack(name), saved) << codePage;
+        const std::string full(28, '1');
+        EXPECT_EQ(readBack(full + "\x83|"), codePage == 1252 ? full + '\x83' : full) << codePage;
     }
 }
 
@@ -38,6 +46,12 @@ TEST(RegionLine, ParsesAnyText) {
         FormatRegion(region, formatted);
         EXPECT_STREQ(formatted, parsed);
     }
+    Desk.codePage = 932;
+    RegionRow region{};
+    ParseRegion("0123456789012345678901234567890123\x83||1", &region);
+    EXPECT_STREQ(region.name, "0123456789012345678901234567890123");
+    ParseRegion("half\x83\0|7", &region);
+    EXPECT_EQ(region.name + std::to_string(region.left), "half0");
 }
 
 TEST_F(RegionsFile, TheCountIsClampedAndIncludesRegionsWithoutALine) {

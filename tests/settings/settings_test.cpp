@@ -7,6 +7,8 @@
 #include "scroll/desktop_size.h"
 #include "settings/settings_test.h"
 
+#include <utility>
+
 class Settings : public RunningQuorl {};
 
 // Changes every setting from its default, each number to a different one.
@@ -48,51 +50,91 @@ TEST_F(Settings, EverythingIsSavedInOrderAndLoadedAtTheNextStart) {
     EXPECT_EQ(File(), saved);
 }
 
-TEST_F(Settings, SavingIsAtomic) {
-    using Files = std::map<std::string, std::string>;
-    const auto save = [](const Files& files, const char* failing = "", int nth = 0) {
-        Desk.files = files;
-        Desk.fault = {failing, nth};
-        RunAction(ACTION_SAVE_SETTINGS);
-        return Desk.files;
-    };
-    const Files before = save({});
-    EXPECT_EQ(save({{"quorl.new", "[Quorl]\r\nhalf=1"}}), before) << "a copy left by an earlier run";
+using Files = std::map<std::string, std::string>;
+
+static Files FilesAfterSaving(const Files& files, const DeskFault& fault = {}) {
+    Desk.files = files;
+    Desk.fault = fault;
+    SaveSettings();
+    Desk.fault = {};
+    return Desk.files;
+}
+
+static std::string StoredIn(Files files) {
+    return files[SETTINGS_FILE];
+}
+
+TEST_F(Settings, AKilledSaveLeavesTheOldFileOrTheNewOne) {
+    const Files before = FilesAfterSaving({});
+    EXPECT_EQ(FilesAfterSaving({{"quorl1234.new", "[Quorl]\r\nhalf=1"}}), before) << "a copy left by a crash";
     ChangeAll();
+    for (const Files& stored : {before, Files{}}) {
+        Desk.trace.clear();
+        const std::string after = StoredIn(FilesAfterSaving(stored));
+        const int calls = static_cast<int>(Desk.trace.size());
+        for (int nth = 1; nth <= calls; ++nth) {
+            Files left = FilesAfterSaving(stored, {"", nth, true}); // no call after the kill does anything
+            EXPECT_TRUE(StoredIn(left) == StoredIn(stored) || StoredIn(left) == after) << "call " << nth;
+            ++Desk.processId;
+            Files next = FilesAfterSaving(left);
+            EXPECT_EQ(std::exchange(next[SETTINGS_FILE], left[SETTINGS_FILE]), after);
+            EXPECT_EQ(next, left) << "another Quorl does not write into the same copy";
+        }
+    }
+}
+
+TEST_F(Settings, AFailedSaveLosesNothing) {
+    const Files before = FilesAfterSaving({});
+    ChangeAll();
+    Desk.ownRights = {SETTINGS_FILE};
     Desk.trace.clear();
-    const Files after = save(before);
+    const Files after = FilesAfterSaving(before);
+    EXPECT_TRUE(Desk.ownRights.contains(SETTINGS_FILE)) << "replacing keeps the rights";
     const int writes = CountCalls("WritePrivateProfileStringA");
-    for (int nth = 1; nth <= writes; ++nth)
-        EXPECT_EQ(save(before, "WritePrivateProfileStringA", nth), before) << "write " << nth;
-    for (const char* call : {"GetWindowsDirectoryA", "CopyFileA", "MoveFileExA"})
-        EXPECT_EQ(save(before, call, 1), after) << call;
+    for (int nth = 1; nth <= writes; ++nth) {
+        const DWORD full = nth % 2 ? ERROR_DISK_FULL : ERROR_HANDLE_DISK_FULL;
+        EXPECT_EQ(FilesAfterSaving(before, {"WritePrivateProfileStringA", nth, false, full}), before);
+    }
+    for (const DWORD error : {ERROR_DISK_FULL, ERROR_SHARING_VIOLATION, ERROR_PATH_NOT_FOUND})
+        EXPECT_EQ(FilesAfterSaving(before, {"CopyFileA", 1, false, error}), before) << "no copy: " << error;
+    for (const char* call :
+         {"CreateFileA", "FlushFileBuffers", "GetPrivateProfileIntA", "GetPrivateProfileStringA"})
+        EXPECT_EQ(FilesAfterSaving(before, {call, 1}), before) << call;
+    Desk.openFiles = {SETTINGS_FILE};
+    EXPECT_EQ(FilesAfterSaving(before), before);
+    const DeskFault halfReplaced{"ReplaceFileA", 1, false, ERROR_UNABLE_TO_MOVE_REPLACEMENT};
+    EXPECT_EQ(FilesAfterSaving(before, halfReplaced)["quorl1234.new"], StoredIn(after)) << "all that is left";
+    Desk.openFiles = {};
+    EXPECT_EQ(FilesAfterSaving(before, {"ReplaceFileA", 1}), after) << "renamed";
+    std::string oneRefused = StoredIn(FilesAfterSaving(before, {"WritePrivateProfileStringA", 1}));
+    EXPECT_EQ(oneRefused.replace(oneRefused.find("border=5"), 8, "border=6"), StoredIn(after));
+    const DeskFault readOnlyFolder{"CopyFileA", 1, false, ERROR_ACCESS_DENIED};
+    EXPECT_EQ(FilesAfterSaving(before, readOnlyFolder), after) << "written in place";
     Desk.protectedFiles = {SETTINGS_FILE};
-    EXPECT_EQ(save(before), before);
+    EXPECT_EQ(FilesAfterSaving(before), before);
 }
 
 TEST(PortableMode, UsesTheFileBesideTheProgram) {
-    const auto startsAndSaves = [](const std::wstring& program, const std::string& file) {
+    // Starts, and saves, with this empty file besides the usual one.
+    const auto uses = [](const std::string& file, const std::wstring& program) {
+        const std::string usual = "[Quorl]\r\nborder=3\r\n";
         Desk.programPath = program;
-        Desk.files = {{"quorl.ini", "[Quorl]\r\nborder=3\r\n"}};
-        if (!file.empty())
-            Desk.files[file] = "";
+        Desk.files = {{"quorl.ini", usual}, {file, ""}};
         PrepareDesk();
         OnCreate(MainWnd);
         SaveSettings();
-        return Desk.files;
+        const bool bUsed = Desk.files[file].find("border=5") != std::string::npos;
+        EXPECT_EQ(Desk.files["quorl.ini"] == usual, bUsed);
+        EXPECT_EQ(Desk.files["quorl.ini"].starts_with(usual + "maxscroll"), !bUsed);
+        EXPECT_EQ(Desk.files.size(), 2u) << "the copy replaced the file";
+        return bUsed;
     };
     ASSERT_TRUE((PrepareDesk(), StartQuorl()));
-    auto files = startsAndSaves(L"D:\\Tools\\quorl.exe", "d:\\tools\\quorl.ini");
-    EXPECT_NE(files["d:\\tools\\quorl.ini"].find("border=5"), std::string::npos) << "even if it is empty";
-    EXPECT_EQ(files["quorl.ini"], "[Quorl]\r\nborder=3\r\n");
-    EXPECT_EQ(files.size(), 2u) << "the copy is beside it, and replaced it";
-    Desk.shortPaths[L"D:\\\x0414\\quorl.ini"] = L"D:\\D~1\\quorl.ini"; // a Cyrillic name
-    files = startsAndSaves(L"D:\\\x0414\\quorl.exe", "d:\\d~1\\quorl.ini");
-    EXPECT_NE(files["d:\\d~1\\quorl.ini"].find("border=5"), std::string::npos);
-    Desk.shortPaths.clear();
-    files = startsAndSaves(L"D:\\\x0414\\quorl.exe", "d:\\d~1\\quorl.ini");
-    EXPECT_NE(files["quorl.ini"].find("border=3\r\nmaxscroll"), std::string::npos)
-        << "no name, so the usual file";
-    files = startsAndSaves(L"D:\\Tools\\quorl.exe", "");
-    EXPECT_NE(files["quorl.ini"].find("border=3\r\nmaxscroll"), std::string::npos) << "not portable";
+    EXPECT_TRUE(uses("d:\\tools\\quorl.ini", L"D:\\Tools\\quorl.exe"));
+    EXPECT_FALSE(uses("d:\\quorl.ini", L"D:\\Tools\\quorl.exe"));
+    EXPECT_FALSE(uses("d:\\d~1\\quorl.ini", L"D:\\\x0414\\quorl.exe")) << "a Cyrillic name";
+    Desk.shortPaths[L"D:\\\x0414\\quorl.ini"] = L"D:\\D~1\\quorl.ini";
+    EXPECT_TRUE(uses("d:\\d~1\\quorl.ini", L"D:\\\x0414\\quorl.exe"));
+    const std::string folder = "d:\\" + std::string(240, 'x'); // the name of the copy would be too long
+    EXPECT_FALSE(uses(folder + "\\quorl.ini", std::wstring(folder.begin(), folder.end()) + L"\\quorl.exe"));
 }

@@ -51,7 +51,13 @@ constexpr int IDYES = 6;
 constexpr int IDNO = 7;
 
 constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
+constexpr DWORD ERROR_PATH_NOT_FOUND = 3;
 constexpr DWORD ERROR_ACCESS_DENIED = 5;
+constexpr DWORD ERROR_SHARING_VIOLATION = 32;
+constexpr DWORD ERROR_HANDLE_DISK_FULL = 39;
+constexpr DWORD ERROR_DISK_FULL = 112;
+constexpr DWORD ERROR_UNABLE_TO_MOVE_REPLACEMENT = 1176;
+constexpr DWORD ERROR_UNABLE_TO_MOVE_REPLACEMENT_2 = 1177;
 constexpr DWORD ERROR_INVALID_WINDOW_HANDLE = 1400;
 constexpr DWORD ERROR_CLASS_ALREADY_EXISTS = 1410;
 constexpr DWORD ERROR_TIMEOUT = 1460;
@@ -69,6 +75,7 @@ FARPROC WINAPI GetProcAddress(HMODULE module, LPCSTR name);
 DWORD WINAPI GetModuleFileNameW(HMODULE module, LPWSTR path, DWORD size);
 UINT WINAPI GetSystemDirectoryA(LPSTR directory, UINT size);
 BOOL WINAPI SetProcessShutdownParameters(DWORD level, DWORD flags);
+DWORD WINAPI GetCurrentProcessId();
 BOOL WINAPI LockWorkStation();
 
 HANDLE WINAPI LoadImageA(HINSTANCE instance, LPCSTR name, UINT type, int width, int height, UINT flags);
@@ -96,6 +103,7 @@ BOOL WINAPI WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, 
 constexpr int MAX_PATH = 260;
 constexpr UINT CP_ACP = 0;
 constexpr DWORD WC_NO_BEST_FIT_CHARS = 0x400;
+BOOL WINAPI IsDBCSLeadByte(BYTE first);
 DWORD WINAPI GetShortPathNameW(LPCWSTR path, LPWSTR shortPath, DWORD size);
 int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR from, int length, LPSTR to, int limit,
                                LPCSTR defaultChar, BOOL* usedDefault);
@@ -111,3 +119,14 @@ BOOL WINAPI DeleteFileA(LPCSTR file);
 constexpr DWORD FILE_ATTRIBUTE_READONLY = 1;
 constexpr DWORD FILE_ATTRIBUTE_NORMAL = 128;
 BOOL WINAPI SetFileAttributesA(LPCSTR file, DWORD attributes);
+constexpr DWORD REPLACEFILE_IGNORE_MERGE_ERRORS = 2;
+BOOL WINAPI ReplaceFileA(LPCSTR replaced, LPCSTR replacement, LPCSTR backup, DWORD flags, LPVOID, LPVOID);
+constexpr DWORD GENERIC_WRITE = 0x40000000;
+constexpr DWORD FILE_SHARE_READ = 1;
+constexpr DWORD FILE_SHARE_WRITE = 2;
+constexpr DWORD OPEN_EXISTING = 3;
+inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(-1LL);
+HANDLE WINAPI CreateFileA(LPCSTR file, DWORD access, DWORD share, struct SECURITY_ATTRIBUTES* security,
+                          DWORD disposition, DWORD attributes, HANDLE pattern);
+BOOL WINAPI FlushFileBuffers(HANDLE file);
+BOOL WINAPI CloseHandle(HANDLE handle);

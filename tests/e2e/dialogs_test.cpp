@@ -2,7 +2,7 @@
 
 TEST(Dialogs, NameRegionTakesASystemColor) {
     StartQuorl();
-    const HWND dialog = OpenDialog<ACTION_MARK_REGION>("Name Region");
+    const HWND dialog = OpenDialog(ACTION_MARK_REGION, "Name Region");
     PressOnly(Control(dialog, IDC_REGION_COLOR));
     const HWND colors = WaitForBox("Color");
     int control = 706; // the first of three edit boxes
@@ -12,6 +12,6 @@ TEST(Dialogs, NameRegionTakesASystemColor) {
     TypeOver(Control(dialog, IDC_REGION_NAME), "Mail 1");
     CloseByKey(dialog, VK_RETURN);
     ExpectSaved("Region0", "Mail 1|0|0|1024|768|3302600");
-    RunActions<ACTION_UNMARK_REGION>();
+    RunActions({ACTION_UNMARK_REGION});
     ExpectSaved("num_regions", "0");
 }

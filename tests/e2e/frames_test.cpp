@@ -28,11 +28,11 @@ TEST_F(Frames, WindowsAtTheEdgesReturnToThePixel) {
         EXPECT_EVENTUALLY(WindowRect(snapped), Moved(rect, dx, dy));
         EXPECT_EVENTUALLY(WindowRect(maximized), Moved(full, dx, dy));
     };
-    RunActions<ACTION_SCREEN_RIGHT, ACTION_VIEW_DOWN_MIN>();
+    RunActions({ACTION_SCREEN_RIGHT, ACTION_VIEW_DOWN_MIN});
     expect(-SCREEN_W, -5);
-    RunActions<ACTION_SCREEN_LEFT, ACTION_VIEW_UP_MIN>();
+    RunActions({ACTION_SCREEN_LEFT, ACTION_VIEW_UP_MIN});
     expect(0, 0);
-    RunActions<ACTION_SCREEN_RIGHT, ACTION_SCREEN_DOWN>();
+    RunActions({ACTION_SCREEN_RIGHT, ACTION_SCREEN_DOWN});
     expect(-SCREEN_W, -SCREEN_H);
     Quit();
     expect(0, 0);
@@ -44,7 +44,7 @@ TEST_F(Frames, ACloakedWindowStaysUntilExit) {
     const HWND inReach = OpenWindow("cloaked in reach", EDITOR, "cloaked");
     const HWND beyond = OpenWindow("cloaked out of reach", away, "cloaked");
     StartQuorl();
-    RunActions<ACTION_SCREEN_RIGHT>();
+    RunActions({ACTION_SCREEN_RIGHT});
     EXPECT_EVENTUALLY(WindowRect(snapped), Moved(rect, -SCREEN_W, 0)); // the last one to move
     EXPECT_EQ(WindowRect(inReach), EDITOR);
     EXPECT_EQ(WindowRect(beyond), away);

@@ -3,6 +3,7 @@
 
 #include <tlhelp32.h>
 
+#include <set>
 #include <thread>
 
 namespace {
@@ -168,17 +169,6 @@ TEST_F(HookLibrary, IsInstalledAgainOnRequestAndWhenTheMouseMovesUnseen) {
         ExpectReportsOfAClick(1);
         UnhookWindowsHookEx(hiding);
     }
-}
-
-TEST_F(HookLibrary, QueuesOneMoveAcrossRestarts) {
-    for (int time = 0; time < 3; ++time) {
-        SetMouseHook(1);
-        MoveBy(time);
-        Click(VK_LBUTTON);
-        Sleep(100);
-        SetMouseHook(0);
-    }
-    EXPECT_TRUE(CountOf(WM_MOUSEMOVE) == 1 && CountOf(WM_LBUTTONDOWN) == 3);
 }
 
 TEST_F(HookLibrary, RecoversFromAForeignHookThatHidesMessages) {

@@ -23,7 +23,7 @@ TEST(Scroll, ProgramsDoNotDelayOrHarmEachOther) {
     EXPECT_EQ(WindowRect(overriding), Moved(other, 7 - SCREEN_W, 9));
     EXPECT_EQ(WindowRect(maximized).left, -SCREEN_W) << "not beyond the desktop's edge";
     EXPECT_TRUE(IsZoomed(maximized));
-    RunActions<ACTION_RESTORE_MAXIMIZED, ACTION_SCREEN_LEFT>();
+    RunActions({ACTION_RESTORE_MAXIMIZED, ACTION_SCREEN_LEFT});
     EXPECT_EVENTUALLY(WindowRect(editor), EDITOR);
     EXPECT_FALSE(IsZoomed(maximized));
     ShowWindow(minimized, SW_RESTORE);

@@ -84,8 +84,6 @@ void Start() {
 }
 
 void UseTheKeys() {
-    Covers<ACTION_VIEW_RIGHT_MIN, ACTION_VIEW_DOWN_MIN, ACTION_VIEW_LEFT_MIN, ACTION_VIEW_UP_MIN>();
-    Covers<ACTION_SCREEN_RIGHT, ACTION_SCREEN_LEFT, ACTION_SCREEN_DOWN, ACTION_SCREEN_UP>();
     SeeKeys("Ctrl+Alt+Right", {VK_CONTROL, VK_MENU, VK_RIGHT}, SCREEN_W, 0);
     SeeKeys("Ctrl+Alt+Shift+Right", {VK_CONTROL, VK_MENU, VK_SHIFT, VK_RIGHT}, SCREEN_W + 5, 0);
     SeeKeys("Ctrl+Alt+Shift+Down", {VK_CONTROL, VK_MENU, VK_SHIFT, VK_DOWN}, SCREEN_W + 5, 5);
@@ -120,7 +118,6 @@ void GoByMap(const char* step, int key, int button, POINT at, LONG x, LONG y) {
 }
 
 void ClickOnTheMap() {
-    Covers<ACTION_VIEW_CENTER_POINT, ACTION_VIEW_TO_CELL>();
     const POINT at = OnMap(1200, 800), corner = OnMap(0, 0), end = OnMap(4 * SCREEN_W, 2 * SCREEN_H);
     GoByMap("middle button in the midst of the map", 0, VK_MBUTTON, at,
             (at.x - corner.x) * 4 * SCREEN_W / (end.x - corner.x) - SCREEN_W / 2,
@@ -132,7 +129,6 @@ void ClickOnTheMap() {
 // Held in its middle: Wine now and then counts a step twice, because the map moves meanwhile, and without the
 // foreground a capture gets no moves outside the window there.
 void DragTheMap() {
-    Covers<ACTION_DRAG_TOOLWIN>();
     const RECT wanted = Moved(WindowRect(QuorlWindow()), 60, -60);
     const POINT at = OnMap(2 * SCREEN_W, SCREEN_H);
     RectAfterMoving(QuorlWindow(), at);
@@ -162,7 +158,6 @@ void OpenMenu(const char* step, void (*open)()) {
 }
 
 void OpenMenuByKeys() {
-    Covers<ACTION_SHOW_MENU>();
     OpenMenu("Ctrl+Alt+Shift+Space", [] {
         MoveMouse(500, 120);
         PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, VK_SPACE});
@@ -175,7 +170,6 @@ void ChooseFromMenu(std::initializer_list<WORD> keys) {
 }
 
 void UseTheMenu() {
-    Covers<ACTION_SHOW_TOOLWIN>();
     for (const bool shown : {false, true}) {
         OpenMenuByKeys();
         if (!shown)
@@ -195,7 +189,6 @@ void SeeAllFolded() {
 }
 
 void QuitByTheMenu() {
-    Covers<ACTION_EXIT>();
     SeeKeys("Ctrl+Alt+Right", {VK_CONTROL, VK_MENU, VK_RIGHT}, SCREEN_W, 0);
     OpenMenu("right button on the map", [] {
         const POINT at = OnMap(2500, 400);
@@ -228,7 +221,6 @@ void StartWithSettings() {
 }
 
 void VisitRegions() {
-    Covers<ACTION_NEXT_REGION, ACTION_PREVIOUS_REGION>();
     SeeKeys("Ctrl+Alt+Shift+2 jumps to web", {VK_CONTROL, VK_MENU, VK_SHIFT, '2'}, 1024, 768);
     SeeKeys("Ctrl+Alt+N continues with home", {VK_CONTROL, VK_MENU, 'N'}, 0, 0);
     SeeKeys("Ctrl+Alt+N continues with mail", {VK_CONTROL, VK_MENU, 'N'}, 2048, 0);
@@ -262,7 +254,6 @@ void DragBox(HWND window, POINT to) {
 }
 
 void DragABox() {
-    Covers<ACTION_DRAG_WINDOW>();
     const HWND window = Programs[CLOCK].window;
     RECT& home = Programs[CLOCK].home;
     SeeKeys("Ctrl+Alt+Shift+0 jumps home", {VK_CONTROL, VK_MENU, VK_SHIFT, '0'}, 0, 0);
@@ -288,8 +279,7 @@ void PushMouseTo(POINT to) {
 
 // The switch is on for this chapter only: under Wine messages of a mouse at rest in a corner may be late.
 void PushAtTheEdge() {
-    Covers<ACTION_SHIFT_SUPPRESS>();
-    RunActions<ACTION_FOLLOW_MOUSE>();
+    RunActions({ACTION_FOLLOW_MOUSE});
     PushMouseTo({SCREEN_W - 1, 600});
     SeeView("the mouse goes over the right edge", 2 * SCREEN_W, SCREEN_H);
     constexpr LONG LANDING = 15; // three borders from the other edge
@@ -298,7 +288,7 @@ void PushAtTheEdge() {
     Require(x == LANDING, "the mouse at the other edge");
     PushMouseTo({0, 600});
     SeeView("and back over the left edge", SCREEN_W, SCREEN_H);
-    RunActions<ACTION_FOLLOW_MOUSE>();
+    RunActions({ACTION_FOLLOW_MOUSE});
     MoveMouse(500, 600);
 }
 

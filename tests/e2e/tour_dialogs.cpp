@@ -5,7 +5,7 @@ namespace {
 
 // Saves the settings and requires a value in the file.
 void SeeSaved(const char* step, const char* key, const std::string& wanted) {
-    RunActions<ACTION_SAVE_SETTINGS>();
+    RunActions({ACTION_SAVE_SETTINGS});
     const std::string value = Eventually([key] { return Stored(key); }, wanted);
     Say("  %s: quorl.ini has %s=%s", step, key, value.c_str());
     Require(value == wanted, wanted);
@@ -18,7 +18,7 @@ void GoHome() {
 void SetOptions() {
     constexpr POINT UP = {7, 5};
     GoHome();
-    const HWND dialog = OpenDialog<ACTION_OPTIONS>("Options...");
+    const HWND dialog = OpenDialog(ACTION_OPTIONS, "Options...");
     const auto width = [dialog] { return ControlText(dialog, IDC_OPTIONS_WIDTH); };
     const std::string before = width();
     Retry([&] { return width() != before; },
@@ -34,7 +34,7 @@ void SetOptions() {
 // By keyboard alone. Escape keeps what was applied.
 void BindAKey() {
     constexpr int ITEM = 25; // of ACTION_SCREEN_RIGHT; the list has only what can have a key
-    const HWND dialog = OpenDialog<ACTION_DEFINE_ACTIONS>("Actions...");
+    const HWND dialog = OpenDialog(ACTION_DEFINE_ACTIONS, "Actions...");
     EXPECT_EVENTUALLY(Focused(dialog), IDC_ACTIONS_LIST);
     PressInTurn({VK_END, VK_HOME});
     PressInTurn(std::vector<WORD>(ITEM, VK_DOWN));
@@ -51,7 +51,7 @@ void BindAKey() {
 
 void ComposeMenu() {
     const HWND dialog =
-        OpenByButton(OpenDialog<ACTION_OPTIONS>("Options..."), IDC_OPTIONS_MENUS, "Customize Menu...");
+        OpenByButton(OpenDialog(ACTION_OPTIONS, "Options..."), IDC_OPTIONS_MENUS, "Customize Menu...");
     const auto last = [dialog] { return ListTexts(Control(dialog, IDC_MENU_LIST)).back(); };
     PressItem(Control(dialog, IDC_MENU_ACTIONS), "Find Window...");
     Retry([&] { return last() == "Find Window..."; }, [&] { Press(Control(dialog, IDC_MENU_ADD)); });
@@ -63,7 +63,7 @@ void ComposeMenu() {
 
 void NameTheView() {
     SeeKeys("Ctrl+Alt+Q", {VK_CONTROL, VK_MENU, 'Q'}, SCREEN_W, 0);
-    const HWND dialog = OpenDialog<ACTION_MARK_REGION>("Name Region");
+    const HWND dialog = OpenDialog(ACTION_MARK_REGION, "Name Region");
     const auto name = [dialog] { return ControlText(dialog, IDC_REGION_NAME); };
     Retry([&] { return name() == "Notes"; }, [&] { TypeOver(Control(dialog, IDC_REGION_NAME), "Notes"); });
     Say("  the name is typed: %s", name().c_str());
@@ -94,20 +94,20 @@ void Find(HWND dialog, const char* picture, const std::string& text, const char*
 
 void FindAWindow() {
     const auto& [left, top, right, bottom] = Programs[WINEMINE].home;
-    Find(OpenDialog<ACTION_FIND_WINDOW>("Find Windows..."), "14-find-window",
+    Find(OpenDialog(ACTION_FIND_WINDOW, "Find Windows..."), "14-find-window",
          TextOf(Programs[WINEMINE].window), "winemine is chosen and comes to the middle",
          (left + right - SCREEN_W) / 2, (top + bottom - SCREEN_H) / 2);
 }
 
 void FindARegion() {
-    Find(OpenDialog<ACTION_FIND_REGION>("Find Region..."), "15-find-region", "mail", "mail is chosen",
+    Find(OpenDialog(ACTION_FIND_REGION, "Find Region..."), "15-find-region", "mail", "mail is chosen",
          2 * SCREEN_W, 0);
 }
 
 void ResizeAWindow() {
     DemoProgram& notepad = Programs[NOTEPAD];
     RECT& home = notepad.home;
-    const HWND dialog = OpenDialog<ACTION_RESIZE_WINDOW>("Resize Windows...");
+    const HWND dialog = OpenDialog(ACTION_RESIZE_WINDOW, "Resize Windows...");
     home = {home.left, home.top, home.left + 420, home.top + 300};
     Retry([&] { return WindowRect(notepad.window) == home; },
           [&] {
@@ -123,7 +123,7 @@ void ResizeAWindow() {
 }
 
 void SeeThrough() {
-    const HWND dialog = OpenDialog<ACTION_TRANSPARENCY>("Toolwin Transparency...");
+    const HWND dialog = OpenDialog(ACTION_TRANSPARENCY, "Toolwin Transparency...");
     const auto alpha = [] {
         BYTE value = 0;
         return GetLayeredWindowAttributes(QuorlWindow(), nullptr, &value, nullptr) ? value : -1;
@@ -150,8 +150,8 @@ void Read(HWND dialog, int control, const char* name, const char* wanted, const 
 }
 
 void ReadHelp() {
-    Read(OpenDialog<ACTION_HELP>("Quorl Help"), IDC_HELP_TEXT, "Help", "index.html", "18-help");
-    Read(OpenDialog<ACTION_ABOUT>("About..."), IDC_ABOUT_PROGRAM, "About", "Quorl ", "19-about");
+    Read(OpenDialog(ACTION_HELP, "Quorl Help"), IDC_HELP_TEXT, "Help", "index.html", "18-help");
+    Read(OpenDialog(ACTION_ABOUT, "About..."), IDC_ABOUT_PROGRAM, "About", "Quorl ", "19-about");
 }
 
 } // namespace

@@ -29,19 +29,19 @@ class TwoDisplays : public testing::Test {
 };
 
 TEST_F(TwoDisplays, WindowsScrollThereAndBack) {
-    RunActions<ACTION_VIEW_RIGHT_MIN, ACTION_VIEW_DOWN_MIN>();
+    RunActions({ACTION_VIEW_RIGHT_MIN, ACTION_VIEW_DOWN_MIN});
     ExpectShift(-5, -5);
-    RunActions<ACTION_SCREEN_RIGHT, ACTION_SCREEN_DOWN, ACTION_VIEW_RIGHT_MIN>();
+    RunActions({ACTION_SCREEN_RIGHT, ACTION_SCREEN_DOWN, ACTION_VIEW_RIGHT_MIN});
     ExpectShift(-SCREEN_W - 5, -SCREEN_H);
-    RunActions<ACTION_VIEW_LEFT_MIN, ACTION_SCREEN_UP, ACTION_SCREEN_LEFT>();
+    RunActions({ACTION_VIEW_LEFT_MIN, ACTION_SCREEN_UP, ACTION_SCREEN_LEFT});
     ExpectShift(0, 0);
-    RunActions<ACTION_VIEW_RIGHT_MIN, ACTION_VIEW_LEFT_MIN>();
+    RunActions({ACTION_VIEW_RIGHT_MIN, ACTION_VIEW_LEFT_MIN});
     ExpectShift(0, 0);
 }
 
 // Xephyr keeps the pointer off the far right and bottom edges of the right display.
 TEST_F(TwoDisplays, OnlyTheOuterEdgesScroll) {
-    RunActions<ACTION_SCREEN_RIGHT, ACTION_FOLLOW_MOUSE>();
+    RunActions({ACTION_SCREEN_RIGHT, ACTION_FOLLOW_MOUSE});
     const auto moveTo = [](POINT at) {
         MoveMouse(at.x, at.y);
         SendMouse(-300, 500); // Wine reports only a move to another position, and none by SetCursorPos here
@@ -64,7 +64,7 @@ TEST_F(TwoDisplays, OnlyTheOuterEdgesScroll) {
 TEST_F(TwoDisplays, TheMapStaysOnTheLeftOneAcrossARestart) {
     const RECT map = Moved({0, 0, 200, 100}, display.left + 60, display.bottom - 150);
     SetWindowPos(QuorlWindow(), nullptr, map.left, map.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    RunActions<ACTION_TOOLWIN_LEFT_MIN, ACTION_SAVE_SETTINGS>();
+    RunActions({ACTION_TOOLWIN_LEFT_MIN, ACTION_SAVE_SETTINGS});
     EXPECT_EVENTUALLY(WindowRect(QuorlWindow()), Moved(map, -5, 0));
     Quit();
     EXPECT_EQ(WindowRect(StartQuorl()), Moved(map, -5, 0));
@@ -72,19 +72,19 @@ TEST_F(TwoDisplays, TheMapStaysOnTheLeftOneAcrossARestart) {
 
 TEST_F(TwoDisplays, CommandsMoveTheActiveWindowOnBoth) {
     Activate(onLeft);
-    RunActions<ACTION_ACTIVE_RIGHT_MIN, ACTION_ACTIVE_DOWN_MIN>();
+    RunActions({ACTION_ACTIVE_RIGHT_MIN, ACTION_ACTIVE_DOWN_MIN});
     EXPECT_EVENTUALLY(WindowRect(onLeft), Moved(left, 5, 5));
     const RECT visible = VisibleRect(onLeft);
-    RunActions<ACTION_ACTIVE_TO_LEFT>();
+    RunActions({ACTION_ACTIVE_TO_LEFT});
     EXPECT_EVENTUALLY(VisibleRect(onLeft), Moved(visible, display.left - visible.left, 0));
-    RunActions<ACTION_ACTIVE_TO_RIGHT>();
+    RunActions({ACTION_ACTIVE_TO_RIGHT});
     const int right = GetSystemMetrics(SM_XVIRTUALSCREEN) + SCREEN_W;
     EXPECT_EVENTUALLY(VisibleRect(onLeft), Moved(visible, right - visible.right, 0));
 }
 
 TEST_F(TwoDisplays, FollowsOnlyAWindowOutOfView) {
     const HWND beyond = OpenWindow("out of view", Moved(EDITOR, SCREEN_W, 0));
-    RunActions<ACTION_FOLLOW_ACTIVE>();
+    RunActions({ACTION_FOLLOW_ACTIVE});
     Activate(onRight);
     Activate(onLeft);
     Sleep(500);
@@ -97,7 +97,7 @@ TEST_F(TwoDisplays, FollowsOnlyAWindowOutOfView) {
 }
 
 TEST_F(TwoDisplays, ExitInAnotherViewReturnsTheWindows) {
-    RunActions<ACTION_SCREEN_RIGHT, ACTION_SCREEN_DOWN>();
+    RunActions({ACTION_SCREEN_RIGHT, ACTION_SCREEN_DOWN});
     ExpectShift(-SCREEN_W, -SCREEN_H);
     Quit();
     ExpectShift(0, 0);

@@ -101,9 +101,9 @@ void RunAction(int action) {
     PostMessageA(QuorlWindow(), WM_HOTKEY, static_cast<WPARAM>(action), 0);
 }
 
-std::set<int>& CoveredActions() {
-    static std::set<int> actions;
-    return actions;
+void RunActions(std::initializer_list<int> actions) {
+    for (const int action : actions)
+        RunAction(action);
 }
 
 void Activate(HWND window) {
@@ -156,7 +156,7 @@ void StoreSettings(const char* lines) {
 }
 
 void ExpectSaved(const std::string& key, const std::string& wanted) {
-    RunActions<ACTION_SAVE_SETTINGS>();
+    RunActions({ACTION_SAVE_SETTINGS});
     EXPECT_EVENTUALLY(Stored(key), wanted) << key;
 }
 
@@ -212,6 +212,11 @@ static void ClickAt(POINT screen) {
     for (int tries = 0; tries < 5 && !isThere(); ++tries)
         MoveMouse(screen.x, screen.y);
     Click(VK_LBUTTON);
+}
+
+HWND OpenDialog(int action, const char* title) {
+    RunAction(action);
+    return WaitForBox(title);
 }
 
 HWND OpenByButton(HWND dialog, int button, const char* title) {

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -44,24 +43,9 @@ bool PressKeys(std::initializer_list<WORD> keys);
 // Presses and releases one key after the other.
 void PressInTurn(const std::vector<WORD>& keys);
 void Click(int button);
-// Makes Quorl run an action, as a hotkey does.
+// Makes Quorl run actions, as hotkeys do.
 void RunAction(int action);
-
-// The actions that the cases name in RunActions and Covers, filled before main: naming one there registers
-// it.
-std::set<int>& CoveredActions();
-template <ActionId ID>
-const int Covered = *CoveredActions().insert(ID).first;
-// States that the code below runs these actions by keys, mouse or menu.
-template <ActionId... IDS>
-void Covers() {
-    (static_cast<void>(&Covered<IDS>), ...);
-}
-template <ActionId... IDS>
-void RunActions() {
-    Covers<IDS...>();
-    (RunAction(IDS), ...);
-}
+void RunActions(std::initializer_list<int> actions);
 
 // Activates a window and waits until its program and Quorl have handled it.
 void Activate(HWND window);
@@ -100,11 +84,7 @@ void Retry(Happened happened, Act act) {
 }
 
 // Runs the action and requires the dialog with this title.
-template <ActionId ID>
-HWND OpenDialog(const char* title) {
-    RunActions<ID>();
-    return WaitForBox(title);
-}
+HWND OpenDialog(int action, const char* title);
 // The same by a button of an open dialog, which is then closed by its OK.
 HWND OpenByButton(HWND dialog, int button, const char* title);
 

@@ -237,6 +237,6 @@ void BareFold() {
         IsZoomed(Rows[row].hwnd);
     }
     for (int row = num_rows - 1; row >= 0; --row)
-        if (Rows[row].managed)
+        if (Rows[row].managed && !IsIconic(Rows[row].hwnd))
             MoveRow(Rows[row], 0, FOLD_TIMEOUT);
 }

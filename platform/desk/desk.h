@@ -289,7 +289,7 @@ struct DeskState {
     std::vector<DeskDisplay> displays{RECT{0, 0, 1024, 768}}; // the first is the primary one
     std::vector<DeskAffectedWindow> affected;                 // wait for RelocateWindows
     RECT frameMargins{}; // invisible part of sizable frames; {7, 0, 7, 7} on Windows 10 and 11
-    std::map<std::string, DeskModule> modules; // by lower-case name
+    std::map<std::string, DeskModule> modules; // by lower-case name, or path in the system directory
     std::map<std::string, std::string>
         files; // text by lower-case name in the Windows folder, else by full path
     std::wstring programPath = L"C:\\Program Files\\Quorl\\quorl.exe"; // GetModuleFileNameW

@@ -13,14 +13,13 @@ UINT GetSystemDirectoryA(LPSTR directory, UINT size) {
     return static_cast<UINT>(CopyText(SYSTEM_DIRECTORY, directory, static_cast<int>(size)));
 }
 
-// A full path in the system directory means the same as the bare name.
 static DeskModule* FindModule(LPCSTR path) {
-    std::string name = LowerCase(path);
-    const std::string prefix = LowerCase(SYSTEM_DIRECTORY) + '\\';
-    if (name.starts_with(prefix))
-        name.erase(0, prefix.size());
-    const auto found = Desk.modules.find(name);
+    const auto found = Desk.modules.find(LowerCase(path));
     return found == Desk.modules.end() ? nullptr : &found->second;
+}
+
+static DeskModule& SystemModule(const char* name) {
+    return Desk.modules[LowerCase(SYSTEM_DIRECTORY + '\\' + name)];
 }
 
 // A handle is the address of the record: nodes of a std::map never move.
@@ -62,12 +61,12 @@ static FARPROC Export(Function* function) {
 }
 
 void InstallCompositor() {
-    Desk.modules["dwmapi.dll"].exports["DwmGetWindowAttribute"] = Export(DwmGetWindowAttribute);
+    SystemModule("dwmapi.dll").exports["DwmGetWindowAttribute"] = Export(DwmGetWindowAttribute);
 }
 
 void InstallDpiFunctions() {
     DeskModule& user = Desk.modules["user32.dll"];
     user.loads = 1;
     user.exports["GetDpiForWindow"] = Export(GetDpiForWindow);
-    Desk.modules["shcore.dll"].exports["GetDpiForMonitor"] = Export(GetDpiForMonitor);
+    SystemModule("shcore.dll").exports["GetDpiForMonitor"] = Export(GetDpiForMonitor);
 }

@@ -24,7 +24,7 @@ constexpr int UNBOUND = -1;
 constexpr int NO_ACTION = -1; // where a number of an action is expected
 
 struct ActionPoint {
-    int x, y; // client coordinates of the map, in pixels
+    int x, y; // map or desktop pixels
 };
 
 constexpr int NO_REGION = INT_MIN; // outside the range of id - FIRST_REGION_ID
@@ -35,7 +35,7 @@ struct ActionCall {
     int id;
     int argument;      // from the action's definition
     HWND target;       // the window that commands on the active window act on; null if there is none
-    ActionPoint point; // where the mouse was pressed; (0, 0) for a key or the menu
+    ActionPoint point; // map pixels: where the mouse was pressed; (0, 0) for a key or the menu
     int region;        // index of the region to jump to, or NO_REGION
 };
 

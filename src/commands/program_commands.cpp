@@ -16,7 +16,7 @@ int DoNothing(const ActionCall& call) {
 }
 
 int ChangeBorder(const ActionCall& call) {
-    // Only one side is clamped: a border outside the limits, from the settings file, must not jump.
+    // Each action clamps to its own limit; the settings file may hold a border outside both.
     const OptionDef& def = OptionDefs[OPTION_BORDER];
     const int border = Options.border + call.argument;
     Options.border = call.argument > 0 ? std::min(border, def.userMax) : std::max(border, def.userMin);

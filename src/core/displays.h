@@ -2,8 +2,7 @@
 //
 // Windows counts from the corner of the primary display, so a display left of it or above it has negative
 // coordinates: system coordinates. Quorl counts from the top left corner of the union of all displays: screen
-// coordinates, which start at 0. Convert where a position comes from Windows or goes back to it, and nowhere
-// else.
+// coordinates, which start at 0. Convert where a position comes from Windows or goes back to it.
 #pragma once
 
 #include "core/platform.h"

@@ -18,7 +18,7 @@ struct OptionsRecord {
     int alpha;                  // opacity of the map; only the low 8 bits count
     int mousescroll_type;       // an EdgeDistance
     int mousescroll_delay;      // an EdgeDelay
-    int hook_present;           // 1 once the hook library watches the mouse; never stored
+    int hook_present;           // 1 if the hook library is loaded; never stored
 };
 
 extern OptionsRecord Options;
@@ -40,7 +40,7 @@ struct OptionDef {
     int OptionsRecord::*field;
     int start;            // before any settings are loaded
     int max;              // a larger number in the settings file is read as this; the minimum is 0
-    int userMin, userMax; // what dialogs and actions offer
+    int userMin, userMax; // limits in dialogs and actions; Options shows a border as one less than it is
     int storedBits;       // mask of the bits that the settings file stores
 };
 

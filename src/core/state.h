@@ -25,9 +25,9 @@ inline int ScreenH() {
     return ScreenRect.bottom;
 }
 
-extern HWND MainWnd;          // the map; null only before its creation. Written by app/create.cpp.
+extern HWND MainWnd;          // the map; null only before its creation. Written by app/.
 extern HINSTANCE AppInstance; // for dialogs
-extern HBRUSH BackBrush;      // the map's background
+extern HBRUSH BackBrush;      // the map's background. Written by app/.
 extern HICON TrayImage;       // of the size of small icons. Written by menus/tray.cpp.
 
 // Set by app/ once Quorl is ending, because the user confirmed, the session ends, or in a crash: messages

@@ -206,8 +206,8 @@ static void StoreNumbers(const OptionNumbers& accepted) {
     Options.mousescroll = accepted.mousescroll;
 }
 
-// If the desktop shrinks, windows fold back onto the screen, and all are clamped to the desktop. The view
-// stays: the next scroll clamps it.
+// If the desktop shrinks, windows fold back onto the screen; those left of the desktop or above it move to
+// its edge. The view stays: the next scroll clamps it.
 static void OnAccept(HWND dialog, int) {
     if (!MayScroll()) {
         MessageBeep(0); // no window could be folded now

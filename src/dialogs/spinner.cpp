@@ -135,7 +135,10 @@ static void PaintSpinner(HWND spinner) {
 static bool OnSpinnerCreate(HWND spinner) {
     auto* const state = new (std::nothrow) SpinnerState{0, START_INTERVAL, START_MAX, 0};
     SetWindowLongPtrA(spinner, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(state));
-    return state != nullptr;
+    if (StateOfSpinner(spinner) == state)
+        return state != nullptr;
+    delete state; // it could not be stored
+    return false;
 }
 
 static void OnSpinnerDestroy(HWND spinner) {

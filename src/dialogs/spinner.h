@@ -24,5 +24,5 @@ struct SpinnerState {
 // Creates a visible child of `parent`, in client pixels. Null if it fails.
 HWND CreateSpinner(HWND parent, const RECT& rect, int id);
 
-// Null if the window is not a spinner or has been destroyed.
+// The window must be a spinner; null once it has been destroyed.
 SpinnerState* StateOfSpinner(HWND spinner);

@@ -11,12 +11,12 @@ static const UINT HOOK_EVENT = WM_APP;   // to the watcher thread; wParam: the n
 static const WPARAM END_MARK = 0;        // in HOOK_MOUSE_MESSAGE: the end of the messages queued before
 static const DWORD START_TIMEOUT = 2000; // milliseconds for the thread to start or to stop
 
-// Milliseconds, more than the five seconds after which Windows considers a window hung: a window that is not
-// hung has removed a move posted this long ago.
+// Milliseconds, more than the five seconds after which Windows considers a window hung. A window that is not
+// hung has retrieved a move posted this long ago; if we do not know, we missed it.
 static const DWORD MOVE_TIMEOUT = 6000;
 
-// At most one move per interval is posted, in milliseconds, for which the steps of GetTickCount, 16 of them,
-// are fine enough. Posted messages come before input: moves without a limit would keep the map's own mouse
+// Minimum milliseconds between posted moves; GetTickCount, with its steps of 16, is precise enough. Posted
+// messages come before input: moves without a limit would keep the map's own mouse
 // messages waiting.
 static const DWORD MOVE_INTERVAL = 10;
 

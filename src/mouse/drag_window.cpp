@@ -26,7 +26,8 @@ static bool IsBetween(long long value, long long first, long long last) {
     return std::abs(value) >= std::abs(first) && std::abs(value) <= std::abs(last);
 }
 
-// Desktop pixels, edges included. A part of the window outside the desktop's left or top edge does not count.
+// Desktop pixels, edges included. Only the part of the window right of the desktop's left edge and below its
+// top edge counts.
 static bool ContainsDesktopPoint(const RECT& window, int x, int y) {
     return IsBetween(x, std::max<int>(window.left, 0), window.right) &&
            IsBetween(y, std::max<int>(window.top, 0), window.bottom);
@@ -51,7 +52,7 @@ static void MoveByCursor(HWND target, int x, int y) {
     WindowFrame frame{};
     if (!ReadWindowFrame(target, &frame))
         return;
-    // Beyond the desktop's far edges the window would no longer be managed.
+    // Farther right or below, the window would no longer be managed.
     const RECT moved = Offset(frame.visible, by.x, by.y);
     MoveIfAlive(target, frame, {std::min(moved.left, Quorl.right), std::min(moved.top, Quorl.bottom)});
 }

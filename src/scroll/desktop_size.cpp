@@ -12,7 +12,7 @@ namespace {
 struct SizeChange {
     int width, height; // -1, 0 or 1
     bool bShifts;      // all windows move by the change
-    bool bClamps;      // windows do not move but are clamped to the desktop
+    bool bClamps;      // windows left of the desktop or above it move to its edge
 };
 
 } // namespace

@@ -51,7 +51,7 @@ static void AdoptDisplays(const DisplayLayout& now) {
     SetView({Wrap(0LL + VDesk.left - moved.x), Wrap(0LL + VDesk.top - moved.y)});
     ReturnUnseenWindows();
     if (bDisplaysChanging)
-        return; // again, during the moves: the table keeps where the remaining windows belong
+        return; // they changed again: the table keeps where the remaining windows belong
     KeepMapOnDisplay();
     RebuildWindowTable();
     ShowView();
@@ -66,7 +66,7 @@ static void CALLBACK DisplaysSettled(HWND window, UINT, UINT_PTR, DWORD) {
     DisplayLayout now;
     MonitorUnion(&now);
     if (now.count)
-        AdoptDisplays(now); // without any display nobody looks
+        AdoptDisplays(now); // without any display the old layout stays
 }
 
 void UseCurrentDisplays() {

@@ -11,6 +11,6 @@ bool CenterOnWindow(HWND window, HWND target);
 // or not the view moved: then the map must be refreshed.
 bool FollowActiveWindow();
 
-// Pure: whether a window with this rectangle is out of view, but where the view can show it. Screen pixels;
-// `quorl` in desktop pixels.
+// Pure: whether the view should move to a window with this rectangle: its left or top edge or its middle is
+// outside the screen, but its middle where the view can show it. Screen pixels; `quorl` in desktop pixels.
 bool NeedToFollow(const RECT& rect, int screenW, int screenH, const RECT& quorl);

@@ -92,7 +92,7 @@ static void PostFold(const FoldRow& row) {
 
 // The row is a copy: a fold that starts meanwhile fills the table again.
 static void FoldOne(const FoldRule& rule, const FoldRow row) {
-    if (row.bMoves && FoldWindow(row, rule.timeout) == MOVE_REFUSED && rule.bReport)
+    if (row.bMoves && !IsIconic(row.window) && FoldWindow(row, rule.timeout) == MOVE_REFUSED && rule.bReport)
         MessageBoxA(nullptr, "Not a timeout! A window won't restore!", "ok", MB_OK);
     if (row.bHasNormalRect)
         FoldNormalRect(row.window);

@@ -90,7 +90,8 @@ void ShowView() {
 static void TakeForeground() {
     SetForegroundWindow(MainWnd);
     const HWND active = GetForegroundWindow();
-    LeftBehind.window = active != MainWnd ? active : nullptr;
+    if (active) // null while the foreground changes
+        LeftBehind.window = active != MainWnd ? active : nullptr;
 }
 
 // After the shift, which may have moved the window by a little more or less than the view.
@@ -118,7 +119,8 @@ bool ScrollView(HWND window, int x, int y, ScrollMode mode, int id) {
         return false;
     ShowCount(id);
     const RECT before = VDesk;
-    // A window that is activated afterwards would see its open menu closed.
+    // So that following does not scroll back. Not if a window is activated afterwards: losing the foreground
+    // in between would close its open menu.
     const bool bTakes = IsOn(ACTION_FOLLOW_ACTIVE) && mode != SV_WINDOW;
     if (bTakes)
         TakeForeground();

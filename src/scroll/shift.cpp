@@ -4,6 +4,7 @@
 #include "core/dpi.h"
 #include "core/rect.h"
 #include "core/state.h"
+#include "scroll/gather.h"
 #include "windows/locked_windows.h"
 #include "windows/window_table.h"
 
@@ -57,8 +58,9 @@ static POINT ShiftedCorner(const RECT& window, int dx, int dy, const RECT& vdesk
             ShiftedCoordinate(window.top, dy, Height(window), vdesk.top, quorl.bottom, border)};
 }
 
-// The window's request, or null. Windows are moved from the bottom of the table to the top and read from the
-// top: `next` is where the search starts, the request that was made before the last one found.
+// The window's request, or null. Requests are stored from the bottom of the table to the top and searched
+// from the top: the next match is usually the one before the last. `next` is where the search starts; it
+// wraps.
 static const RequestRow* FindRequest(HWND window, int* next) {
     for (int step = 0; step < num_requests; ++step) {
         const int index = (*next - step + num_requests) % num_requests;
@@ -105,7 +107,7 @@ static void MoveRow(ShiftRow& row) {
     if (IsOn(ACTION_RESTORE_MAXIMIZED) && !RestoreIfZoomed(row.window, &row.frame))
         return;
     if (bQuitting)
-        return; // the end of the session interrupted the restore
+        return GatherWindows(FOLD_AT_LOGOFF); // the session ended while the restore hid this window
     const POINT corner = ShiftedCorner(row.frame.visible, row.by.x, row.by.y, VDesk, Quorl, Options.border);
     if (PingMoveAndShow(row.window, row.frame, corner))
         Requests[num_requests++] = {row.window, corner};

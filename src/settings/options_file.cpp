@@ -98,8 +98,8 @@ static void ReadMapRect(LPCSTR file) {
     MoveWindow(MainWnd, moved.left, moved.top, Width(moved), Height(moved), TRUE);
 }
 
-// With the invisible frame, which a window that is not shown yet does not have when it is read again. Only
-// the frame may be to the left of the screen: a start ignores such a position, so it is corrected. If the
+// The rectangle of GetWindowRect: when it is loaded, the map is hidden and has no invisible frame yet.
+// Loading ignores a left edge of 0 or less, so if only the frame is left of the screen, 1 is stored. If the
 // rectangle cannot be read, the stored one stays.
 static void WriteMapRect(LPCSTR file) {
     RECT rect{};

@@ -203,8 +203,9 @@ bool RestoreIfZoomed(HWND window, WindowFrame* frame) {
         return true;
     if (!IsAliveToMove(window))
         return false;
+    const bool bActive = GetForegroundWindow() == window; // hiding it gives the foreground away
     ShowWindow(window, SW_HIDE);
-    ShowWindow(window, SW_SHOWNOACTIVATE); // unlike SW_RESTORE, leaves the focus where it is
+    ShowWindow(window, bActive ? SW_RESTORE : SW_SHOWNOACTIVATE);
     WindowFrame restored{};
     if (ReadWindowFrame(window, &restored))
         frame->margins = restored.margins; // narrower than those of a maximized window

@@ -20,7 +20,7 @@ struct WindowFrame {
 // False if the window is gone.
 bool ReadWindowFrame(HWND window, WindowFrame* frame);
 
-// The same, without the frame.
+// Only what the user sees of it.
 bool GetVisibleRect(HWND window, RECT* rect);
 
 // Whether the window processes messages: it responded to WM_NULL within SCROLL_TIMEOUT. Ask before a call
@@ -38,11 +38,11 @@ enum MoveResult {
 // there. A window that does not respond within `timeout` milliseconds stays where it is.
 MoveResult PingAndMove(HWND window, const WindowFrame& frame, POINT corner, UINT timeout);
 
-// The same within SCROLL_TIMEOUT, and shows the window that has moved, without activating it. True if it has
-// moved.
+// PingAndMove within SCROLL_TIMEOUT, which also shows the window that has moved, without activating it. True
+// if it has moved.
 bool PingMoveAndShow(HWND window, const WindowFrame& frame, POINT corner);
 
-// The same with WM_NULL as the ping, so that the window cannot change the position.
+// Moves the window's visible corner if it responds to WM_NULL, so that it cannot change the position.
 void MoveIfAlive(HWND window, const WindowFrame& frame, POINT corner);
 
 // Moves the window without waiting for it: a hung program obeys when it responds again.
@@ -77,12 +77,12 @@ bool IsListView(HWND window);
 // denies the foreground.
 bool ActivateWindow(HWND window);
 
-// The same, but a window that does not respond gets the foreground too: it is the one that the user works
-// with. False if Windows denies it.
+// ActivateWindow, but a window that does not respond gets the foreground too: it is the one that the user
+// works with. False if Windows denies it.
 bool ReturnForeground(HWND window);
 
-// How often a window of another program has been activated from here. GetForegroundWindow returns it only
-// once its program has processed that.
+// How often a window has been activated from here. Compare it to detect an activation: GetForegroundWindow
+// returns the old window until the program of the new one has handled it.
 int ActivationCount();
 
 // Makes the window the foreground window and gives it the focus, which also raises it. Does nothing if it

@@ -88,13 +88,13 @@ static bool HasBoth(LONG_PTR style, LONG_PTR first, LONG_PTR second) {
     return (style & first) && (style & second);
 }
 
-// Overlays, as of games and recorders, cover the whole screen: they would cover the map, and dragging on it
-// would hit them. A tool window that belongs to a program has an owner.
+// The styles of overlays, as of games and recorders. These would cover the map, and dragging on it would hit
+// them. A tool window that belongs to a program has an owner.
 static bool IsOverlay(HWND window) {
     const LONG_PTR style = GetWindowLongPtrA(window, GWL_EXSTYLE);
-    const bool bCovers = HasBoth(style, WS_EX_NOACTIVATE, WS_EX_TOOLWINDOW) ||
-                         HasBoth(style, WS_EX_LAYERED, WS_EX_TRANSPARENT);
-    return bCovers && !GetWindowLongPtrA(window, GWLP_HWNDPARENT);
+    const bool bOverlayStyle = HasBoth(style, WS_EX_NOACTIVATE, WS_EX_TOOLWINDOW) ||
+                               HasBoth(style, WS_EX_LAYERED, WS_EX_TRANSPARENT);
+    return bOverlayStyle && !GetWindowLongPtrA(window, GWLP_HWNDPARENT);
 }
 
 bool IsUserWindow(HWND window) {

@@ -31,7 +31,8 @@ TEST_F(Focus, StaysWhereItIsAtStartWhileScrollingAndOnTheMap) {
     Wait(2000);
     ShowWindow(other, SW_HIDE);
     Desk.clicksActivate = true;
-    WindowOf(OpenAndList("maximized", {600, 100, 900, 400})).style |= WS_MAXIMIZE;
+    for (const HWND window : {editor, OpenAndList("maximized", {600, 100, 900, 400})})
+        WindowOf(window).style |= WS_MAXIMIZE;
     for (const ActionId id :
          {ACTION_RESTORE_MAXIMIZED, ACTION_SCREEN_RIGHT, ACTION_SHOW_TOOLWIN, ACTION_SHOW_TOOLWIN})
         RunAction(id);

@@ -38,6 +38,11 @@ void Contract::TearDown() {
     Received.clear();
 }
 
+void HandleUntil(const std::function<bool()>& happened) {
+    for (int i = 0; i < 250 && !happened(); ++i)
+        HandleFor(20);
+}
+
 Numbers ReceivedOf(std::initializer_list<UINT> messages) {
     Numbers found;
     for (const MSG& received : Received)

@@ -28,6 +28,9 @@ Numbers ReceivedOf(std::initializer_list<UINT> messages);
 // The controls that sent this notification to their dialog, in order; then forgets all that was received.
 Numbers Notified(UINT code);
 
+// Handles messages until `happened`, or for 5 seconds.
+void HandleUntil(const std::function<bool()>& happened);
+
 // A window of this program, of class "Contract"; hidden unless the style says WS_VISIBLE.
 HWND OpenOwn(DWORD style = WS_POPUP, DWORD exStyle = 0, const RECT& rect = RECT_OF_WINDOWS,
              HWND owner = nullptr);

@@ -34,7 +34,7 @@ TEST_F(Input, MouseMessagesUseClientCoordinatesAndKeyStateFollowsTheMessage) {
     };
     const HWND window = OpenOwn(WS_POPUP | WS_VISIBLE, WS_EX_TOPMOST, {300, 300, 500, 400});
     MoveMouse(350, 340);
-    HandleFor(200);
+    HandleUntil([] { return LastOf(WM_MOUSEMOVE).lParam == MAKELPARAM(50, 40); });
     EXPECT_EQ(LastOf(WM_MOUSEMOVE).lParam, MAKELPARAM(50, 40));
     SetCapture(window);
     HoldKey(VK_LSHIFT, true);
@@ -43,7 +43,7 @@ TEST_F(Input, MouseMessagesUseClientCoordinatesAndKeyStateFollowsTheMessage) {
     MoveMouse(250, 280);
     PressMouse(VK_RBUTTON, false);
     HoldKey(VK_LSHIFT, false);
-    HandleFor(200);
+    HandleUntil([] { return LastOf(WM_RBUTTONUP).hwnd != nullptr; });
     EXPECT_EQ(down, (std::vector{1, 1, 1, 0}));
     EXPECT_EQ(LastOf(WM_RBUTTONDOWN).wParam, MK_RBUTTON | MK_SHIFT);
     EXPECT_EQ(static_cast<DWORD>(LastOf(WM_RBUTTONUP).lParam), MAKELPARAM(-50, -20))
@@ -70,7 +70,7 @@ TEST_F(Input, OtherProgramsWindowTakesTheForegroundButNotTheFocus) {
     EXPECT_EQ(GetForegroundWindow(), second) << "the focus activates";
     for (const HWND window : {other, first}) {
         EXPECT_TRUE(SetForegroundWindow(window));
-        HandleFor(100); // its program has to handle it
+        HandleUntil([window] { return GetForegroundWindow() == window; }); // its program has to handle it
         EXPECT_EQ(GetForegroundWindow(), window);
     }
 }
@@ -81,11 +81,10 @@ TEST_F(Input, PressOnAnInactiveWindowCanLeaveItInactive) {
     const HWND front = OpenOwn(WS_POPUP | WS_VISIBLE);
     SetForegroundWindow(front);
     MoveMouse(450, 380); // beside `front`
-    HandleFor(200);
-    for (const bool down : {true, false}) {
+    HandleUntil([] { return LastOf(WM_MOUSEMOVE).hwnd != nullptr; });
+    for (const bool down : {true, false})
         PressMouse(VK_RBUTTON, down);
-        HandleFor(100);
-    }
+    HandleUntil([] { return LastOf(WM_RBUTTONUP).hwnd != nullptr; });
     EXPECT_EQ(ReceivedOf({WM_MOUSEACTIVATE, WM_RBUTTONDOWN}), (Numbers{WM_MOUSEACTIVATE, WM_RBUTTONDOWN}));
     EXPECT_EQ(GetForegroundWindow(), front);
 }

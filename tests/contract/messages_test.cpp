@@ -91,12 +91,6 @@ TEST_F(Messages, PeekFindsTheWantedOneAndQuitWhateverTheFilter) {
     EXPECT_EQ(message.wParam, 7U);
 }
 
-TEST_F(Messages, RegisteredOneHasOneNumberPerName) {
-    const UINT created = RegisterWindowMessageA("TaskbarCreated"),
-               again = RegisterWindowMessageA("TaskbarCreated");
-    EXPECT_TRUE(created >= 0xC000 && created == again && created != RegisterWindowMessageA("QuorlContract"));
-}
-
 TEST_F(Messages, NotificationIconIsAddedOnceAndModifiedOrDeletedOnlyThen) {
     NOTIFYICONDATAA icon{};
     icon.cbSize = NOTIFYICONDATAA_V1_SIZE;

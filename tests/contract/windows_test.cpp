@@ -100,11 +100,6 @@ TEST_F(Windows, FromPointIsTheTopmostVisibleOneWithoutItsFarEdges) {
     EXPECT_EQ(WindowFromPoint({350, 350}), lower);
 }
 
-TEST_F(Windows, OpacityNeedsALayeredOne) {
-    EXPECT_TRUE(SetLayeredWindowAttributes(OpenOwn(WS_POPUP, WS_EX_LAYERED), 0, 128, LWA_ALPHA));
-    EXPECT_FALSE(SetLayeredWindowAttributes(OpenOwn(), 0, 128, LWA_ALPHA));
-}
-
 TEST_F(Windows, SetWindowPosCanMoveWithoutSizingRaisingOrActivating) {
     const HWND below = OpenOwn(WS_POPUP | WS_VISIBLE);
     const HWND above = OpenOwn(WS_POPUP | WS_VISIBLE);

@@ -12,24 +12,6 @@ static POINT AfterMouseAt(int x, int y) {
     return ViewCorner();
 }
 
-TEST_F(TwoDisplays, WindowsScrollThereAndBack) {
-    const std::vector<HWND> windows{OpenWindow("a", {-2500, -290, -2000, 300}),
-                                    OpenWindow("b", {-30, 0, 600, 400}),
-                                    OpenWindow("c", {1500, 800, 1900, 1000})};
-    const auto rects = [&] {
-        return std::vector{RectOf(windows[0]), RectOf(windows[1]), RectOf(windows[2])};
-    };
-    const auto before = rects();
-    Wait(2000);
-    for (const ActionId id : {ACTION_VIEW_RIGHT_MIN, ACTION_SCREEN_RIGHT, ACTION_SCREEN_DOWN}) {
-        RunAction(id);
-        EXPECT_EQ(RectOf(windows[2]), Moved(before[2], -VDesk.left, -VDesk.top)) << id;
-    }
-    EXPECT_EQ(ViewCorner(), (POINT{4480, 1440}));
-    Exit();
-    EXPECT_EQ(rects(), before);
-}
-
 TEST_F(TwoDisplays, OnlyTheOuterEdgesScroll) {
     ActionTable[ACTION_FOLLOW_MOUSE].value = 1;
     ActionTable[ACTION_SHIFT_SUPPRESS].value = 0;

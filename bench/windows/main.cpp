@@ -144,11 +144,23 @@ void Measure(const Operation& operation, int windows) {
     std::fflush(stdout);
 }
 
+// The taskbar appears with the first windows of a desktop and changes its work area; until that has settled
+// Quorl moves nothing.
+void WaitForDisplays() {
+    constexpr ULONGLONG SETTLED = 4000; // milliseconds
+    const ULONGLONG end = GetTickCount64() + SETTLED;
+    while (GetTickCount64() < end) {
+        HandlePending();
+        Sleep(10);
+    }
+}
+
 void MeasureWithWindows(int windows) {
     const HANDLE program = StartSelf("--play " + std::to_string(windows));
     while (CountProgramWindows() < windows)
         Sleep(50);
     WaitForIdle();
+    WaitForDisplays();
     PrepareOperations();
     for (int operation = 0; operation < num_operations; ++operation)
         Measure(Operations[operation], windows);

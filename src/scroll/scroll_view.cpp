@@ -97,7 +97,7 @@ static void TakeForeground() {
 // After the shift, which may have moved the window by a little more or less than the view.
 static void RecordLeftBehind() {
     RECT rect{};
-    if (GetVisibleRect(LeftBehind.window, &rect))
+    if (LeftBehind.window && GetVisibleRect(LeftBehind.window, &rect))
         LeftBehind.corner = DesktopCorner(rect);
 }
 

@@ -29,7 +29,7 @@ bool IsAlive(HWND window);
 
 enum MoveResult {
     MOVED,
-    NOT_MOVED,      // it is gone, its program has higher rights, or everything has been folded meanwhile
+    NOT_MOVED,      // it is gone, its program has higher rights, or nothing may move now
     MOVE_TIMED_OUT, // it did not respond in time
     MOVE_REFUSED,   // any other error
 };

@@ -124,10 +124,9 @@ int CopyText(const std::string& from, char* to, int limit) {
     return static_cast<int>(length);
 }
 
-std::string LowerCase(const std::string& text) {
-    std::string lower = text;
-    for (char& letter : lower)
+std::string LowerCase(std::string text) {
+    for (char& letter : text)
         if (letter >= 'A' && letter <= 'Z')
             letter = static_cast<char>(letter - 'A' + 'a');
-    return lower;
+    return text;
 }

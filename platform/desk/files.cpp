@@ -10,9 +10,11 @@ UINT GetWindowsDirectoryA(LPSTR folder, UINT size) {
 }
 
 std::string FileKey(const std::string& path) {
-    const std::string key = LowerCase(path);
-    const std::string prefix = LowerCase(FOLDER) + '\\';
-    return key.starts_with(prefix) ? key.substr(prefix.size()) : key;
+    static const std::string prefix = LowerCase(FOLDER) + '\\';
+    std::string key = LowerCase(path);
+    if (key.starts_with(prefix))
+        key.erase(0, prefix.size());
+    return key;
 }
 
 static BOOL FailWith(DWORD error) {

@@ -117,7 +117,7 @@ int TextTo(const std::string& utf8, LPARAM buffer, std::size_t limit);
 // Key of a file in `Desk.files`.
 std::string FileKey(const std::string& path);
 
-std::string LowerCase(const std::string& text);
+std::string LowerCase(std::string text);
 
 // Arithmetic on rectangles with any coordinates, computed in 64 bits and converted once.
 LONG Narrow(long long value);

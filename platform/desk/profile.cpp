@@ -2,9 +2,9 @@
 #include "internal.h"
 
 #include <algorithm>
-#include <map>
 #include <optional>
 #include <string_view>
+#include <unordered_map>
 
 namespace {
 
@@ -17,9 +17,9 @@ struct Line {
 struct Section {
     std::string text;
     std::string name;
-    std::size_t start;                   // offset after its heading, or npos
-    std::size_t end;                     // offset after its last non-blank line
-    std::map<std::string, Line> entries; // by lower-case key; the first of that name
+    std::size_t start;                             // offset after its heading, or npos
+    std::size_t end;                               // offset after its last non-blank line
+    std::unordered_map<std::string, Line> entries; // by lower-case key; the first of that name
 };
 
 } // namespace
@@ -183,21 +183,23 @@ static std::string WithoutHalfLetters(std::string text) {
 BOOL WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file) {
     if (CallFails("WritePrivateProfileStringA"))
         return FALSE;
-    if (Desk.protectedFiles.contains(FileKey(file))) {
+    const std::string path = FileKey(file);
+    if (Desk.protectedFiles.contains(path)) {
         SetLastError(ERROR_ACCESS_DENIED);
         return FALSE;
     }
     const std::string value = WithoutHalfLetters(text);
-    std::string& content = Desk.files[FileKey(file)];
+    std::string& content = Desk.files[path];
     const std::string lowerKey = LowerCase(key);
-    const Section& stored = SectionOf(content, section);
-    const bool isNew = !stored.entries.contains(lowerKey);
+    Section& stored = SectionOf(content, section);
+    const auto found = stored.entries.find(lowerKey);
+    const bool isNew = found == stored.entries.end();
     if (isNew && !content.empty() && content.back() != '\n')
         content += "\r\n";
     if (isNew && stored.start == std::string::npos)
         content += "[" + std::string(section) + "]\r\n";
-    Section& extended = SectionOf(content, section);
-    const Line target = isNew ? Line{extended.end, extended.end} : extended.entries[lowerKey];
+    Section& extended = isNew ? SectionOf(content, section) : stored;
+    const Line target = isNew ? Line{extended.end, extended.end} : found->second;
     const std::string line = std::string(key) + "=" + value + (isNew ? "\r\n" : "");
     content.replace(target.start, target.end - target.start, line);
     PutLine(&extended, lowerKey, target, line);

@@ -19,6 +19,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t leng
     FUZZED({reinterpret_cast<const char*>(data), length});
     if (testing::Test::HasFailure())
         std::abort();
-    ResetProgram(); // afterwards, or libFuzzer would take what is left for a leak and run the input again
+    ResetProgram();
     return 0;
 }

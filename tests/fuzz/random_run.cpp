@@ -275,14 +275,6 @@ void SaveWhatLoads() {
     RunAction(ACTION_SAVE_SETTINGS);
 }
 
-void ExpectSavedToLoad() {
-    SaveWhatLoads();
-    const std::string saved = Desk.files[SETTINGS_FILE];
-    RunAction(ACTION_LOAD_SETTINGS);
-    RunAction(ACTION_SAVE_SETTINGS);
-    EXPECT_EQ(Desk.files[SETTINGS_FILE], saved);
-}
-
 bool MovesWithOwner(const DeskWindow& window) {
     return window.owner && WindowOf(window.owner).movesOwned;
 }
@@ -383,8 +375,6 @@ void TestSession(std::string_view input) {
     ExpectScrollingToBeClamped();
     if (setup & STARTS_AGAIN)
         SaveWhatLoads();
-    else
-        ExpectSavedToLoad();
     ExpectWindowsAndResourcesBack(setup & LOGS_OFF, fixed);
 }
 

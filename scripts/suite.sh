@@ -35,20 +35,23 @@ suite_properties() {
 # The end-to-end tests that need two displays and a compositor.
 ON_DISPLAYS='TwoDisplays.*:Frames.*'
 
+# suite_alone NAME TIMEOUT COMMAND...: adds a command that uses a Wine desktop. It runs alone: on a busy machine a window
+# does not respond to Quorl within 100 ms, and stays where it is. Wine sometimes releases keys that tests hold down,
+# because no real keyboard holds them. So a failed one is tried a second time.
+suite_alone() {
+    local name=$1 timeout=$2; shift 2
+    suite_test "$name" $((2 * timeout + 10)) scripts/try-twice "$timeout" "$FAILED_ONCE/$name" "${wine_env[@]}" "$@"
+    suite_properties "$name" RUN_SERIAL TRUE
+}
+
 # suite_windows PREFIX TIMEOUT PROGRAM [FILTER]: adds the cases of a GoogleTest program on a Wine desktop. PROGRAM is a
-# path inside the environment of wine_env (wine.sh). They run alone: on a busy machine a window does not respond to
-# Quorl within 100 ms, and stays where it is.
-#
-# Wine sometimes releases keys that tests hold down, because no real keyboard holds them. So a failed case is tried a
-# second time.
+# path inside the environment of wine_env (wine.sh).
 suite_windows() {
     local prefix=$1 timeout=$2 program=$3 filter=${4:-*} list=$LOGS/$1list name
     "${wine_env[@]}" wine "$program" --gtest_list_tests "--gtest_filter=$filter" >"$list" 2>"$list.errors" </dev/null ||
         die "$program does not list its tests: $list.errors"
     for name in $(tr -d '\r' <"$list" | awk '/^[^ ]/ { suite = $1; next } { print suite $1 }'); do
-        suite_test "$prefix$name" $((2 * timeout + 10)) scripts/try-twice "$timeout" "$FAILED_ONCE/$prefix$name" \
-            "${wine_env[@]}" wine "$program" "--gtest_filter=$name"
-        suite_properties "$prefix$name" RUN_SERIAL TRUE
+        suite_alone "$prefix$name" "$timeout" wine "$program" "--gtest_filter=$name"
     done
 }
 

@@ -5,7 +5,7 @@
 #include "support/faults.h"
 #include "support/quorl_test.h"
 
-class Registry : public RunningQuorl {};
+using Registry = RunningQuorl;
 
 TEST_F(Registry, OpeningATemplateAgainRaisesItsDialogNearTheMiddle) {
     OpenDialog(MainWnd, DIALOG_FIND_WINDOW);
@@ -57,8 +57,13 @@ static void UseAllDialogs() {
 }
 
 TEST_F(Registry, DialogsStayUsableWhicheverCallFails) {
-    const auto scenario = [] {
+    const auto prepare = [] {
+        PrepareDesk();
+        StartQuorl();
+        HandleMessages();
         OpenWindow("mail", {2000, 300, 2400, 500});
+    };
+    const auto scenario = [] {
         Desk.boxAnswers.assign(20, IDOK);
         UseAllDialogs();
         Desk.fault.callsLeft = 0;
@@ -72,5 +77,5 @@ TEST_F(Registry, DialogsStayUsableWhicheverCallFails) {
         EXPECT_GE(num_regions + hidden, 1);
         EXPECT_EQ(Desk.unexpected, 0);
     };
-    EXPECT_GT(FailEachCall(scenario), 100);
+    EXPECT_GT(FailEachCall(prepare, scenario), 100);
 }

@@ -1,5 +1,5 @@
 // Actions that depend on the focus and the order of real windows; the in-memory desktop tests all others.
-#include "user.h"
+#include "shared/user.h"
 
 TEST(Actions, MoveTheActiveWindowAndToggleTopmost) {
     const HWND editor = OpenWindow("editor", EDITOR);

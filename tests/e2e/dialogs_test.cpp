@@ -1,4 +1,4 @@
-#include "user.h"
+#include "shared/user.h"
 
 TEST(Dialogs, NameRegionTakesASystemColor) {
     StartQuorl();

@@ -1,5 +1,5 @@
 // Invisible frames, with which a window at the screen's edge extends past it, and cloaked windows.
-#include "user.h"
+#include "shared/user.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // quorl.dll on its own: this program loads it and names a window, as quorl.exe does.
-#include "user.h"
+#include "shared/user.h"
 
 #include <tlhelp32.h>
 

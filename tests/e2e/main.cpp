@@ -1,5 +1,5 @@
-// One program, three uses: the end-to-end tests, the windows they open (--play), and the tour (--tour).
-#include "tour.h"
+// The end-to-end tests, and the windows they open (--play).
+#include "shared/user.h"
 
 namespace {
 
@@ -13,8 +13,6 @@ class CleanBetweenCases : public testing::EmptyTestEventListener {
 int main(int count, char** arguments) {
     if (PlayWindow(count, arguments))
         return 0;
-    if (count == 2 && std::string(arguments[1]) == "--tour")
-        return Tour();
     testing::InitGoogleTest(&count, arguments);
     testing::UnitTest::GetInstance()->listeners().Append(new CleanBetweenCases);
     return RUN_ALL_TESTS();

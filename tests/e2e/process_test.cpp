@@ -1,4 +1,4 @@
-#include "user.h"
+#include "shared/user.h"
 
 TEST(Process, WindowsReturnAfterACrashAndAtTheEndOfTheSession) {
     const HWND editor = OpenWindow("editor", EDITOR);

@@ -1,5 +1,5 @@
 // Scrolling other programs' windows, hung, dying and overriding ones among them.
-#include "user.h"
+#include "shared/user.h"
 
 // The window that was opened last is on top and is moved last, so all others have been by then.
 TEST(Scroll, ProgramsDoNotDelayOrHarmEachOther) {

@@ -1,6 +1,6 @@
 // Random use of Quorl among real programs, hung and dying ones included, and sudden ends of its process.
 //   QUORL_SOAK="STEPS KILLS SEED"   how long; short by default
-#include "user.h"
+#include "shared/user.h"
 
 #include <psapi.h>
 

@@ -1,5 +1,5 @@
 // A second display left of the primary one, where coordinates are negative.
-#include "user.h"
+#include "shared/user.h"
 
 namespace {
 

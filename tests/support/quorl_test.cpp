@@ -2,6 +2,7 @@
 #include "support/quorl_test.h"
 
 #include "app/main.h"
+#include "fuzz/reset.h"
 #include "regions/region_table.h"
 #include "status/status_strip.h"
 #include "windows/window_table.h"
@@ -10,6 +11,17 @@
 #include <ostream>
 
 HookRecord Hook;
+
+namespace {
+
+class ResetBeforeCases : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { ResetProgram(); }
+};
+
+const bool ResetsBeforeCases =
+    (testing::UnitTest::GetInstance()->listeners().Append(new ResetBeforeCases), true);
+
+} // namespace
 
 template <typename Function>
 static FARPROC Export(Function* function) {

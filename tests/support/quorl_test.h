@@ -9,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-// Each test runs in a process of its own, so nothing is reset.
 // A screen of 1024 by 768, the optional system functions, and a hook library that records its calls.
 void PrepareDesk();
 

@@ -1,4 +1,4 @@
-#include "user.h"
+#include "shared/user.h"
 
 #include <fstream>
 
@@ -257,7 +257,11 @@ void Press(HWND window) {
 }
 
 void CloseBy(HWND dialog, int id) {
-    Retry([dialog] { return !IsWindow(dialog); }, [dialog, id] { Press(GetDlgItem(dialog, id)); });
+    Retry([dialog] { return !IsWindow(dialog); },
+          [dialog, id] {
+              SetForegroundWindow(dialog); // another one may cover the button
+              Press(GetDlgItem(dialog, id));
+          });
     Require(WaitForEnd(dialog), "the end of the dialog");
 }
 

@@ -1,20 +1,18 @@
-// The tour's frame: demo programs, output, pictures, and checks that end the tour if something is missing.
+// What the chapters share: demo programs, output, pictures, and checks that end the tour if something is
+// missing.
 #pragma once
 
-#include "user.h"
-
-// Runs real programs by real keys and prints each step in one line, with numbers read back from the windows.
-// A line "picture NAME" asks the caller for a picture of the screen; the tour continues when it reads a line.
-// Returns the exit code: 0 if every check held. Without pictures the parts of the tour are test cases.
-int Tour();
+#include "shared/user.h"
 
 struct Chapter {
     const char* title;
     void (*run)();
 };
 
-// A walk through the dialogs. Each chapter begins and ends with the view at the desktop's first screen.
-extern const std::vector<Chapter> DialogChapters;
+// First keys, map, menu, regions and mouse; then the dialogs, where each chapter begins and ends with the
+// view at the desktop's first screen.
+extern const std::vector<Chapter> DesktopChapters, DialogChapters;
+void QuitAtTheEnd();
 
 struct DemoProgram {
     const char* name;
@@ -29,11 +27,12 @@ extern DemoProgram Programs[NUM_PROGRAMS];
 // Prints one line.
 void Say(const char* format, ...);
 
-// Asks the caller for a picture of the screen and waits until it is taken; not in a test.
+// Asks the caller for a picture of the screen and waits until it is taken.
 void TakePicture(const char* name);
 
 // Prints where all programs are, and requires what the view at this point of the desktop shows of them; or
 // presses keys first.
 void SeeView(const char* step, LONG x, LONG y);
 void SeeKeys(const char* step, std::initializer_list<WORD> keys, LONG x, LONG y);
+bool ViewIsAt(LONG x, LONG y);
 void SayRect(const char* step, const char* name, HWND window);

@@ -1,61 +1,5 @@
-// The tour: what Quorl does, shown on a virtual screen.
+// The chapters of the tour that use keys, map, menu, regions and the mouse.
 #include "tour.h"
-
-#include <cstdarg>
-
-DemoProgram Programs[NUM_PROGRAMS] = {
-    {"notepad", "notepad", "Notepad", {60, 250, 560, 640}, nullptr},
-    {"winemine", "winemine", "WineMine", {640, 330, 640, 330}, nullptr},
-    {"clock", "clock", "CLClass", {700, 80, 920, 300}, nullptr},
-    {"regedit", "regedit", "RegEdit_RegEdit", {1330, 320, 1930, 670}, nullptr},
-};
-static bool TakesPictures;
-
-void Say(const char* format, ...) {
-    va_list values;
-    va_start(values, format);
-    vprintf(format, values);
-    va_end(values);
-    printf("\n");
-    fflush(stdout);
-}
-
-void TakePicture(const char* name) {
-    char line[16];
-    if (!TakesPictures)
-        return;
-    Sleep(500); // until the programs have painted
-    Say("picture %s", name);
-    Require(fgets(line, sizeof line, stdin) != nullptr, "an answer from the one who takes the pictures");
-}
-
-static bool ViewIsAt(LONG x, LONG y) {
-    return std::all_of(std::begin(Programs), std::end(Programs), [&](const DemoProgram& program) {
-        return WindowRect(program.window) == Moved(program.home, -x, -y);
-    });
-}
-
-void SeeView(const char* step, LONG x, LONG y) {
-    std::string report;
-    for (const DemoProgram& program : Programs) {
-        const RECT now = Eventually([&] { return WindowRect(program.window); }, Moved(program.home, -x, -y));
-        report += std::string(report.empty() ? "" : "; ") + program.name + " at " + std::to_string(now.left) +
-                  ", " + std::to_string(now.top);
-    }
-    Say("  %s: %s", step, report.c_str());
-    Require(ViewIsAt(x, y), "the view at " + std::to_string(x) + ", " + std::to_string(y));
-}
-
-void SeeKeys(const char* step, std::initializer_list<WORD> keys, LONG x, LONG y) {
-    Require(PressKeys(keys), step);
-    SeeView(step, x, y);
-}
-
-void SayRect(const char* step, const char* name, HWND window) {
-    const RECT now = WindowRect(window);
-    Say("  %s: %s is at %ld, %ld and %ld x %ld in size", step, name, now.left, now.top, now.right - now.left,
-        now.bottom - now.top);
-}
 
 namespace {
 
@@ -292,59 +236,22 @@ void PushAtTheEdge() {
     MoveMouse(500, 600);
 }
 
-void End() {
+} // namespace
+
+void QuitAtTheEnd() {
     Quit();
     SeeAllFolded();
 }
 
-const std::vector<Chapter> DefaultChapters = {
+const std::vector<Chapter> DesktopChapters = {
     {"Four programs and Quorl", Start},
     {"Keys move the view over the desktop", UseTheKeys},
     {"The map reacts to the mouse", ClickOnTheMap},
     {"The map is dragged to another position", DragTheMap},
     {"The menu opens at the mouse", UseTheMenu},
     {"Quitting brings every window back", QuitByTheMenu},
-};
-const std::vector<Chapter> SettingsChapters = {
     {"Regions and keys of one's own, from a settings file", StartWithSettings},
     {"Regions are reached by keys and by the menu", VisitRegions},
     {"A box on the map is a handle to its window", DragABox},
     {"The mouse pushes the view at the screen's edge", PushAtTheEdge},
 };
-
-void RunChapters(const std::vector<Chapter>& chapters) {
-    for (const Chapter& chapter : chapters) {
-        Say("%s", chapter.title);
-        chapter.run();
-    }
-}
-
-} // namespace
-
-int Tour() {
-    TakesPictures = true;
-    CleanDesktop();
-    for (const auto* const part : {&DefaultChapters, &SettingsChapters, &DialogChapters})
-        RunChapters(*part);
-    End();
-    CleanDesktop();
-    return 0;
-}
-
-TEST(Tour, DefaultKeysMapAndMenuWork) {
-    NEEDS(IsWine(), "the programs that come with Wine");
-    RunChapters(DefaultChapters);
-}
-
-TEST(Tour, RegionsAndKeysFromTheFileWork) {
-    NEEDS(IsWine(), "the programs that come with Wine");
-    RunChapters(SettingsChapters);
-    End();
-}
-
-TEST(Tour, EachDialogWorks) {
-    NEEDS(IsWine(), "the programs that come with Wine");
-    StartWithSettings();
-    RunChapters(DialogChapters);
-    End();
-}

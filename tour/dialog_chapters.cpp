@@ -61,6 +61,15 @@ void ComposeMenu() {
     SeeSaved("OK keeps the menu", "quorl_menu", "54|55|74|77|49|-1|56|57|-1|59|52");
 }
 
+void ChooseColor(HWND dialog) {
+    PressOnly(Control(dialog, IDC_REGION_COLOR));
+    const HWND colors = WaitForBox("Color");
+    int box = 706; // the first of three edit boxes
+    for (const char* const part : {"200", "100", "50"})
+        TypeOver(Control(colors, box++), part);
+    CloseBy(colors, IDOK);
+}
+
 void NameTheView() {
     SeeKeys("Ctrl+Alt+Q", {VK_CONTROL, VK_MENU, 'Q'}, SCREEN_W, 0);
     const HWND dialog = OpenDialog(ACTION_MARK_REGION, "Name Region");
@@ -69,8 +78,9 @@ void NameTheView() {
     Say("  the name is typed: %s", name().c_str());
     Require(name() == "Notes", "the name");
     TakePicture("13-name-region");
+    ChooseColor(dialog);
     CloseBy(dialog, IDOK);
-    SeeSaved("OK makes a region of the view", "num_regions", "4");
+    SeeSaved("OK makes a region of the view", "Region3", "Notes|1024|0|2048|768|3302600");
     GoHome();
     SeeKeys("Ctrl+Alt+Shift+3 jumps to Notes", {VK_CONTROL, VK_MENU, VK_SHIFT, '3'}, SCREEN_W, 0);
     GoHome();

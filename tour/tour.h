@@ -2,7 +2,7 @@
 // missing.
 #pragma once
 
-#include "shared/user.h"
+#include "dialog_user.h"
 
 struct Chapter {
     const char* title;

@@ -210,7 +210,8 @@ TEST(Soak, NextRunAfterAKillReturnsTheWindowsAndFindsCompleteSettings) {
     NEEDS(IsWine(), "Wine: it types and clicks anywhere");
     Prepare();
     Start();
-    ExpectSaved("num_regions", "0");
+    RunAction(ACTION_SAVE_SETTINGS);
+    EXPECT_EVENTUALLY(Stored("num_regions"), "0");
     QuitAndExpectAllOnScreen();
     for (int kill = 0; kill < Kills && !testing::Test::HasFailure(); ++kill) {
         const HANDLE quorl = Start();

@@ -56,18 +56,16 @@ RECT RectAfterMoving(HWND window, POINT to);
 POINT MousePosition();
 
 std::string TextOf(HWND window);
-HWND OpenedMenu(); // null if none is open
 
-// Quorl's settings file: a key; all lines, each with a terminator; a key after Quorl has saved.
+// Quorl's settings file: a key; all lines, each with a terminator.
 std::string Stored(const std::string& key);
 void StoreSettings(const char* lines);
-void ExpectSaved(const std::string& key, const std::string& wanted);
 
 // Requires a dialog or message box with this caption.
 HWND WaitForBox(const char* caption);
-// Answers the open question with Yes and requires exit code 0; or asks Quorl to close first.
-void AnswerYesToQuit();
+// Asks Quorl to close and answers the question with Yes; RequireExit requires that it has ended with code 0.
 void Quit();
+void RequireExit();
 // True once the window is destroyed.
 bool WaitForEnd(HWND window);
 // STILL_ACTIVE after the timeout.
@@ -82,31 +80,3 @@ void Retry(Happened happened, Act act) {
             return;
     }
 }
-
-// Runs the action and requires the dialog with this title.
-HWND OpenDialog(int action, const char* title);
-// The same by a button of an open dialog, which is then closed by its OK.
-HWND OpenByButton(HWND dialog, int button, const char* title);
-
-// The dialog's control as soon as it exists; null after the timeout.
-HWND Control(HWND dialog, int id);
-// The id of the dialog's focused control; 0: none.
-int Focused(HWND dialog);
-
-// Clicks into the middle of a window, or at a point of its client area, and waits until its program has
-// handled it; PressOnly does not wait, for a click that opens something modal.
-void Press(HWND window);
-void PressAt(HWND window, POINT at);
-void PressOnly(HWND window);
-
-// Closes the dialog by a button or a key.
-void CloseBy(HWND dialog, int id);
-void CloseByKey(HWND dialog, WORD key);
-
-// Replaces the text of an edit box; letters, digits and blanks.
-void TypeOver(HWND edit, const std::string& text);
-std::string ControlText(HWND dialog, int id);
-
-// List boxes. PressItem requires an item with this text.
-std::vector<std::string> ListTexts(HWND list);
-void PressItem(HWND list, const std::string& text);

@@ -2,6 +2,18 @@
 
 #include <algorithm>
 
+RECT RectAfterMoving(HWND window, POINT to) {
+    MoveMouse(to.x - 1, to.y);
+    MoveMouse(to.x, to.y);
+    return WindowRect(window);
+}
+
+POINT MousePosition() {
+    POINT position{};
+    GetCursorPos(&position);
+    return position;
+}
+
 HWND OpenedMenu() {
     return FindVisible(0, "#32768", nullptr);
 }

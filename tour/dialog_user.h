@@ -1,7 +1,11 @@
-// What a user does in the dialogs and menus of Quorl. Positions are screen pixels.
+// What a user does with the mouse, and in the dialogs and menus of Quorl. Positions are screen pixels.
 #pragma once
 
 #include "shared/user.h"
+
+// Where a window is after the mouse has moved there. Under Wine a single move is lost now and then.
+RECT RectAfterMoving(HWND window, POINT to);
+POINT MousePosition();
 
 HWND OpenedMenu(); // null if none is open
 

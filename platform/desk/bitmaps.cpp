@@ -1,7 +1,6 @@
 // Memory contexts and bitmaps. What is drawn into a bitmap is kept there and reaches a window by BitBlt.
 #include "internal.h"
 
-#include <algorithm>
 #include <utility>
 
 HDC CreateCompatibleDC(HDC context) {
@@ -26,16 +25,11 @@ HBITMAP CreateCompatibleBitmap(HDC context, int width, int height) {
     return reinterpret_cast<HBITMAP>(bitmap);
 }
 
-static void Replay(const DeskContext& to, const RECT& target, DeskDrawCall drawn, LONG dx, LONG dy) {
-    const RECT clip = OffsetBy(drawn.clip, dx, dy);
-    drawn.window = to.window;
+static void Replay(HWND window, DeskDrawCall drawn, LONG dx, LONG dy) {
+    drawn.window = window;
     drawn.rect = OffsetBy(drawn.rect, dx, dy);
     for (POINT& point : drawn.points)
         point = {point.x + dx, point.y + dy};
-    drawn.clip = {std::max({clip.left, target.left, to.clip.left}),
-                  std::max({clip.top, target.top, to.clip.top}),
-                  std::min({clip.right, target.right, to.clip.right}),
-                  std::min({clip.bottom, target.bottom, to.clip.bottom})};
     Desk.drawCalls.push_back(drawn);
 }
 
@@ -48,10 +42,9 @@ BOOL BitBlt(HDC to, int x, int y, int width, int height, HDC from, int fromX, in
         return FALSE;
     if (!Desk.recording)
         return TRUE;
-    const RECT area = RectAt(x, y, width, height);
-    RecordDraw(*target, "BitBlt", area);
+    RecordDraw(*target, "BitBlt", RectAt(x, y, width, height));
     for (const DeskDrawCall& drawn : static_cast<const DeskObject*>(source->bitmap)->drawCalls)
-        Replay(*target, area, drawn, x - fromX, y - fromY);
+        Replay(target->window, drawn, x - fromX, y - fromY);
     return TRUE;
 }
 

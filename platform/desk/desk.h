@@ -153,7 +153,6 @@ struct DeskDrawCall {
     HGDIOBJ brush = nullptr;
     COLORREF fill = 0; // of the brush
     int rop = R2_COPYPEN;
-    RECT clip{};
     std::vector<POINT> points; // Polygon
     COLORREF textColor = 0;
 };
@@ -176,8 +175,7 @@ struct DeskContext {
     HWND window;              // null: a memory context
     HGDIOBJ font, pen, brush; // selected objects
     int rop;
-    POINT at;  // current position
-    RECT clip; // client pixels
+    POINT at; // current position
     bool live;
     int backMode = 2;         // OPAQUE
     HGDIOBJ bitmap = nullptr; // of a memory context

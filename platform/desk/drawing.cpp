@@ -63,7 +63,7 @@ static HGDIOBJ StockObject(DeskObjectKind kind) {
     return object;
 }
 
-static HDC ContextFor(HWND window, const RECT& clip) {
+static HDC ContextFor(HWND window) {
     const auto gone = std::find_if(Desk.contexts.begin(), Desk.contexts.end(),
                                    [](const DeskContext& context) { return !context.live; });
     DeskContext& context = gone == Desk.contexts.end() ? Desk.contexts.emplace_back() : *gone;
@@ -73,7 +73,6 @@ static HDC ContextFor(HWND window, const RECT& clip) {
     context.pen = StockObject(DeskObjectKind::Pen);
     context.brush = StockObject(DeskObjectKind::Brush);
     context.rop = R2_COPYPEN;
-    context.clip = clip;
     context.live = 1;
     return reinterpret_cast<HDC>(&context);
 }
@@ -95,7 +94,7 @@ HDC BeginPaint(HWND window, PAINTSTRUCT* paint) {
     DeskWindow* record = CallFails("BeginPaint") ? nullptr : ResolveHandle(window);
     if (!record)
         return nullptr;
-    paint->hdc = ContextFor(window, record->invalid);
+    paint->hdc = ContextFor(window);
     paint->rcPaint = record->invalid;
     const int needsErase = record->needsErase;
     record->needsPaint = record->needsErase = false;
@@ -109,11 +108,11 @@ BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) {
 }
 
 HDC OpenContext(const DeskWindow& window) {
-    return ContextFor(window.handle, ClientRect(window));
+    return ContextFor(window.handle);
 }
 
 HDC OpenMemoryContext() {
-    const HDC context = ContextFor(nullptr, {});
+    const HDC context = ContextFor(nullptr);
     LiveContext(context)->bitmap = StockObject(DeskObjectKind::Bitmap);
     return context;
 }

@@ -1,7 +1,11 @@
 #include "actions/hotkeys.h"
 
+#include "actions/key_names.h"
 #include "app/main.h"
 #include "support/quorl_test.h"
+
+#include <cstdio>
+#include <span>
 
 class Hotkeys : public QuorlTest {};
 
@@ -13,25 +17,10 @@ TEST_F(Hotkeys, TranslateKeyValuesToVirtualKeys) {
         EXPECT_EQ(VirtualKey(key), key);
     EXPECT_EQ(VirtualKey('!'), 0x100 + '1') << "the high byte is the shift state";
     EXPECT_EQ(VirtualKey(0x100 + '1'), '1') << "which is dropped when a stored key is read";
-}
-
-TEST_F(Hotkeys, WithoutAKeyInTheLayoutAreRefusedAndStayStored) {
-    Desk.keyScans = {{'!', -1}};
-    Desk.files["quorl.ini"] = "[Quorl]\r\nAction28=-1|-1|6|33|0\r\n";
-    AnswerBoxes({IDOK});
-    ASSERT_TRUE(StartQuorl());
-    EXPECT_EQ(LastBox(), "Hotkey registeration failed (87): \n\t\"Move one desktop to the left\" (28)/Error");
-    EXPECT_EQ(CountCalls("RegisterHotKey"), 10);
-    EXPECT_EQ(ActionTable[ACTION_SCREEN_LEFT].vk, '!');
-}
-
-TEST_F(Hotkeys, AreRegisteredOnceAfterAllSettingsAreRead) {
-    Desk.files["quorl.ini"] = "[Quorl]\r\nAction28=-1|-1|6|39|0\r\nAction30=-1|-1|6|37|0\r\n"; // swapped
-    ASSERT_TRUE(StartQuorl());
-    EXPECT_EQ(CountCalls("RegisterHotKey"), 11) << "no default that the file replaces";
-    PressHotkey(MOD_CONTROL | MOD_ALT, VK_LEFT);
-    HandleMessages();
-    EXPECT_EQ(VDesk.left, 1024);
+    int number = 0;
+    for (const KeyName& name : std::span(KeyNames, NUM_KEY_NAMES)) // F1 to F24
+        EXPECT_TRUE(std::sscanf(name.name, "F%d", &number) != 1 || name.vk == VK_F1 + number - 1)
+            << name.name;
 }
 
 static std::string KeyOf(ActionId id) {
@@ -49,15 +38,6 @@ TEST_F(Hotkeys, OfTheShellAreTakenWithCtrlAndOnlyARefusalOfBothIsReported) {
                          "Another program has already registered the hotkey combination./Error");
     EXPECT_EQ(Desk.hotkeys.size(), 3U + 10U) << "the others are registered";
     EXPECT_EQ(KeyOf(ACTION_LOCK_WINDOW) + ' ' + KeyOf(ACTION_UNLOCK_WINDOW), "-1|-1 68|38");
-}
-
-TEST_F(Hotkeys, OfTheShellInTheSettingsFileAreReported) {
-    Desk.hotkeys = {{nullptr, 1, MOD_WIN, VK_DOWN}};
-    Desk.files["quorl.ini"] = "[Quorl]\r\nAction40=-1|-1|64|40|0\r\n";
-    AnswerBoxes({IDOK});
-    ASSERT_TRUE(StartQuorl());
-    EXPECT_EQ(Desk.boxes.size(), 1U);
-    EXPECT_EQ(KeyOf(ACTION_LOCK_WINDOW), "64|40");
 }
 
 TEST_F(Hotkeys, QueuedByKeyboardRepeatAreDropped) {

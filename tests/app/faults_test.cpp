@@ -1,5 +1,4 @@
 #include "app/main.h"
-#include "support/faults.h"
 #include "support/quorl_test.h"
 
 static bool IsOffScreen(HWND window) {

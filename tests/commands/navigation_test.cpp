@@ -38,12 +38,3 @@ TEST_F(Navigation, CyclesThroughWindowsCompletelyInView) {
     RunAction(ACTION_CYCLE_IN_VIEW);
     EXPECT_EQ(Desk.foreground, bottom);
 }
-
-TEST_F(Navigation, TilesWindowsPartlyInView) {
-    const HWND partly = OpenWindow("partly", {1000, 700, 1200, 900});
-    OpenAndList("beside", {1024, 0, 1100, 100});
-    RunAction(ACTION_TILE_VERTICALLY);
-    EXPECT_EQ(Desk.tilings.back().how, MDITILE_VERTICAL);
-    EXPECT_EQ(Desk.tilings.back().rect, Rect(0, 0, 1024, 768));
-    EXPECT_EQ(Desk.tilings.back().windows, std::vector<HWND>{partly});
-}

@@ -1,4 +1,4 @@
-// Invalid regions, bitmaps and text extents.
+// Invalid regions and text extents.
 #include "contract/contract_test.h"
 
 namespace {
@@ -64,22 +64,6 @@ TEST_F(Painting, TextExtentAddsUpAndALongTextEndsInAnEllipsis) {
     const std::string drawn = text.substr(0, text.find('\0'));
     EXPECT_TRUE(drawn.size() > 8 && drawn.size() < all.size() && drawn.ends_with("H...")) << drawn;
     EXPECT_TRUE(ReleaseDC(window, context));
-}
-
-TEST_F(Painting, BitmapIsCopiedToTheWindow) {
-    const HDC screen = GetDC(window);
-    const HDC memory = CreateCompatibleDC(screen);
-    const HGDIOBJ bitmap = CreateCompatibleBitmap(screen, 20, 20), brush = CreateSolidBrush(RGB(10, 200, 30));
-    const HGDIOBJ noBitmap = SelectObject(memory, bitmap), noBrush = SelectObject(memory, brush);
-    const HGDIOBJ blackPen = SelectObject(memory, GetStockObject(WHITE_PEN));
-    Rectangle(memory, 0, 0, 20, 20);
-    EXPECT_TRUE(BitBlt(screen, 0, 0, 20, 20, memory, 0, 0, SRCCOPY));
-    EXPECT_EQ(GetPixel(screen, 10, 10), COLORREF{RGB(10, 200, 30)});
-    EXPECT_EQ(GetPixel(screen, 0, 10), COLORREF{RGB(255, 255, 255)});
-    SelectObject(memory, blackPen);
-    SelectObject(memory, noBrush);
-    SelectObject(memory, noBitmap);
-    EXPECT_TRUE(DeleteObject(bitmap) && DeleteObject(brush) && DeleteDC(memory) && ReleaseDC(window, screen));
 }
 
 } // namespace

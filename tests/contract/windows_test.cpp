@@ -66,15 +66,6 @@ TEST_F(Windows, TitleIsFoundWholeInAnyCaseAndCutToTheBuffer) {
     }
 }
 
-TEST_F(Windows, TitleIsTheSameForBothKindsOfCalls) {
-    const HWND window = OpenOwn();
-    EXPECT_TRUE(SetWindowTextW(window, L"a title"));
-    char ansi[16] = "";
-    WCHAR wide[16] = {};
-    EXPECT_TRUE(GetWindowTextA(window, ansi, sizeof ansi) == 7 && GetWindowTextW(window, wide, 4) == 3);
-    EXPECT_TRUE(ansi == std::string("a title") && wide == std::wstring(L"a t"));
-}
-
 TEST_F(Windows, ShowReturnsThePreviousStateAndActivatesOnlyAHiddenOne) {
     const HWND other = OpenOwn(WS_POPUP | WS_VISIBLE);
     const HWND window = OpenOwn();
@@ -89,15 +80,6 @@ TEST_F(Windows, ShowReturnsThePreviousStateAndActivatesOnlyAHiddenOne) {
     EXPECT_FALSE(ShowWindow(window, SW_SHOWNA));
     EXPECT_TRUE(IsWindowVisible(window));
     EXPECT_EQ(GetForegroundWindow(), other);
-}
-
-TEST_F(Windows, FromPointIsTheTopmostVisibleOneWithoutItsFarEdges) {
-    const HWND lower = OpenOwn(WS_POPUP | WS_VISIBLE, WS_EX_TOPMOST, {200, 200, 400, 400});
-    const HWND upper = OpenOwn(WS_POPUP | WS_VISIBLE, WS_EX_TOPMOST, {300, 300, 500, 500}, lower);
-    EXPECT_EQ(WindowFromPoint({499, 499}), upper);
-    EXPECT_NE(WindowFromPoint({500, 499}), upper);
-    ShowWindow(upper, SW_HIDE);
-    EXPECT_EQ(WindowFromPoint({350, 350}), lower);
 }
 
 TEST_F(Windows, SetWindowPosCanMoveWithoutSizingRaisingOrActivating) {

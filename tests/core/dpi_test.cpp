@@ -52,11 +52,3 @@ TEST_F(ScaledDisplay, ScalesMapStripSpinnerAndColumnsByItsOwnDpi) {
     EXPECT_EQ(std::count_if(Desk.objects.begin(), Desk.objects.end(), isFont), 2)
         << "the strip's and the system's";
 }
-
-TEST_F(ScaledDisplay, ScalesByTheDpiOfTheScreenBeforeWindows10) {
-    Desk.pixelsPerInch = 120;
-    StoreFile("quorl_pos.left=10\nquorl_pos.top=20\nquorl_pos.right=210\nquorl_pos.bottom=120\n");
-    ASSERT_TRUE(StartQuorl());
-    EXPECT_EQ(RectOf(MainWnd), Rect(10, 20, 210, 120)) << "stored";
-    EXPECT_EQ(ColumnWidths(), (std::vector<LPARAM>{150, 312}));
-}

@@ -70,11 +70,3 @@ TEST_F(CustomizeMenuDialog, CancelRevertsEdits) {
         EXPECT_EQ(quorl_menu_count, id == IDOK ? 1 : 2);
     }
 }
-
-TEST_F(CustomizeMenuDialog, ShowsAMenuLoadedMeanwhileBeforeChangingIt) {
-    OpenWith({54, 57, 59});
-    Choose(IDC_MENU_LIST, 1);
-    SetMenu({54, 56, 59});
-    EXPECT_EQ(MenuAfter(IDC_MENU_REMOVE), "54 56 59 beep");
-    EXPECT_EQ(Control(IDC_MENU_LIST).items.at(1).data, 56);
-}

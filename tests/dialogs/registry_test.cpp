@@ -2,7 +2,6 @@
 
 #include "regions/region_table.h"
 #include "resources/control_ids.h"
-#include "support/faults.h"
 #include "support/quorl_test.h"
 
 using Registry = RunningQuorl;
@@ -32,14 +31,6 @@ TEST_F(Registry, OwnedDialogsOutliveTheirOwner) {
     EXPECT_TRUE(IsWindow(MainWnd));
     EXPECT_FALSE(IsWindow(help));
     EXPECT_EQ(WindowOf(DialogHandles[DIALOG_ABOUT]).owner, MainWnd);
-}
-
-TEST_F(Registry, ADialogIsNotCreatedWhileAnotherIs) {
-    pSetLayeredWindowAttributes = nullptr; // shows a box when the dialog is created
-    AnswerBoxes({IDOK});
-    Desk.duringBox = [] { EXPECT_FALSE(OpenDialog(MainWnd, DIALOG_ABOUT)); };
-    EXPECT_TRUE(OpenDialog(MainWnd, DIALOG_TRANSPARENCY));
-    EXPECT_EQ(DialogHandles[DIALOG_ABOUT], nullptr);
 }
 
 static void UseAllDialogs() {

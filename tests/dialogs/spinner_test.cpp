@@ -38,12 +38,3 @@ TEST_F(Spinner, AHeldButtonRepeatsUntilItIsReleased) {
     SetCapture(MainWnd);
     EXPECT_EQ(ValueAfter(2000), 2) << "losing the capture releases the button";
 }
-
-TEST_F(Spinner, StepsStopAtTheLimits) {
-    for (const auto& [from, button, to] : {std::tuple{1, DOWN, 0}, {99, UP, 100}, {150, UP, 100}}) {
-        StateOfSpinner(spinner)->value = from;
-        Press(button);
-        EXPECT_EQ(ValueAfter(500), to);
-        Release();
-    }
-}

@@ -57,16 +57,6 @@ TEST_F(Reach, AMinimizedWindowIsRestoredInReach) {
     EXPECT_EQ(Desk.foreground, active);
 }
 
-TEST_F(Reach, AHungWindowMovesWhenItRespondsAgain) {
-    const HWND minimized = OpenWindow("minimized", {2000, 1200, 2400, 1500});
-    ShowWindow(minimized, SW_MINIMIZE);
-    WindowOf(minimized).response = record.response = DeskResponse::Hung;
-    Exit();
-    EXPECT_EQ(Desk.blockedCalls, 0);
-    WakeWindow(window);
-    EXPECT_EQ(RectOf(window).left, 80);
-}
-
 TEST_F(Reach, TheEndOfTheSessionDuringAFoldReplacesIt) {
     const HWND next = OpenWindow("next", {100, 100, 500, 400});
     record.response = DeskResponse::Fails; // the session ends while the message box about it is open

@@ -85,10 +85,9 @@ class DisplayChange : public TwoDisplays {
 
     POINT DesktopCorner(HWND window) {
         const RECT rect = RectOf(window);
-        return {rect.left - DesktopBoundsLeft() + VDesk.left, rect.top - DesktopBoundsTop() + VDesk.top};
+        return {rect.left - GetSystemMetrics(SM_XVIRTUALSCREEN) + VDesk.left,
+                rect.top - GetSystemMetrics(SM_YVIRTUALSCREEN) + VDesk.top};
     }
-    static LONG DesktopBoundsLeft() { return GetSystemMetrics(SM_XVIRTUALSCREEN); }
-    static LONG DesktopBoundsTop() { return GetSystemMetrics(SM_YVIRTUALSCREEN); }
 };
 
 TEST_F(DisplayChange, TheViewShowsTheSamePartOfTheDesktop) {
@@ -153,17 +152,6 @@ TEST_F(DisplayChange, TheMapComesBackAndTheChosenSizeIsSaved) {
     RunAction(ACTION_ADD_BOTTOM);
     RunAction(ACTION_SAVE_SETTINGS);
     EXPECT_NE(Desk.files["quorl.ini"].find("Quorl.right=5000\r\nQuorl.bottom=3200"), std::string::npos);
-}
-
-TEST_F(DisplayChange, CancelsADelayedEdgeScroll) {
-    ActionTable[ACTION_FOLLOW_MOUSE].value = 1;
-    Options.mousescroll_delay = EDGE_AFTER_DELAY;
-    Options.mousescroll_delay_time = 3000;
-    for (int move = 0; move < 2; ++move) // the first one never scrolls
-        AfterMouseAt(1919, 500);
-    ChangeDisplays({Primary});
-    Wait(4000);
-    EXPECT_EQ(VDesk.left, 2560);
 }
 
 // Nobody moved these windows by hand, so they end where they started.

@@ -74,17 +74,6 @@ class WholeWay : public TwoDisplays {
         ReleaseOnMap(VK_MBUTTON);
         Wait(200);
     }
-
-    void ExpectEverythingWhereItWas() {
-        EXPECT_TRUE(IsTitleInReach(FromSystem(VisibleRect(active))));
-        for (const Kept& row : kept) {
-            const RECT now = RectOf(row.window);
-            EXPECT_NEAR(now.left, row.rect.left, row.tolerance) << WindowOf(row.window).title;
-            EXPECT_NEAR(now.top, row.rect.top, row.tolerance) << WindowOf(row.window).title;
-            EXPECT_EQ(now.right - now.left, row.rect.right - row.rect.left) << WindowOf(row.window).title;
-            EXPECT_EQ(now.bottom - now.top, row.rect.bottom - row.rect.top) << WindowOf(row.window).title;
-        }
-    }
 };
 
 TEST_F(WholeWay, EndsWithEveryWindowWhereItWas) {
@@ -92,16 +81,12 @@ TEST_F(WholeWay, EndsWithEveryWindowWhereItWas) {
     Wait(2000);
     UseQuorl();
     Exit();
-    ExpectEverythingWhereItWas();
-}
-
-TEST_F(WholeWay, LogOffEndsWithEveryWindowWhereItWas) {
-    OpenEverything();
-    Wait(2000);
-    UseQuorl();
-    LogOff();
-    for (const Kept& row : kept)
-        WindowOf(row.window).rect = Desk.rememberedRects[row.window];
-    ExpectEverythingWhereItWas();
-    EXPECT_TRUE(Desk.boxes.empty());
+    EXPECT_TRUE(IsTitleInReach(FromSystem(VisibleRect(active))));
+    for (const Kept& row : kept) {
+        const RECT now = RectOf(row.window);
+        EXPECT_NEAR(now.left, row.rect.left, row.tolerance) << WindowOf(row.window).title;
+        EXPECT_NEAR(now.top, row.rect.top, row.tolerance) << WindowOf(row.window).title;
+        EXPECT_EQ(now.right - now.left, row.rect.right - row.rect.left) << WindowOf(row.window).title;
+        EXPECT_EQ(now.bottom - now.top, row.rect.bottom - row.rect.top) << WindowOf(row.window).title;
+    }
 }

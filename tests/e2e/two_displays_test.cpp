@@ -70,37 +70,4 @@ TEST_F(TwoDisplays, TheMapStaysOnTheLeftOneAcrossARestart) {
     EXPECT_EQ(WindowRect(StartQuorl()), Moved(map, -5, 0));
 }
 
-TEST_F(TwoDisplays, CommandsMoveTheActiveWindowOnBoth) {
-    Activate(onLeft);
-    RunActions({ACTION_ACTIVE_RIGHT_MIN, ACTION_ACTIVE_DOWN_MIN});
-    EXPECT_EVENTUALLY(WindowRect(onLeft), Moved(left, 5, 5));
-    const RECT visible = VisibleRect(onLeft);
-    RunActions({ACTION_ACTIVE_TO_LEFT});
-    EXPECT_EVENTUALLY(VisibleRect(onLeft), Moved(visible, display.left - visible.left, 0));
-    RunActions({ACTION_ACTIVE_TO_RIGHT});
-    const int right = GetSystemMetrics(SM_XVIRTUALSCREEN) + SCREEN_W;
-    EXPECT_EVENTUALLY(VisibleRect(onLeft), Moved(visible, right - visible.right, 0));
-}
-
-TEST_F(TwoDisplays, FollowsOnlyAWindowOutOfView) {
-    const HWND beyond = OpenWindow("out of view", Moved(EDITOR, SCREEN_W, 0));
-    RunActions({ACTION_FOLLOW_ACTIVE});
-    Activate(onRight);
-    Activate(onLeft);
-    Sleep(500);
-    ExpectShift(0, 0);
-    Activate(beyond);
-    EXPECT_EVENTUALLY(WindowRect(beyond).left < EDITOR.left + SCREEN_W, true);
-    EXPECT_EVENTUALLY(WindowRect(onRight), Moved(WindowRect(beyond), -SCREEN_W, 0));
-    const RECT rect = VisibleRect(beyond);
-    EXPECT_NEAR((rect.left + rect.right) / 2, GetSystemMetrics(SM_XVIRTUALSCREEN) + SCREEN_W / 2, 1);
-}
-
-TEST_F(TwoDisplays, ExitInAnotherViewReturnsTheWindows) {
-    RunActions({ACTION_SCREEN_RIGHT, ACTION_SCREEN_DOWN});
-    ExpectShift(-SCREEN_W, -SCREEN_H);
-    Quit();
-    ExpectShift(0, 0);
-}
-
 } // namespace

@@ -38,14 +38,6 @@ static std::string RandomInput(unsigned seed) {
     return bytes;
 }
 
-TEST_F(FuzzInputs, RandomRunsLoseNoWindow) {
-    for (unsigned seed = 0; seed < 300; ++seed) {
-        SCOPED_TRACE(seed);
-        ResetProgram();
-        TestRun(RandomInput(seed));
-    }
-}
-
 // What a run in this process did and left behind.
 static auto OutcomeOf(const std::string& input) {
     ResetProgram();

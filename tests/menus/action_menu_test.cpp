@@ -62,10 +62,3 @@ TEST_F(ActionMenu, TheTrayIconOpensTheMenuOrTogglesTheMap) {
         EXPECT_EQ(IsWindowVisible(MainWnd), mouse == WM_LBUTTONDBLCLK) << mouse;
     }
 }
-
-TEST(MenuList, AFullListStaysUnchanged) {
-    SetMenu(Entries(MAX_MENU_ENTRIES, 7));
-    InsertMenuEntry(0, 8);
-    EXPECT_FALSE(SwapMenuEntries(MAX_MENU_ENTRIES - 1, 1) || SwapMenuEntries(-1, 1));
-    EXPECT_EQ(Menu(), Entries(MAX_MENU_ENTRIES, 7));
-}

@@ -40,11 +40,4 @@ TEST_F(Tray, IconIsTriedAgainForAMinute) {
     RestartTaskbar();
     Wait(90000);
     EXPECT_TRUE(Desk.tray.empty());
-    RestartTaskbar();
-    Desk.trayAddsToFail = 1;
-    HandleMessages();
-    AnswerBoxes({IDYES});
-    RunAction(ACTION_EXIT);
-    Wait(2000);
-    EXPECT_TRUE(Desk.tray.empty()) << "not after the user quit";
 }

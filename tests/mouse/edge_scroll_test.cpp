@@ -19,15 +19,3 @@ TEST(EdgeStep, MovesTheViewAndTheCursorByTheScrollType) {
     EXPECT_EQ(step({1019, 763}, 3), (Step{DIR_NONE, 2048, 800, 1019, 763}));
     EXPECT_EQ(step({5, 5}, 3), (Step{DIR_NONE, 2048, 800, 5, 5}));
 }
-
-TEST(EdgeStep, TheDelayedTestToleratesOnePixelMore) {
-    const auto edgesAt = [](POINT cursor) {
-        int edges = 0;
-        for (const int dir : {DIR_UP, DIR_DOWN, DIR_LEFT, DIR_RIGHT})
-            edges |= IsStillAtEdge(cursor, dir, 5, {0, 0, 1024, 768}) ? dir : 0;
-        return edges;
-    };
-    EXPECT_EQ(edgesAt({1019, 763}), DIR_RIGHT | DIR_DOWN);
-    EXPECT_EQ(edgesAt({5, 5}), DIR_LEFT | DIR_UP);
-    EXPECT_EQ(edgesAt({1018, 762}) | edgesAt({6, 6}), 0);
-}

@@ -5,15 +5,6 @@
 
 class Regions : public RunningQuorl {};
 
-TEST_F(Regions, APointBelongsToTheLastRegionThatContainsIt) {
-    AddRegion("a", 0, 0);
-    AddRegion("b", 1024, 0);
-    EXPECT_EQ(FindRegionAt(1023, 768), 0);
-    EXPECT_EQ(FindRegionAt(1024, 768), 1);
-    for (const auto& [x, y] : {POINT{2049, 0}, {-1, 0}, {0, 769}, {0, -1}})
-        EXPECT_EQ(FindRegionAt(x, y), -1) << x << ", " << y;
-}
-
 TEST_F(Regions, SteppingWrapsAroundInBothDirections) {
     RunAction(ACTION_NEXT_REGION);
     EXPECT_EQ(Desk.beeps.size(), 1U) << "there are none";

@@ -123,18 +123,6 @@ void Settle(HWND window) {
     Sleep(200);
 }
 
-RECT RectAfterMoving(HWND window, POINT to) {
-    MoveMouse(to.x - 1, to.y);
-    MoveMouse(to.x, to.y);
-    return WindowRect(window);
-}
-
-POINT MousePosition() {
-    POINT position{};
-    GetCursorPos(&position);
-    return position;
-}
-
 std::string TextOf(HWND window) {
     char text[1024] = "";
     GetWindowTextA(window, text, sizeof text);

@@ -51,10 +51,6 @@ void RunActions(std::initializer_list<int> actions);
 void Activate(HWND window);
 void Settle(HWND window);
 
-// Where a window is after the mouse has moved there. Under Wine a single move is lost now and then.
-RECT RectAfterMoving(HWND window, POINT to);
-POINT MousePosition();
-
 std::string TextOf(HWND window);
 
 // Quorl's settings file: a key; all lines, each with a terminator.

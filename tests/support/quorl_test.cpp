@@ -154,6 +154,22 @@ bool CalledInOrder(std::initializer_list<const char*> calls) {
     return next == calls.end();
 }
 
+int FailEachCall(void (*prepare)(), void (*scenario)()) {
+    int nth = 0;
+    bool hit = true;
+    while (hit && !testing::Test::HasFailure()) {
+        ++nth;
+        SCOPED_TRACE("call " + std::to_string(nth) + " fails");
+        ResetProgram();
+        prepare();
+        Desk.fault = {"", nth, 0, 87, 0};
+        scenario();
+        hit = Desk.fault.hits;
+        FreeControls();
+    }
+    return nth - 1;
+}
+
 bool operator==(const POINT& a, const POINT& b) {
     return a.x == b.x && a.y == b.y;
 }

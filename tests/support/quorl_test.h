@@ -85,5 +85,10 @@ std::string LastBox();
 // Whether `Desk.trace` contains these calls in this order, possibly with others in between.
 bool CalledInOrder(std::initializer_list<const char*> calls);
 
+// Runs the scenario repeatedly, from the first state and after `prepare`: once with its first platform call
+// failing, once with its second, until no call is left or an expectation fails. Returns the number of calls
+// that failed.
+int FailEachCall(void (*prepare)(), void (*scenario)());
+
 bool operator==(const POINT& a, const POINT& b);
 void PrintTo(const POINT& point, std::ostream* out);

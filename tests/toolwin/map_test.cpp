@@ -101,13 +101,4 @@ TEST_F(Map, HasWhiteLinesOnADarkBackground) {
     }
 }
 
-TEST_F(Map, RepaintsWithNewColors) {
-    for (const UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_DEVMODECHANGE}) {
-        BackBrush = nullptr;
-        Desk.trace.clear();
-        SendMessageA(MainWnd, message, 0, 0);
-        EXPECT_TRUE(BackBrush && CountCalls("UpdateWindow")) << message;
-    }
-}
-
 } // namespace

@@ -87,4 +87,3 @@ BOOL WINAPI Rectangle(HDC context, int left, int top, int right, int bottom);
 BOOL WINAPI DrawEdge(HDC context, RECT* rect, UINT edge, UINT flags);
 BOOL WINAPI Polygon(HDC context, const POINT* points, int count);
 BOOL WINAPI DrawFocusRect(HDC context, const RECT* rect);
-COLORREF WINAPI GetPixel(HDC context, int x, int y);

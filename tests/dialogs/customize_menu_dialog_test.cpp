@@ -37,8 +37,10 @@ TEST_F(CustomizeMenuDialog, ARemovalSelectsTheNextEqualEntry) {
     Choose(IDC_MENU_LIST, 1);
     EXPECT_EQ(MenuAfter(IDC_MENU_REMOVE), "57 54 -2* ");
     EXPECT_EQ(MenuAfter(IDC_MENU_REMOVE), "57 54 ");
-    Choose(IDC_MENU_LIST, 1);
-    EXPECT_EQ(MenuAfter(IDC_MENU_REMOVE), "57 54* beep") << "Options cannot be removed";
+    Choose(IDC_MENU_LIST, 0);
+    EXPECT_EQ(MenuAfter(IDC_MENU_REMOVE), "54 ");
+    Choose(IDC_MENU_LIST, 0);
+    EXPECT_EQ(MenuAfter(IDC_MENU_REMOVE), "54* beep") << "Options cannot be removed";
 }
 
 TEST_F(CustomizeMenuDialog, InsertsLinesAndMovesEntries) {

@@ -4,9 +4,9 @@ TEST(Process, WindowsReturnAfterACrashAndAtTheEndOfTheSession) {
     const HWND editor = OpenWindow("editor", EDITOR);
     for (const bool crash : {false, true}) {
         const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, ProcessOf(StartQuorl()));
-        EXPECT_EQ(WaitForExit(LaunchQuorl()), 0U) << "a second instance exits silently";
         RunActions({ACTION_SCREEN_RIGHT});
         EXPECT_EVENTUALLY(WindowRect(editor), Moved(EDITOR, -SCREEN_W, 0));
+        EXPECT_EQ(WaitForExit(LaunchQuorl()), 0U) << "a second instance exits silently";
         const auto nowhere = reinterpret_cast<LPTHREAD_START_ROUTINE>(static_cast<UINT_PTR>(16));
         if (crash)
             CreateRemoteThread(process, nullptr, 0, nowhere, nullptr, 0, nullptr);

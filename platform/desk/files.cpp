@@ -67,7 +67,9 @@ BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD) {
     return Remove(from);
 }
 
-BOOL ReplaceFileA(LPCSTR replaced, LPCSTR replacement, LPCSTR, DWORD, LPVOID, LPVOID) {
+// Two steps, between which the file exists only by the name of the backup. The second one can fail on its
+// own.
+BOOL ReplaceFileA(LPCSTR replaced, LPCSTR replacement, LPCSTR backup, DWORD, LPVOID, LPVOID) {
     if (CallFails("ReplaceFileA"))
         return FALSE;
     const std::string to = FileKey(replaced);
@@ -78,6 +80,10 @@ BOOL ReplaceFileA(LPCSTR replaced, LPCSTR replacement, LPCSTR, DWORD, LPVOID, LP
         return FailWith(ERROR_ACCESS_DENIED);
     if (IsOpen(to) || IsOpen(from->first))
         return FailWith(ERROR_SHARING_VIOLATION);
+    Desk.files[FileKey(backup)] = Desk.files[to];
+    Desk.files.erase(to);
+    if (CallFails("ReplaceFileA, second step"))
+        return FALSE;
     Desk.files[to] = from->second;
     return Remove(replacement);
 }

@@ -10,6 +10,7 @@ namespace {
 struct Paths {
     char stored[MAX_PATH];
     char copy[MAX_PATH];
+    char old[MAX_PATH]; // the file while it is being replaced
 };
 
 } // namespace
@@ -32,7 +33,23 @@ static bool FindPaths(LPCSTR file, Paths* paths) {
     const char* const end = std::strrchr(file, '\\');
     const unsigned long process = GetCurrentProcessId();
     return std::snprintf(paths->stored, MAX_PATH, "%s\\%s", folder, end ? end + 1 : file) < MAX_PATH &&
-           std::snprintf(paths->copy, MAX_PATH, "%s\\quorl%lx.new", folder, process) < MAX_PATH;
+           std::snprintf(paths->copy, MAX_PATH, "%s\\quorl%lx.new", folder, process) < MAX_PATH &&
+           std::snprintf(paths->old, MAX_PATH, "%s\\quorl.old", folder) < MAX_PATH;
+}
+
+static bool Exists(LPCSTR file) {
+    return GetFileAttributesA(file) != INVALID_FILE_ATTRIBUTES;
+}
+
+static void Recover(const Paths& paths) {
+    if (!Exists(paths.stored) && Exists(paths.old))
+        MoveFileExA(paths.old, paths.stored, MOVEFILE_WRITE_THROUGH);
+}
+
+void RecoverStored(LPCSTR file) {
+    Paths paths;
+    if (FindPaths(file, &paths))
+        Recover(paths);
 }
 
 static bool IsReadOnly(LPCSTR file) {
@@ -58,21 +75,24 @@ static bool FlushToDisk(LPCSTR file) {
 }
 
 // ReplaceFileA keeps the file's attributes and access rights, but needs an existing file and more rights than
-// renaming. False if the file is as before.
+// renaming. It first moves the file away and then the copy to its place: a process that ends in between
+// leaves no file but the old one, by the name that is given here.
 static bool ReplaceStored(const Paths& paths) {
-    if (ReplaceFileA(paths.stored, paths.copy, nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr))
-        return true;
-    const DWORD error = GetLastError();
-    if (MoveFileExA(paths.copy, paths.stored, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        return true;
-    // It failed after it had moved the file away: do not delete the copy, the only one with the file's name.
-    return error == ERROR_UNABLE_TO_MOVE_REPLACEMENT || error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
+    const bool bReplaced =
+        ReplaceFileA(paths.stored, paths.copy, paths.old, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                     nullptr) ||
+        MoveFileExA(paths.copy, paths.stored, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+    Recover(paths);
+    if (bReplaced)
+        DeleteFileA(paths.old);
+    return bReplaced;
 }
 
 void SaveAtomically(LPCSTR file, void (*save)(LPCSTR file), bool (*isComplete)(LPCSTR file)) {
     Paths paths;
     if (!FindPaths(file, &paths) || IsReadOnly(paths.stored))
         return;
+    Recover(paths);
     if (!MakeCopy(paths)) {
         if (GetLastError() == ERROR_ACCESS_DENIED)
             save(file);

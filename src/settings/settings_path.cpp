@@ -1,5 +1,6 @@
 #include "settings/settings_path.h"
 
+#include "settings/atomic_save.h"
 #include "settings/ini.h"
 
 #include <cstring>
@@ -43,8 +44,13 @@ static bool FindAnsiPath(char (&ansi)[PATH_SIZE]) {
 }
 
 void ChooseSettingsFile() {
-    if (!FindAnsiPath(PortableFile) || GetFileAttributesA(PortableFile) == INVALID_FILE_ATTRIBUTES)
+    const bool bFound = FindAnsiPath(PortableFile);
+    if (bFound)
+        RecoverStored(PortableFile);
+    if (!bFound || GetFileAttributesA(PortableFile) == INVALID_FILE_ATTRIBUTES) {
         PortableFile[0] = 0;
+        RecoverStored(SETTINGS_FILE);
+    }
 }
 
 LPCSTR SettingsFile() {

@@ -5,6 +5,7 @@ namespace {
 
 constexpr char FILE_NAME[] = "contract.ini"; // a bare name: in the Windows folder
 constexpr char COPY_NAME[] = "contract.new";
+constexpr char OLD_NAME[] = "contract.old";
 
 std::string PathOf(const char* file) {
     char folder[MAX_PATH] = "";
@@ -15,7 +16,7 @@ std::string PathOf(const char* file) {
 class Profile : public Contract {
   protected:
     void SetUp() override {
-        for (const char* name : {FILE_NAME, COPY_NAME}) {
+        for (const char* name : {FILE_NAME, COPY_NAME, OLD_NAME}) {
             WriteProfile(name, "");
             EXPECT_TRUE(DeleteFileA(PathOf(name).c_str()));
         }
@@ -76,8 +77,8 @@ TEST_F(Profile, CopyReplacesTheFileAndAReadOnlyOneCannotBeDeleted) {
     const std::string file = PathOf(FILE_NAME);
     const std::string copy = PathOf(COPY_NAME);
     const auto replace = [&] {
-        return ReplaceFileA(file.c_str(), copy.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
-                            nullptr);
+        return ReplaceFileA(file.c_str(), copy.c_str(), PathOf(OLD_NAME).c_str(),
+                            REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr);
     };
     const auto rename = [&] {
         return MoveFileExA(copy.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
@@ -100,6 +101,7 @@ TEST_F(Profile, CopyReplacesTheFileAndAReadOnlyOneCannotBeDeleted) {
         EXPECT_EQ(GetFileAttributesA(copy.c_str()), INVALID_FILE_ATTRIBUTES);
         EXPECT_EQ(Read("a") + Read("b"), value + value);
     }
+    EXPECT_NE(ReadProfile(OLD_NAME).find("b=1"), std::string::npos) << "what was replaced";
     EXPECT_TRUE(SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_READONLY));
     EXPECT_FALSE(DeleteFileA(file.c_str()));
     EXPECT_EQ(GetLastError(), ERROR_ACCESS_DENIED);

@@ -167,8 +167,8 @@ void OpenDialogs(std::initializer_list<int> actions) {
 }
 
 struct Resources {
-    int windows;   // visible or not
-    SIZE_T memory; // bytes in the working set
+    std::vector<std::string> windows; // their classes, visible or not
+    SIZE_T memory;                    // bytes in the working set
 };
 
 // Waits for actions that were only posted and may still open a dialog.
@@ -177,9 +177,10 @@ Resources ResourcesAtRest(HANDLE quorl) {
     CloseDialogs();
     EXPECT_TRUE(Responds(QuorlWindow()));
     Sleep(500);
-    int windows = 0;
+    std::vector<std::string> windows;
     for (HWND window = nullptr; (window = FindWindowExA(nullptr, window, nullptr, nullptr));)
-        windows += ProcessOf(window) == GetProcessId(quorl);
+        if (char name[64] = ""; ProcessOf(window) == GetProcessId(quorl) && GetClassNameA(window, name, 64))
+            windows.emplace_back(name);
     PROCESS_MEMORY_COUNTERS memory{};
     K32GetProcessMemoryInfo(quorl, &memory, sizeof memory);
     return {windows, memory.WorkingSetSize};
@@ -201,7 +202,7 @@ TEST(Soak, QuorlKeepsRespondingAndLeaksNothing) {
     const Resources first = ResourcesAtRest(quorl);
     ASSERT_TRUE(RunSteps(Steps - done));
     const Resources last = ResourcesAtRest(quorl);
-    EXPECT_LE(last.windows, first.windows);
+    EXPECT_LE(last.windows.size(), first.windows.size()) << testing::PrintToString(last.windows);
     EXPECT_LE(last.memory, first.memory + MEMORY_SWING);
     QuitAndExpectAllOnScreen();
 }

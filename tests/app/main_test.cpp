@@ -23,7 +23,7 @@ TEST_F(Start, MeasuresAllDisplaysAndLimitsTheDesktop) {
     EXPECT_EQ(VDesk, Rect(0, 0, 12800, 16021)) << "from the corner of their union";
     EXPECT_EQ(Quorl, Rect(0, 0, 32000, 32000));
     MINMAXINFO reported{}; // to other programs
-    SendMessageA(MainWnd, 1134, 0, reinterpret_cast<LPARAM>(&reported));
+    EXPECT_EQ(SendMessageA(MainWnd, 1134, 0, reinterpret_cast<LPARAM>(&reported)), 0);
     EXPECT_EQ(reported.ptMaxTrackSize, (POINT{32000, 32000}));
 }
 

@@ -61,7 +61,7 @@ TEST_F(CustomizeMenuDialog, TestRunsTheActionSelectedLast) {
     EXPECT_FALSE(IsOn(ACTION_TOOLTIP) || DialogHandles[DIALOG_ABOUT]);
     Choose(IDC_MENU_ACTIONS, 0);
     Click(IDC_MENU_TEST);
-    EXPECT_TRUE(DialogHandles[DIALOG_ABOUT]);
+    EXPECT_EQ(Desk.focus, FindControl(DialogHandles[DIALOG_ABOUT], IDOK));
 }
 
 TEST_F(CustomizeMenuDialog, CancelRevertsEdits) {

@@ -33,6 +33,13 @@ TEST_F(Registry, OwnedDialogsOutliveTheirOwner) {
     EXPECT_EQ(WindowOf(DialogHandles[DIALOG_ABOUT]).owner, MainWnd);
 }
 
+TEST_F(Registry, ADialogIsNotCreatedWhileAnotherIs) {
+    pSetLayeredWindowAttributes = nullptr; // shows a box when the dialog is created
+    AnswerBoxes({IDOK});
+    Desk.duringBox = [] { EXPECT_FALSE(OpenDialog(MainWnd, DIALOG_ABOUT)); };
+    EXPECT_TRUE(OpenDialog(MainWnd, DIALOG_TRANSPARENCY));
+}
+
 static void UseAllDialogs() {
     for (int id = 0; id < NUM_DIALOGS; ++id) {
         OpenDialog(MainWnd, static_cast<DialogId>(id));

@@ -58,9 +58,9 @@ TEST_F(SmallDialogs, HelpTextShrinksWithTheDialog) {
 }
 
 TEST_F(SmallDialogs, TheMapFollowsTheTransparencySlider) {
-    Options.alpha = 0x7fffff04; // only the low 8 bits count
+    Options.alpha = 0x7fffff64; // only the low 8 bits count
     Open(ACTION_TRANSPARENCY);
-    EXPECT_EQ(Control(IDC_TRANSPARENCY_SLIDER).position, OptionDefs[OPTION_ALPHA].userMin);
+    EXPECT_EQ(Control(IDC_TRANSPARENCY_SLIDER).position, 0x64);
     DragSlider(Item(IDC_TRANSPARENCY_SLIDER), 120);
     EXPECT_EQ(WindowOf(MainWnd).alpha, 120);
     EXPECT_EQ(Options.alpha, 120);

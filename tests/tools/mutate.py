@@ -50,7 +50,7 @@ EQUIVALENT = (
      "a hotkey ignores what a handler returns"),
     ("OnMapLeftPress OnMapRightPress OnMapMiddlePress OnToolwinMouseMove OnTrayMessage SpinnerWndProc OnHotkey OnPaint", r"return ",
      "Windows ignores what these messages return"),
-    ("SelectedData AddListRow ApplySlider InsertTabs FillKeyCombo", r"(LB_GETCURSEL|LB_ADDSTRING|TBM_GETPOS|TCM_DELETEALLITEMS|CB_INSERTSTRING).*-> 1",
+    ("SelectedData AddListRow ApplySlider InsertTabs FillKeyCombo ShowKey", r"(LB_GETCURSEL|LB_ADDSTRING|TBM_GETPOS|TCM_DELETEALLITEMS|CB_INSERTSTRING|CB_SETCURSEL).*-> 1",
      "the message does not use this argument"),
     ("StartUp", r"pSetLayeredWindowAttributes", "without LWA_COLORKEY the colour is not used"),
     ("FillActionTable", r"NUM_ACTIONS\]", "the closing row has no binding and is offered nowhere"),
@@ -62,7 +62,12 @@ EQUIVALENT = (
     ("ShapesOfSpinner", "", "only a person can judge the look"),
     ("RegisterRegionKeys", r"MessageBeep", "only a person can judge the sound"),
     ("AppendFlags", r"sizeof text", "the buffer is never full"),
-    ("DescribePoint", r"char \w+\[", "the buffer is never full"),
+    ("DescribePoint AddWindowToList", r"(char|WCHAR) \w+\[", "the buffer is never full"),
+    ("ShowCount", "", "the next text replaces this one in the same call"),
+    ("MakeStorable", r"letter >= 0", "the name ends at 0"),
+    ("EndSession", r"PostQuitMessage", "nobody reads the exit code of a process that ends with the session"),
+    ("ActionDefs", r"0, (Toggle|Save|Load|Unmark|Lock|Start|Display|Quit|Center|Flash|GoToPoint|nullptr).*-> 1",
+     "these handlers do not use the argument"),
     ("LoadTrayImage", r"SM_CYSMICON|IMAGE_ICON", "only a real desktop shows it"),
     ("IsCloaked IsScaledByWindows", r" = 0;", "written by the call before it is read"),
     ("OnSpinnerDestroy", r"GWLP_USERDATA", "the window receives nothing afterwards"),
@@ -123,10 +128,10 @@ def is_detected():
 
 
 def place(site):
-    """Number, function and text of the line."""
+    """Number, function or table, and text of the line."""
     file, start, end, _ = site
     text = (ROOT / file).read_text()
-    functions = re.findall(r"^\w[^;{}]*?(\w+)\([^;{}]*\) \{$", text[:start], re.M)
+    functions = re.findall(r"^\w[^;{}]*?(\w+)(?:\([^;{}]*\)|\[\w+\] =) \{$", text[:start], re.M)  # or tables
     line = text[text.rfind("\n", 0, start) + 1 : text.find("\n", end)].strip()
     return text.count("\n", 0, start) + 1, functions[-1] if functions else "", line
 

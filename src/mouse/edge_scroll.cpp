@@ -78,7 +78,8 @@ EdgeStep EdgeStepAt(POINT cursor, const OptionsRecord& options, const RECT& vdes
     return step;
 }
 
-bool IsStillAtEdge(POINT cursor, int dir, int border, const RECT& edges) {
+// One pixel more tolerant than EdgeStepAt.
+static bool IsStillAtEdge(POINT cursor, int dir, int border, const RECT& edges) {
     switch (dir) {
     case DIR_UP: return cursor.y <= edges.top + border;
     case DIR_DOWN: return cursor.y >= edges.bottom - border;

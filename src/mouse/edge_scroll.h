@@ -26,6 +26,3 @@ struct EdgeStep {
 // Pure: the edge at the cursor and the scroll it causes; `edges` are those of OuterEdges. In a corner, left
 // and right take precedence.
 EdgeStep EdgeStepAt(POINT cursor, const OptionsRecord& options, const RECT& vdesk, const RECT& edges);
-
-// Pure: whether the cursor is still at that edge, with one pixel more tolerance than EdgeStepAt.
-bool IsStillAtEdge(POINT cursor, int dir, int border, const RECT& edges);

@@ -55,10 +55,10 @@ constexpr MouseBinding NO_MOUSE = {UNBOUND, UNBOUND};
 // Everything constant about an action.
 struct ActionDef {
     ActionId id;
-    DWORD flags;                            // where it is offered if the system has what it needs
-    int start;                              // its value before any settings are loaded
-    int (*handler)(const ActionCall& call); // null: running it shows a message box
-    int argument;                           // what distinguishes actions that share a handler
+    DWORD flags;                             // where it is offered if the system has what it needs
+    int start;                               // its value before any settings are loaded
+    void (*handler)(const ActionCall& call); // null: running it shows a message box
+    int argument;                            // what distinguishes actions that share a handler
     const char* text;
     KeyBinding key = NO_KEY; // default bindings
     MouseBinding mouse = NO_MOUSE;

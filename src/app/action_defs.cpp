@@ -65,8 +65,8 @@ const ActionDef ActionDefs[NUM_ACTIONS] = {
     {ACTION_VIEW_TO_RIGHT,       KEY,   0, GoToScreen,          RIGHT_EDGE,            "Move to right edge"},
     {ACTION_NEXT_REGION,         BOTH,  0, StepToRegion,        1,                     "Move to next defined region"},
     {ACTION_PREVIOUS_REGION,     BOTH,  0, StepToRegion,        -1,                    "Move to previous defined region"},
-    {ACTION_DRAG_TOOLWIN,        MOUSE, 0, DoNothing,           1,                     "Drag the tool window to a new position", NO_KEY, {0, LBUTTON}},
-    {ACTION_DRAG_WINDOW,         MOUSE, 0, DoNothing,           1,                     "Move window represented in Toolwin", NO_KEY, {CTRL_SHIFT, LBUTTON}},
+    {ACTION_DRAG_TOOLWIN,        MOUSE, 0, DoNothing,           0,                     "Drag the tool window to a new position", NO_KEY, {0, LBUTTON}},
+    {ACTION_DRAG_WINDOW,         MOUSE, 0, DoNothing,           0,                     "Move window represented in Toolwin", NO_KEY, {CTRL_SHIFT, LBUTTON}},
     // The buttons 1 and 2 are no flags, so these two never match a press; the settings file stores them.
     {ACTION_LOCK_WINDOW,         KEY,   0, LockActiveWindow,    1,                     "Lock window in view", {KEY_WIN, VK_DOWN}, {KEY_ALT, 1}},
     {ACTION_UNLOCK_WINDOW,       KEY,   0, LockActiveWindow,    0,                     "Unlock window from view", {KEY_WIN, VK_UP}, {KEY_ALT, 2}},

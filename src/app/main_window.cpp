@@ -83,7 +83,8 @@ static LRESULT OnMouseMove(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
 }
 
 static LRESULT OnTray(HWND window, UINT, WPARAM, LPARAM lParam) {
-    return OnTrayMessage(window, lParam);
+    OnTrayMessage(window, lParam);
+    return 0;
 }
 
 static LRESULT OnPaint(HWND window, UINT, WPARAM, LPARAM) {

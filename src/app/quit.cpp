@@ -49,6 +49,6 @@ void EndFirstAtLogoff() {
     SetProcessShutdownParameters(0x3FF, 0); // the first of all programs; the default is 0x280
 }
 
-int QuitAction(const ActionCall& call) {
-    return ConfirmQuit(call.window);
+void QuitAction(const ActionCall& call) {
+    ConfirmQuit(call.window);
 }

@@ -10,8 +10,8 @@ void EnableSaving();
 // back onto the screen, posts the quit message, and returns true. Any other answer changes nothing.
 bool ConfirmQuit(HWND window);
 
-// Handler. 1 if the user confirmed.
-int QuitAction(const ActionCall& call);
+// Handler: ConfirmQuit.
+void QuitAction(const ActionCall& call);
 
 // WM_ENDSESSION, at log-off or for an update: does all that exit does, within the few seconds that Windows
 // allows, and asks nothing. Windows may end the process without returning to the message loop.

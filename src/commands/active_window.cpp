@@ -53,22 +53,21 @@ static HWND WindowToMove(const ActionCall& call, WindowFrame* frame) {
     return window && ReadWindowFrame(window, frame) && !frame->bMinimized ? window : nullptr;
 }
 
-int MoveActiveWindow(const ActionCall& call) {
+void MoveActiveWindow(const ActionCall& call) {
     WindowFrame frame{};
     const HWND window = WindowToMove(call, &frame);
     if (!window)
-        return 0;
+        return;
     const POINT step = StepDelta(call.argument);
     MoveOnDesktop(window, frame,
                   {Wrap(0LL + frame.visible.left + step.x), Wrap(0LL + frame.visible.top + step.y)});
-    return 1;
 }
 
-int MoveActiveToEdge(const ActionCall& call) {
+void MoveActiveToEdge(const ActionCall& call) {
     WindowFrame frame{};
     const HWND window = WindowToMove(call, &frame);
     if (!window)
-        return 0;
+        return;
     POINT corner{frame.visible.left, frame.visible.top};
     switch (call.argument) {
     case DIR_LEFT: corner.x = 0; break;
@@ -78,26 +77,23 @@ int MoveActiveToEdge(const ActionCall& call) {
     default: break;
     }
     MoveOnDesktop(window, frame, corner);
-    return 1;
 }
 
-int CenterActiveWindow(const ActionCall& call) {
+void CenterActiveWindow(const ActionCall& call) {
     WindowFrame frame{};
     const HWND window = WindowToMove(call, &frame);
     if (!window)
-        return 0;
+        return;
     PingMoveAndShow(window, frame,
                     {ScreenW() / 2 - Width(frame.visible) / 2, ScreenH() / 2 - Height(frame.visible) / 2});
-    return 1;
 }
 
 // Hiding it gave the foreground away.
-int ToggleActiveTopmost(const ActionCall& call) {
+void ToggleActiveTopmost(const ActionCall& call) {
     if (const HWND window = CommandTarget(call)) {
         ToggleTopmost(window);
         ReturnForeground(window);
     }
-    return 1;
 }
 
 static void Play(const BeepSequence& sequence) {
@@ -105,21 +101,20 @@ static void Play(const BeepSequence& sequence) {
         Beep(static_cast<DWORD>(hertz), BEEP_LENGTH);
 }
 
-int LockActiveWindow(const ActionCall& call) {
+void LockActiveWindow(const ActionCall& call) {
     const HWND active = call.target;
     WCHAR title[256] = L"";
     GetWindowTextW(active, title, 255);
     if (!IsManagedWindow(active))
-        return 0;
+        return;
     Play(call.argument ? RISING : FALLING);
     ShowTitleTip(call.argument ? "Locked Window: " : "Unlocked Window: ", title, "");
     if (call.argument)
         LockWindow(active);
     else
         UnlockWindow(active);
-    return 1;
 }
 
-int FlashGivenWindow(const ActionCall& call) {
-    return FlashWindow(call.window, TRUE);
+void FlashGivenWindow(const ActionCall& call) {
+    FlashWindow(call.window, TRUE);
 }

@@ -34,21 +34,21 @@ static int CollectCandidates(HWND start) {
     return count;
 }
 
-int FocusNeighbour(const ActionCall& call) {
+void FocusNeighbour(const ActionCall& call) {
     const auto direction = static_cast<Direction>(call.argument);
     const HWND window = StartWindow(call.target);
     RECT start = FarSide(ScreenRect, direction);
     if (window && !GetVisibleRect(window, &start))
-        return 0;
+        return;
     const int count = CollectCandidates(window);
     const int found = FindNeighbour({direction, start, CandidateRects, count, VDesk, Quorl});
     WCHAR title[128] = L"";
     if (found < 0 || !GetWindowTextW(Candidates[found], title, 127)) {
         MessageBeep(0);
-        return 0;
+        return;
     }
     ShowTitleTip("", title, "");
-    return ActivateWindow(Candidates[found]);
+    ActivateWindow(Candidates[found]);
 }
 
 static bool IsCompletelyInView(HWND window) {
@@ -60,7 +60,7 @@ static bool IsCompletelyInView(HWND window) {
 
 // The table starts with the topmost window. Activating the second repeatedly alternates between two windows;
 // activating the last goes through all.
-int CycleView(const ActionCall& call) {
+void CycleView(const ActionCall& call) {
     HWND second = nullptr;
     HWND last = nullptr;
     int found = 0;
@@ -72,8 +72,8 @@ int CycleView(const ActionCall& call) {
             second = last;
     }
     if (found < 2)
-        return 0;
-    return ActivateWindow(call.argument == CYCLE_SECOND ? second : last);
+        return;
+    ActivateWindow(call.argument == CYCLE_SECOND ? second : last);
 }
 
 static bool ShowsOn(HWND window, const RECT& display) {
@@ -83,7 +83,7 @@ static bool ShowsOn(HWND window, const RECT& display) {
 }
 
 // Without a window the call would tile all there are, those of the shell too.
-int TileView(const ActionCall& call) {
+void TileView(const ActionCall& call) {
     static HWND tiles[MAX_WINDOWS];
     WindowFrame active{};
     const bool bOnDisplay = ReadWindowFrame(call.target, &active) && !active.bMinimized;
@@ -94,5 +94,4 @@ int TileView(const ActionCall& call) {
             tiles[count++] = WindowTable[i].hwnd;
     if (count)
         TileOtherWindows(static_cast<UINT>(call.argument), display.work, tiles, count);
-    return 0;
 }

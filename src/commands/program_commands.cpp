@@ -5,28 +5,25 @@
 
 #include <algorithm>
 
-int ToggleValue(const ActionCall& call) {
+void ToggleValue(const ActionCall& call) {
     int& value = ActionTable[call.id].value;
     value = !value;
-    return 0;
 }
 
-int DoNothing(const ActionCall& call) {
-    return call.argument;
-}
+void DoNothing(const ActionCall&) {}
 
-int ChangeBorder(const ActionCall& call) {
+void ChangeBorder(const ActionCall& call) {
     // Each action clamps to its own limit; the settings file may hold a border outside both.
     const OptionDef& def = OptionDefs[OPTION_BORDER];
     const int border = Options.border + call.argument;
     Options.border = call.argument > 0 ? std::min(border, def.userMax) : std::max(border, def.userMin);
-    return 1;
 }
 
-int LockStation(const ActionCall&) {
-    return pLockWorkStation ? pLockWorkStation() : 0;
+void LockStation(const ActionCall&) {
+    if (pLockWorkStation)
+        pLockWorkStation();
 }
 
-int StartScreenSaver(const ActionCall&) {
-    return BroadcastScreenSaver();
+void StartScreenSaver(const ActionCall&) {
+    BroadcastScreenSaver();
 }

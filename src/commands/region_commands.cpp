@@ -19,31 +19,29 @@ static int RegionUnder(ActionPoint map) {
 }
 
 // A region that is no longer in use is not refused: its hotkey works until the hotkeys are registered again.
-int GoToRegion(const ActionCall& call) {
+void GoToRegion(const ActionCall& call) {
     const int index = call.region == NO_REGION ? RegionUnder(call.point) : call.region;
     if (index < 0 || index >= MAX_REGIONS)
-        return 0;
-    return ScrollView(call.window, RegionTable[index].left, RegionTable[index].top, SV_ABSOLUTE, call.id);
+        return;
+    ScrollView(call.window, RegionTable[index].left, RegionTable[index].top, SV_ABSOLUTE, call.id);
 }
 
-int StepToRegion(const ActionCall& call) {
+void StepToRegion(const ActionCall& call) {
     if (num_regions == 0) {
         MessageBeep(0);
-        return 0;
+        return;
     }
     const int current = FindRegionAt(VDesk.left, VDesk.top);
     const int index = current < 0 ? 0 : NextIndex(current, call.argument, num_regions);
-    return ScrollView(call.window, RegionTable[index].left, RegionTable[index].top, SV_ABSOLUTE, call.id);
+    ScrollView(call.window, RegionTable[index].left, RegionTable[index].top, SV_ABSOLUTE, call.id);
 }
 
-int UnmarkRegion(const ActionCall& call) {
-    const bool bRemoved = RemoveRegion();
+void UnmarkRegion(const ActionCall& call) {
+    RemoveRegion();
     Repaint(call.window);
-    return bRemoved;
 }
 
-int UnmarkAllRegions(const ActionCall& call) {
+void UnmarkAllRegions(const ActionCall& call) {
     ClearRegions();
     Repaint(call.window);
-    return 1;
 }

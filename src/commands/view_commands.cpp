@@ -10,19 +10,19 @@
 
 static const int NEAR_BOUNDARY = 100; // pixels before a screen boundary that count as being on it
 
-int GoToPoint(const ActionCall& call) {
+void GoToPoint(const ActionCall& call) {
     ActionPoint point = MapToDesktop(call.point);
     if (call.argument == AT_CELL) {
         point.x = Wrap(1LL * Quotient(point.x, ScreenW()) * ScreenW());
         point.y = Wrap(1LL * Quotient(point.y, ScreenH()) * ScreenH());
     }
     const ScrollMode mode = call.argument == AT_CENTER ? SV_CENTER : SV_ABSOLUTE;
-    return ScrollView(call.window, point.x, point.y, mode, call.id);
+    ScrollView(call.window, point.x, point.y, mode, call.id);
 }
 
-int StepView(const ActionCall& call) {
+void StepView(const ActionCall& call) {
     const POINT step = StepDelta(call.argument);
-    return ScrollView(call.window, step.x, step.y, SV_RELATIVE, call.id);
+    ScrollView(call.window, step.x, step.y, SV_RELATIVE, call.id);
 }
 
 // In reading order, from the current position of the view.
@@ -72,12 +72,12 @@ static POINT ScreenCorner(ScreenTarget target, const RECT& vdesk, const RECT& qu
     return {left, top};
 }
 
-int GoToScreen(const ActionCall& call) {
+void GoToScreen(const ActionCall& call) {
     const POINT corner =
         ScreenCorner(static_cast<ScreenTarget>(call.argument), VDesk, Quorl, ScreenW(), ScreenH());
-    return ScrollView(call.window, corner.x, corner.y, SV_ABSOLUTE, call.id);
+    ScrollView(call.window, corner.x, corner.y, SV_ABSOLUTE, call.id);
 }
 
-int CenterOnActive(const ActionCall& call) {
-    return CenterOnWindow(call.window, call.target);
+void CenterOnActive(const ActionCall& call) {
+    CenterOnWindow(call.window, call.target);
 }

@@ -1,4 +1,4 @@
-// Actions that move only the view. Each returns 1 if the view moved, unless stated otherwise.
+// Actions that move only the view.
 #pragma once
 
 #include "actions/action_table.h"
@@ -6,10 +6,10 @@
 enum PointTarget { AT_CORNER, AT_CENTER, AT_CELL };
 
 // Handler: brings the view to the call's point on the map; the argument is a PointTarget.
-int GoToPoint(const ActionCall& call);
+void GoToPoint(const ActionCall& call);
 
 // Handler: moves the view by a step (the argument).
-int StepView(const ActionCall& call);
+void StepView(const ActionCall& call);
 
 enum ScreenTarget {
     NEXT_SCREEN,
@@ -25,7 +25,7 @@ enum ScreenTarget {
 };
 
 // Handler: moves the view by whole screens or to an edge of the desktop; the argument is a ScreenTarget.
-int GoToScreen(const ActionCall& call);
+void GoToScreen(const ActionCall& call);
 
-// Handler: brings the active window to the middle of the view. 1 if it has the foreground then.
-int CenterOnActive(const ActionCall& call);
+// Handler: brings the active window to the middle of the view.
+void CenterOnActive(const ActionCall& call);

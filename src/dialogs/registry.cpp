@@ -45,8 +45,8 @@ bool OpenDialog(HWND parent, DialogId id) {
     return CreateRegistered(parent, DialogDefs[id]);
 }
 
-int OpenDialogAction(const ActionCall& call) {
-    return OpenDialog(call.window, static_cast<DialogId>(call.argument));
+void OpenDialogAction(const ActionCall& call) {
+    OpenDialog(call.window, static_cast<DialogId>(call.argument));
 }
 
 // Windows destroys owned windows with their owner, but dialogs opened by a dialog outlive it.

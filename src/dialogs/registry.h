@@ -33,8 +33,8 @@ extern HWND DialogHandles[NUM_DIALOGS]; // null: closed
 // screen and raises it instead, unchanged. False if it cannot be created.
 bool OpenDialog(HWND parent, DialogId id);
 
-// Handler: opens the dialog whose DialogId is the argument. 1 if it is open.
-int OpenDialogAction(const ActionCall& call);
+// Handler: opens the dialog whose DialogId is the argument.
+void OpenDialogAction(const ActionCall& call);
 
 // Closes a dialog and destroys its window; dialogs that it owns stay open. Call it last in a handler. Does
 // nothing if the window is not an open dialog.

@@ -117,7 +117,7 @@ static void ReturnFocus(HWND window, HWND active, int activations) {
         ReturnForeground(active);
 }
 
-int ShowActionMenu(HWND window) {
+void ShowActionMenu(HWND window) {
     NoteForeground();
     const HWND active = LastActiveWindow();
     ActivateWindow(window);
@@ -125,12 +125,11 @@ int ShowActionMenu(HWND window) {
     const int choice = TrackActionMenu(window);
     PostMessageA(window, WM_NULL, 0, 0); // else the next menu of a tray icon can close at once
     const int activations = ActivationCount();
-    const int result = choice ? DoAction(window, choice, active) : 0;
+    if (choice)
+        DoAction(window, choice, active);
     ReturnFocus(window, active, activations);
-    return result;
 }
 
-int DisplayMenu(const ActionCall& call) {
+void DisplayMenu(const ActionCall& call) {
     ShowActionMenu(call.window);
-    return 0;
 }

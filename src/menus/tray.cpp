@@ -70,10 +70,10 @@ bool IsTaskbarCreated(UINT message) {
     return TaskbarCreated && message == TaskbarCreated;
 }
 
-LRESULT OnTrayMessage(HWND window, LPARAM lParam) {
+void OnTrayMessage(HWND window, LPARAM lParam) {
     switch (lParam) {
-    case WM_RBUTTONDOWN: return ShowActionMenu(window);
-    case WM_LBUTTONDBLCLK: ToggleToolwin({}); return 0;
-    default: return 0;
+    case WM_RBUTTONDOWN: ShowActionMenu(window); break;
+    case WM_LBUTTONDBLCLK: ToggleToolwin({}); break;
+    default: break;
     }
 }

@@ -15,6 +15,5 @@ void RemoveTrayIcon(HWND window);
 // shows them in a different size.
 bool IsTaskbarCreated(UINT message);
 
-// A press of the right button opens the menu, a double click of the left one shows or hides the map. The
-// result of the chosen action, else 0.
-LRESULT OnTrayMessage(HWND window, LPARAM lParam);
+// A press of the right button opens the menu, a double click of the left one shows or hides the map.
+void OnTrayMessage(HWND window, LPARAM lParam);

@@ -54,14 +54,13 @@ void RegisterRegionKeys() {
 }
 
 // Also moves the first unused row up, because its hotkey still leads to it.
-bool RemoveRegion() {
+void RemoveRegion() {
     const int index = RegionAtCorner(VDesk.left, VDesk.top);
     if (index >= num_regions)
-        return false;
+        return;
     const int end = std::min(num_regions + 1, MAX_REGIONS);
     std::copy(RegionTable + index + 1, RegionTable + end, RegionTable + index);
     --num_regions;
-    return true;
 }
 
 void ClearRegions() {

@@ -34,8 +34,8 @@ void ResetRegions(int count);
 // in use. From the eleventh region on, the digit is taken and registering fails with a beep.
 void RegisterRegionKeys();
 
-// Removes the region whose corner is the view's; later ones move up. Hotkeys stay. False if there is none.
-bool RemoveRegion();
+// Removes the region whose corner is the view's; later ones move up. Hotkeys stay.
+void RemoveRegion();
 
 // Removes all regions. Hotkeys stay.
 void ClearRegions();

@@ -63,9 +63,9 @@ static int ChangedSize(int size, int screens, int screen) {
     return screens < 0 ? static_cast<int>(std::max(changed, 0LL + screen)) : size;
 }
 
-int ChangeDesktopSize(const ActionCall& call) {
+void ChangeDesktopSize(const ActionCall& call) {
     if (!MayScroll())
-        return 0; // the windows could not follow
+        return; // the windows could not follow
     const SizeChange& change = SizeChanges[call.argument];
     SetDesktopSize(ChangedSize(Quorl.right, change.width, ScreenW()),
                    ChangedSize(Quorl.bottom, change.height, ScreenH()));
@@ -74,5 +74,4 @@ int ChangeDesktopSize(const ActionCall& call) {
     else if (change.bClamps)
         ShiftWindows(0, 0);
     Repaint(MainWnd);
-    return 1;
 }

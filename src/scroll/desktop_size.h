@@ -30,5 +30,6 @@ enum DesktopSide {
     REMOVE_BOTTOM
 };
 
-// Handler: adds or removes a screen; the argument is a DesktopSide. 0 if windows cannot move now, else 1.
-int ChangeDesktopSize(const ActionCall& call);
+// Handler: adds or removes a screen; the argument is a DesktopSide. Does nothing if
+// windows cannot move now.
+void ChangeDesktopSize(const ActionCall& call);

@@ -68,12 +68,12 @@ bool FollowActiveWindow() {
     return true;
 }
 
-bool CenterOnWindow(HWND window, HWND target) {
+void CenterOnWindow(HWND window, HWND target) {
     WindowFrame frame{};
     if (!IsManagedWindow(target, &frame))
-        return false;
+        return;
     const POINT middle = MiddleOf(frame.visible);
     ScrollView(window, Wrap(0LL + middle.x + VDesk.left), Wrap(0LL + middle.y + VDesk.top), SV_WINDOW,
                ACTION_VIEW_TO_ACTIVE);
-    return ReturnForeground(target);
+    ReturnForeground(target);
 }

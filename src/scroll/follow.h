@@ -3,9 +3,9 @@
 
 #include "core/platform.h"
 
-// Brings `target` to the middle of the view and gives it the foreground; `window` is repainted. False if the
-// target is not managed or does not get the foreground.
-bool CenterOnWindow(HWND window, HWND target);
+// Brings `target` to the middle of the view and gives it the foreground; `window` is repainted. Does nothing
+// if the target is not managed.
+void CenterOnWindow(HWND window, HWND target);
 
 // One tick of following, if the user has switched it on. True if there is an active window to follow, whether
 // or not the view moved: then the map must be refreshed.

@@ -43,16 +43,14 @@ void SaveSettings() {
     SaveAtomically(SettingsFile(), SaveTo, IsComplete);
 }
 
-int SaveSettingsAction(const ActionCall&) {
+void SaveSettingsAction(const ActionCall&) {
     SaveSettings();
-    return 0;
 }
 
-int LoadSettingsAction(const ActionCall&) {
+void LoadSettingsAction(const ActionCall&) {
     bool bStored[NUM_ACTIONS] = {};
     ReadSettings(bStored);
     for (int id = 0; id < NUM_ACTIONS; ++id)
         if (bStored[id])
             RegisterRecordedKey(id);
-    return 0;
 }

@@ -10,6 +10,6 @@ void LoadSettingsAtStart();
 // Saves the settings atomically.
 void SaveSettings();
 
-// Handlers. Always 0.
-int SaveSettingsAction(const ActionCall& call);
-int LoadSettingsAction(const ActionCall& call);
+// Handlers.
+void SaveSettingsAction(const ActionCall& call);
+void LoadSettingsAction(const ActionCall& call);

@@ -39,38 +39,37 @@ void ScaleToolwin() {
                    Wrap(0LL + rect.top + Scale(Height(rect), dpi, DEFAULT_DPI))});
 }
 
-bool MoveToolwin(int dx, int dy) {
+void MoveToolwin(int dx, int dy) {
     WindowFrame frame{};
     if (!ReadWindowFrame(MainWnd, &frame))
-        return false;
+        return;
     CheckDisplays(); // the displays may have changed since the last move
     RECT rect = Offset(frame.visible, dx, dy);
     if (IsOn(ACTION_SNAP))
         rect = SnapRect(rect, Options.border, ScreenW(), ScreenH());
     ShowTip("Toolwin: %d,%d - %d,%d", static_cast<int>(rect.left), static_cast<int>(rect.top),
             static_cast<int>(rect.right), static_cast<int>(rect.bottom));
-    return MoveOwnWindow(MainWnd, frame, rect);
+    MoveOwnWindow(MainWnd, frame, rect);
 }
 
-int StepToolwin(const ActionCall& call) {
+void StepToolwin(const ActionCall& call) {
     const POINT step = StepDelta(call.argument);
-    return MoveToolwin(step.x, step.y);
+    MoveToolwin(step.x, step.y);
 }
 
-int ResizeToolwin(const ActionCall& call) {
+void ResizeToolwin(const ActionCall& call) {
     WindowFrame frame{};
     if (!ReadWindowFrame(MainWnd, &frame))
-        return 0;
+        return;
     const POINT step = StepDelta(call.argument);
     RECT rect = frame.visible;
     rect.right = Wrap(0LL + rect.right + step.x);
     rect.bottom = Wrap(0LL + rect.bottom + step.y);
-    return MoveOwnWindow(MainWnd, frame, rect);
+    MoveOwnWindow(MainWnd, frame, rect);
 }
 
-int ToggleToolwin(const ActionCall&) {
+void ToggleToolwin(const ActionCall&) {
     int& bShown = ActionTable[ACTION_SHOW_TOOLWIN].value;
     bShown = !bShown;
     ShowWindow(MainWnd, bShown ? SW_SHOWNA : SW_HIDE);
-    return 1;
 }

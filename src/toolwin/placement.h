@@ -10,17 +10,17 @@ constexpr SIZE MAX_TOOLWIN{32000, 32000};
 void ScaleToolwin();
 
 // Moves the map by a distance in screen pixels, snaps it to the screen's edges if the user has switched that
-// on, and shows the result in the status strip. Measures the screen first. False if the move fails.
-bool MoveToolwin(int dx, int dy);
+// on, and shows the result in the status strip. Measures the screen first.
+void MoveToolwin(int dx, int dy);
 
-// Handler: moves the map by a step. 1 if it moved.
-int StepToolwin(const ActionCall& call);
+// Handler: moves the map by a step.
+void StepToolwin(const ActionCall& call);
 
-// Handler: moves the map's bottom right corner by a step, within its size limits. 0 if it fails.
-int ResizeToolwin(const ActionCall& call);
+// Handler: moves the map's bottom right corner by a step, within its size limits.
+void ResizeToolwin(const ActionCall& call);
 
-// Handler: shows or hides the map and records it in the action's value. Always 1.
-int ToggleToolwin(const ActionCall& call);
+// Handler: shows or hides the map and records it in the action's value.
+void ToggleToolwin(const ActionCall& call);
 
 // Pure: a rectangle moved flush to those edges of the screen that it is closer to than `border` or beyond.
 // The size stays; of two opposite edges the far one wins. Screen pixels.

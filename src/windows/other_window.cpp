@@ -274,10 +274,10 @@ bool ScrollListView(HWND window, int dx, int dy) {
     return SendBounded(window, LVM_SCROLL, static_cast<WPARAM>(dx), dy, SCROLL_TIMEOUT);
 }
 
-bool RaiseWindow(HWND window) {
+void RaiseWindow(HWND window) {
     SetActiveWindow(window);
     BringWindowToTop(window);
-    return SetForegroundWindow(window) != 0;
+    SetForegroundWindow(window);
 }
 
 static int Activations;
@@ -287,22 +287,23 @@ int ActivationCount() {
 }
 
 // SetFocus and SetActiveWindow act on our own windows, the other two on any.
-static bool FocusAndRaise(HWND window) {
+static void FocusAndRaise(HWND window) {
     ++Activations;
     SetFocus(window);
-    return RaiseWindow(window);
+    RaiseWindow(window);
 }
 
-bool ActivateWindow(HWND window) {
-    return IsAlive(window) && FocusAndRaise(window);
+void ActivateWindow(HWND window) {
+    if (IsAlive(window))
+        FocusAndRaise(window);
 }
 
 // SetForegroundWindow does not wait for the window, unlike the others.
-bool ReturnForeground(HWND window) {
+void ReturnForeground(HWND window) {
     if (IsAlive(window))
         return FocusAndRaise(window);
     ++Activations;
-    return SetForegroundWindow(window) != 0;
+    SetForegroundWindow(window);
 }
 
 void FocusOtherWindow(HWND window) {
@@ -330,6 +331,6 @@ void TileOtherWindows(UINT how, const RECT& rect, const HWND* windows, UINT coun
         TileWindows(nullptr, how, &area, count, windows);
 }
 
-bool BroadcastScreenSaver() {
-    return SendBounded(HWND_BROADCAST, WM_SYSCOMMAND, SC_SCREENSAVE, 0, SCROLL_TIMEOUT);
+void BroadcastScreenSaver() {
+    SendBounded(HWND_BROADCAST, WM_SYSCOMMAND, SC_SCREENSAVE, 0, SCROLL_TIMEOUT);
 }

@@ -73,13 +73,12 @@ bool ScrollListView(HWND window, int dx, int dy);
 // Whether the window is a list view, which some programs use as a top-level window.
 bool IsListView(HWND window);
 
-// Gives the window the focus and the foreground and raises it. False if it does not respond, or if Windows
-// denies the foreground.
-bool ActivateWindow(HWND window);
+// Gives the window the focus and the foreground and raises it. Does nothing if it does not respond.
+void ActivateWindow(HWND window);
 
 // ActivateWindow, but a window that does not respond gets the foreground too: it is the one that the user
-// works with. False if Windows denies it.
-bool ReturnForeground(HWND window);
+// works with.
+void ReturnForeground(HWND window);
 
 // How often a window has been activated from here. Compare it to detect an activation: GetForegroundWindow
 // returns the old window until the program of the new one has handled it.
@@ -90,8 +89,7 @@ int ActivationCount();
 void FocusOtherWindow(HWND window);
 
 // Raises one of Quorl's own windows and makes it the foreground window, without asking whether it responds.
-// False if Windows denies the foreground.
-bool RaiseWindow(HWND window);
+void RaiseWindow(HWND window);
 
 // Makes the window topmost, or no longer so. Nothing happens if it does not respond.
 void ToggleTopmost(HWND window);
@@ -100,4 +98,4 @@ void ToggleTopmost(HWND window);
 void TileOtherWindows(UINT how, const RECT& rect, const HWND* windows, UINT count);
 
 // Asks every program to start the screen saver, each within SCROLL_TIMEOUT.
-bool BroadcastScreenSaver();
+void BroadcastScreenSaver();

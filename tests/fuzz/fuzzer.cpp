@@ -1,6 +1,6 @@
 // libFuzzer's entry point for the test function FUZZED.
 #include "fuzz/inputs.h"
-#include "fuzz/reset.h"
+#include "support/reset.h"
 
 #include "desk/desk.h"
 

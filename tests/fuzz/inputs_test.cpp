@@ -1,6 +1,6 @@
 // The kept inputs of the fuzzers, every one that found a fault among them, and random ones.
 #include "fuzz/inputs.h"
-#include "fuzz/reset.h"
+#include "support/reset.h"
 #include "support/quorl_test.h"
 
 #include <filesystem>

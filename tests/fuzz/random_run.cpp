@@ -6,7 +6,7 @@
 #include "dialogs/registry.h"
 #include "menus/menu_list.h"
 #include "hook/hook_message.h"
-#include "fuzz/reset.h"
+#include "support/reset.h"
 #include "regions/region_table.h"
 #include "scroll/scroll_view.h"
 #include "settings/ini.h"

@@ -2,7 +2,7 @@
 #include "support/quorl_test.h"
 
 #include "app/main.h"
-#include "fuzz/reset.h"
+#include "support/reset.h"
 #include "regions/region_table.h"
 #include "status/status_strip.h"
 #include "windows/window_table.h"

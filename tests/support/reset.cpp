@@ -1,4 +1,4 @@
-#include "fuzz/reset.h"
+#include "support/reset.h"
 
 #include "support/quorl_test.h"
 

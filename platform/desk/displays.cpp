@@ -123,11 +123,11 @@ BOOL GetMonitorInfoA(HMONITOR monitor, MONITORINFO* info) {
     return TRUE;
 }
 
-HRESULT GetDpiForMonitor(HMONITOR monitor, int, UINT* dpiX, UINT* dpiY) {
+HRESULT GetDpiForMonitor(HMONITOR monitor, int kind, UINT* dpiX, UINT* dpiY) {
     const std::size_t index = IndexOf(monitor);
     if (CallFails("GetDpiForMonitor") || index >= Desk.displays.size())
-        return static_cast<HRESULT>(0x80070057); // E_INVALIDARG
-    *dpiX = *dpiY = Desk.displays[index].dpi;
+        return static_cast<HRESULT>(0x80070057);                      // E_INVALIDARG
+    *dpiX = *dpiY = Desk.displays[index].dpi / (kind == 0 ? 1U : 2U); // 0 is the effective scale
     return 0;
 }
 

@@ -86,7 +86,6 @@ const char* HotkeyText(ActionRow& row) {
     char key[KEY_TEXT_SIZE] = "";
     if (row.vk >= 0)
         KeyText(key, row.vk);
-    row.text[0] = 0;
     const int length = AppendFlags(row.text, 0, ModifierTexts, row.key_mods);
     std::snprintf(row.text + length, sizeof row.text - static_cast<std::size_t>(length), "%s", key);
     return row.text;

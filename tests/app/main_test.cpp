@@ -28,15 +28,22 @@ TEST_F(Start, MeasuresAllDisplaysAndLimitsTheDesktop) {
 }
 
 TEST_F(Start, DisablesActionsThatTheSystemLacks) {
-    Desk.modules["user32.dll"].exports.erase("SetLayeredWindowAttributes");
+    for (const char* const function : {"SetLayeredWindowAttributes", "LockWorkStation"})
+        Desk.modules["user32.dll"].exports.erase(function);
     Desk.modules["quorl.dll"].installed = 0;
     Desk.files["quorl.ini"] = "[Quorl]\r\nAction85=-1|-1|-1|-1|1\r\n";
     ASSERT_TRUE(StartQuorl());
     EXPECT_FALSE(WindowOf(MainWnd).exStyle & WS_EX_LAYERED);
     EXPECT_EQ(Desk.beeps, std::vector<UINT>{0});
-    for (const ActionId id : {ACTION_TRANSPARENCY, ACTION_FOLLOW_MOUSE, ACTION_SUPPRESS_SCROLL})
+    for (const ActionId id :
+         {ACTION_TRANSPARENCY, ACTION_LOCK_STATION, ACTION_FOLLOW_MOUSE, ACTION_SUPPRESS_SCROLL})
         EXPECT_EQ(ActionTable[id].flags, ACTION_OFF) << id;
     EXPECT_FALSE(IsOn(ACTION_FOLLOW_MOUSE)) << "whatever the settings say";
+    EXPECT_FALSE(Options.hook_present);
+    AnswerBoxes({IDOK});
+    for (const ActionId id : {ACTION_LOCK_STATION, ACTION_TRANSPARENCY})
+        RunAction(id);
+    EXPECT_EQ(LastBox(), "Transparency cannot be done on this OS./Blame Microsoft!");
     EXPECT_NE(ActionTable[ACTION_SUPPRESS_FOLLOW].flags, ACTION_OFF);
     ShutDown();
 }

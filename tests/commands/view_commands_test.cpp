@@ -1,3 +1,4 @@
+#include "actions/dispatch.h"
 #include "support/quorl_test.h"
 
 class ViewCommands : public RunningQuorl {
@@ -14,6 +15,13 @@ TEST_F(ViewCommands, MoveTheViewByAStep) {
     EXPECT_EQ(CornerAfter(ACTION_VIEW_LEFT_MAX, 1000, 300), (POINT{900, 300}));
     EXPECT_EQ(CornerAfter(ACTION_VIEW_UP_MIN, 1000, 300), (POINT{1000, 295}));
     EXPECT_EQ(CornerAfter(ACTION_VIEW_DOWN_MAX, 1000, 300), (POINT{1000, 400}));
+}
+
+TEST_F(ViewCommands, CenterAPointOfTheMap) {
+    VDesk = Rect(1000, 300, 2024, 1068);
+    for (int press = 0; press < 2; ++press)
+        DoAction(MainWnd, ACTION_VIEW_CENTER_POINT, nullptr, {96, 46}); // of 192 by 92
+    EXPECT_EQ(ViewCorner(), (POINT{1536, 384}));
 }
 
 TEST_F(ViewCommands, MoveTheViewByScreensAndToEdges) {

@@ -21,6 +21,7 @@ static LONG ViewAfterKey(UINT mods, UINT key) {
 
 TEST_F(ActionsDialog, EachTabShowsItsActionsAndBindings) {
     BindMouse(ACTION_SCREEN_RIGHT, KEY_WIN | KEY_SHIFT, LBUTTON);
+    BindMouse(ACTION_VIEW_TO_POINT, KEY_SHIFT, UNBOUND);
     ChooseAction(KEY_ITEM);
     EXPECT_EQ(Binding(KEY_ITEM), "C-A-Right");
     EXPECT_EQ(ListViewText(Item(IDC_ACTIONS_LIST), KEY_ITEM, 1), "Move one desktop to the right");
@@ -35,21 +36,21 @@ TEST_F(ActionsDialog, EachTabShowsItsActionsAndBindings) {
     }
     Choose(IDC_ACTIONS_TABS, 1);
     ChooseAction(MOUSE_ITEM);
-    EXPECT_EQ(Binding(0) + " " + Binding(MOUSE_ITEM), "RB S-W-LB");
+    EXPECT_EQ(Binding(0) + " " + Binding(MOUSE_ITEM) + " " + Binding(1), "RB S-W-LB S-");
     EXPECT_EQ(Checked(), (Numbers{IDC_ACTIONS_SHIFT, IDC_ACTIONS_WIN, IDC_ACTIONS_LEFT}));
 }
 
 TEST_F(ActionsDialog, ApplyReplacesTheHotkeyAtOnceAndClearReleasesIt) {
     ChooseAction(KEY_ITEM);
     Choose(IDC_ACTIONS_KEYS, F5);
-    Click(IDC_ACTIONS_SHIFT, IDC_ACTIONS_CTRL, IDC_ACTIONS_APPLY);
-    EXPECT_EQ(Binding(KEY_ITEM), "S-A-F5");
+    Click(IDC_ACTIONS_ALT, IDC_ACTIONS_CTRL, IDC_ACTIONS_APPLY);
+    EXPECT_EQ(Binding(KEY_ITEM), "F5");
     EXPECT_EQ(ViewAfterKey(MOD_CONTROL | MOD_ALT, VK_RIGHT), 0);
-    EXPECT_EQ(ViewAfterKey(MOD_SHIFT | MOD_ALT, VK_F1 + 4), 1024);
+    EXPECT_EQ(ViewAfterKey(0, VK_F1 + 4), 1024);
     Click(IDC_ACTIONS_CLEAR);
-    EXPECT_EQ(ViewAfterKey(MOD_SHIFT | MOD_ALT, VK_F1 + 4), 1024);
+    EXPECT_EQ(ViewAfterKey(0, VK_F1 + 4), 1024);
     EXPECT_EQ(Control(IDC_ACTIONS_LIST).redrawn, (Numbers{KEY_ITEM, KEY_ITEM}));
-    Desk.hotkeys.push_back({nullptr, 1, MOD_SHIFT | MOD_ALT, 'Q'});
+    Desk.hotkeys.push_back({nullptr, 1, 0, 'Q'});
     Choose(IDC_ACTIONS_KEYS, Q);
     AnswerBoxes({IDOK});
     Click(IDC_ACTIONS_APPLY);

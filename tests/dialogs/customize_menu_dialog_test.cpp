@@ -30,6 +30,11 @@ TEST_F(CustomizeMenuDialog, MovesActionsIntoTheMenuAndBack) {
     EXPECT_EQ(offered.size(), before - 1);
     EXPECT_EQ(MenuAfter(IDC_MENU_REMOVE), "54 -1 0 ");
     EXPECT_EQ(offered.size(), before);
+    Choose(IDC_MENU_LIST, 2);
+    EXPECT_EQ(MenuAfter(IDC_MENU_REMOVE), "54 -1 ");
+    Choose(IDC_MENU_ACTIONS, 0);
+    SetMenu({57, 54}); // as loading the settings does
+    EXPECT_EQ(MenuAfter(IDC_MENU_ADD), "57 54* ") << "each action once";
 }
 
 TEST_F(CustomizeMenuDialog, ARemovalSelectsTheNextEqualEntry) {

@@ -54,7 +54,9 @@ TEST_F(SmallDialogs, ResizeKeepsTheCornerAndTheChosenWindow) {
 TEST_F(SmallDialogs, HelpTextShrinksWithTheDialog) {
     Open(ACTION_HELP);
     SendMessageA(dialog, WM_SIZE, 0, MAKELPARAM(500, 400));
-    EXPECT_EQ(RectOf(Item(IDOK)).top - RectOf(Item(IDC_HELP_TEXT)).bottom, 10);
+    const RECT text = RectOf(Item(IDC_HELP_TEXT));
+    EXPECT_EQ(RectOf(Item(IDOK)).top - text.bottom, 10);
+    EXPECT_EQ(Width(text), 480);
 }
 
 TEST_F(SmallDialogs, TheMapFollowsTheTransparencySlider) {

@@ -2,6 +2,7 @@
 #include "displays/display_test.h"
 
 #include "scroll/scroll_view.h"
+#include "windows/window_table.h"
 
 class Frames : public ModernDesktop {
   protected:
@@ -42,6 +43,11 @@ TEST_F(Frames, AMaximizedWindowIsCompletelyInView) {
     WindowOf(snapped).margins = Rect(9, 0, 6, 7); // misses the edge by two pixels
     RunAction(ACTION_CYCLE_IN_VIEW);
     EXPECT_EQ(Desk.foreground, snapped);
+    const HWND right = OpenWindow("right half", {953, 0, 1927, 1047});
+    WindowOf(right).margins = Rect(7, 0, 6, 7);
+    RebuildWindowTable();
+    RunAction(ACTION_NEXT_IN_VIEW);
+    EXPECT_EQ(Desk.foreground, snapped) << "the second, behind that one";
 }
 
 TEST_F(Frames, CommandsAndTheMapAlignWhatTheUserSees) {

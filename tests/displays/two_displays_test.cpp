@@ -30,6 +30,9 @@ TEST_F(TwoDisplays, OnlyTheOuterEdgesScroll) {
     EXPECT_EQ(AfterMouseAt(-2558, 1120), (POINT{0, 0}));
     EXPECT_EQ(Desk.cursor, (POINT{1905, 1075}))
         << "below the primary display Windows would put it on the edge";
+    RunAction(ACTION_SCREEN_RIGHT);
+    AfterMouseAt(-2558, -200);
+    EXPECT_EQ(Desk.cursor, (POINT{1905, 5})) << "above it too";
 }
 
 TEST_F(TwoDisplays, TheMapLivesOnTheLeftOneAcrossARestart) {
@@ -105,9 +108,11 @@ TEST_F(DisplayChange, TheViewShowsTheSamePartOfTheDesktop) {
     Wait(200);
     SendMessageA(MainWnd, WM_SETTINGCHANGE, SPI_SETWORKAREA, 0);
     Wait(1400);
+    Desk.trace.clear();
     EXPECT_EQ(VDesk.left, 8960) << "waits again from the start";
     Wait(200);
     EXPECT_EQ(VDesk, Rect(11520, 300, 13440, 1380)) << "what the primary display showed";
+    EXPECT_TRUE(CalledInOrder({"EnumWindows", "UpdateWindow"})) << "the map";
     ChangeDisplays({Primary, Left});
     Wait(1500);
     EXPECT_EQ(VDesk, Rect(8960, 0, 13440, 1440));

@@ -8,8 +8,9 @@ TEST(EdgeStep, MovesTheViewAndTheCursorByTheScrollType) {
     using Step = std::vector<LONG>;
     const auto step = [](POINT cursor, int type) {
         Options.mousescroll_type = type;
-        const EdgeStep edge = EdgeStepAt(cursor, Options, {2048, 800, 3072, 1568}, {0, 0, 1024, 768});
-        return Step{edge.dir, edge.view.x, edge.view.y, edge.landing.x, edge.landing.y};
+        const EdgeStep edge = EdgeStepAt({cursor.x - 200, cursor.y - 100}, Options, {2048, 800, 3072, 1568},
+                                         {-200, -100, 824, 668}); // left of the primary display and above
+        return Step{edge.dir, edge.view.x, edge.view.y, edge.landing.x + 200, edge.landing.y + 100};
     };
     EXPECT_EQ(step({1020, 766}, 3), (Step{DIR_RIGHT, 3072, 800, 15, 766})) << "a corner";
     EXPECT_EQ(step({4, 300}, 3), (Step{DIR_LEFT, 1024, 800, 1009, 300}));

@@ -43,11 +43,6 @@ BREAKS = (
 # functions, line and replacement (a pattern), why no test can notice such a break
 EQUIVALENT = (
     ("FoldOnCrash", "", "a crash needs Windows"),
-    ("CenterActiveWindow CenterOnActive ChangeBorder ChangeDesktopSize CycleView DisplayMenu DoNothing FlashGivenWindow "
-     "FocusNeighbour GoToPoint GoToRegion GoToScreen LoadSettingsAction LockActiveWindow LockStation MoveActiveToEdge "
-     "MoveActiveWindow OpenDialogAction QuitAction ResizeToolwin SaveSettingsAction StartScreenSaver StepToRegion StepToolwin "
-     "StepView TileView ToggleActiveTopmost ToggleToolwin ToggleValue UnmarkAllRegions UnmarkRegion", r"return [01];|: 0;",
-     "a hotkey ignores what a handler returns"),
     ("OnMapLeftPress OnMapRightPress OnMapMiddlePress OnToolwinMouseMove OnTrayMessage SpinnerWndProc OnHotkey OnPaint", r"return ",
      "Windows ignores what these messages return"),
     ("SelectedData AddListRow ApplySlider InsertTabs FillKeyCombo ShowKey", r"(LB_GETCURSEL|LB_ADDSTRING|TBM_GETPOS|TCM_DELETEALLITEMS|CB_INSERTSTRING|CB_SETCURSEL).*-> 1",

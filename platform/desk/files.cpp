@@ -64,28 +64,27 @@ BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD) {
     if (!Copy(from, to))
         return FALSE;
     Desk.ownRights.erase(FileKey(to));
+    if (Desk.ownRights.erase(FileKey(from)))
+        Desk.ownRights.insert(FileKey(to));
     return Remove(from);
 }
 
-// Two steps, between which the file exists only by the name of the backup. The second one can fail on its
-// own.
-BOOL ReplaceFileA(LPCSTR replaced, LPCSTR replacement, LPCSTR backup, DWORD, LPVOID, LPVOID) {
-    if (CallFails("ReplaceFileA"))
+// The security descriptor is a byte: whether the file has rights of its own.
+BOOL GetFileSecurityA(LPCSTR file, DWORD, LPVOID rights, DWORD, DWORD*) {
+    *static_cast<bool*>(rights) = Desk.ownRights.contains(FileKey(file));
+    return !CallFails("GetFileSecurityA") && Desk.files.contains(FileKey(file));
+}
+
+BOOL SetFileSecurityA(LPCSTR file, DWORD, LPVOID rights) {
+    if (CallFails("SetFileSecurityA"))
         return FALSE;
-    const std::string to = FileKey(replaced);
-    const auto from = Desk.files.find(FileKey(replacement));
-    if (from == Desk.files.end() || !Desk.files.contains(to))
-        return FailWith(ERROR_FILE_NOT_FOUND);
-    if (IsProtected(to))
-        return FailWith(ERROR_ACCESS_DENIED);
-    if (IsOpen(to) || IsOpen(from->first))
-        return FailWith(ERROR_SHARING_VIOLATION);
-    Desk.files[FileKey(backup)] = Desk.files[to];
-    Desk.files.erase(to);
-    if (CallFails("ReplaceFileA, second step"))
-        return FALSE;
-    Desk.files[to] = from->second;
-    return Remove(replacement);
+    if (*static_cast<bool*>(rights))
+        Desk.ownRights.insert(FileKey(file));
+    return TRUE;
+}
+
+BOOL SetSecurityDescriptorControl(LPVOID, WORD, WORD) {
+    return !CallFails("SetSecurityDescriptorControl");
 }
 
 BOOL DeleteFileA(LPCSTR file) {

@@ -1,6 +1,5 @@
 #include "app/create.h"
 
-#include "app/quit.h"
 #include "core/state.h"
 #include "menus/menu_list.h"
 #include "scroll/desktop_size.h"
@@ -22,5 +21,4 @@ void OnCreate(HWND window) {
     RebuildWindowTable();
     ScaleToolwin(); // the settings contain a size that is scaled already
     LoadSettingsAtStart();
-    EnableSaving();
 }

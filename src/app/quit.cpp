@@ -7,22 +7,12 @@
 #include "scroll/gather.h"
 #include "settings/settings.h"
 
-static bool bMaySave; // false until all hotkeys are registered: an earlier exit would save unbound ones
-
-void EnableSaving() {
-    bMaySave = true;
-}
-
-static void SaveIfWanted() {
-    if (bMaySave && IsOn(ACTION_SAVE_AT_EXIT))
-        SaveSettings();
-}
-
 static void Quit(HWND window, FoldReason reason) {
     bQuitting = true;
     UseCurrentDisplays();
     RemoveTrayIcon(window);
-    SaveIfWanted();
+    if (IsOn(ACTION_SAVE_AT_EXIT))
+        SaveSettings();
     ClearAllActionKeys();
     GatherWindows(reason);
     PostQuitMessage(0); // last: it would close a box about a window that refuses to move

@@ -3,9 +3,6 @@
 
 #include "actions/action_table.h"
 
-// Call once the settings are loaded and the hotkeys registered: quitting before that saves nothing.
-void EnableSaving();
-
 // Asks "QUIT?". On Yes saves the settings if the user wants that, releases the hotkeys, folds all windows
 // back onto the screen, posts the quit message, and returns true. Any other answer changes nothing.
 bool ConfirmQuit(HWND window);

@@ -10,7 +10,12 @@ namespace {
 struct Paths {
     char stored[MAX_PATH];
     char copy[MAX_PATH];
-    char old[MAX_PATH]; // the file while it is being replaced
+};
+
+enum CopyResult {
+    COPY_MADE,
+    FOLDER_DENIED, // the user may not create files there
+    COPY_FAILED    // a full disk, or a file that another program holds open
 };
 
 } // namespace
@@ -33,23 +38,7 @@ static bool FindPaths(LPCSTR file, Paths* paths) {
     const char* const end = std::strrchr(file, '\\');
     const unsigned long process = GetCurrentProcessId();
     return std::snprintf(paths->stored, MAX_PATH, "%s\\%s", folder, end ? end + 1 : file) < MAX_PATH &&
-           std::snprintf(paths->copy, MAX_PATH, "%s\\quorl%lx.new", folder, process) < MAX_PATH &&
-           std::snprintf(paths->old, MAX_PATH, "%s\\quorl.old", folder) < MAX_PATH;
-}
-
-static bool Exists(LPCSTR file) {
-    return GetFileAttributesA(file) != INVALID_FILE_ATTRIBUTES;
-}
-
-static void Recover(const Paths& paths) {
-    if (!Exists(paths.stored) && Exists(paths.old))
-        MoveFileExA(paths.old, paths.stored, MOVEFILE_WRITE_THROUGH);
-}
-
-void RecoverStored(LPCSTR file) {
-    Paths paths;
-    if (FindPaths(file, &paths))
-        Recover(paths);
+           std::snprintf(paths->copy, MAX_PATH, "%s\\quorl%lx.new", folder, process) < MAX_PATH;
 }
 
 static bool IsReadOnly(LPCSTR file) {
@@ -58,48 +47,58 @@ static bool IsReadOnly(LPCSTR file) {
 }
 
 // If the file does not exist yet, neither does the copy. A killed process with the same id may have left one.
-static bool MakeCopy(const Paths& paths) {
-    DeleteFileA(paths.copy);
-    return CopyFileA(paths.stored, paths.copy, FALSE) || GetLastError() == ERROR_FILE_NOT_FOUND;
+static CopyResult MakeCopy(const Paths& paths) {
+    if (!DeleteFileA(paths.copy) && GetLastError() != ERROR_FILE_NOT_FOUND)
+        return COPY_FAILED;
+    if (CopyFileA(paths.stored, paths.copy, FALSE) || GetLastError() == ERROR_FILE_NOT_FOUND)
+        return COPY_MADE;
+    return GetLastError() == ERROR_ACCESS_DENIED ? FOLDER_DENIED : COPY_FAILED;
 }
 
 // Without this, a power failure can leave an empty file: renaming may reach the disk before the contents.
+// Some network folders cannot flush.
 static bool FlushToDisk(LPCSTR file) {
     const HANDLE handle = CreateFileA(file, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                                       OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         return false;
-    const bool bFlushed = FlushFileBuffers(handle) != 0;
+    const bool bFlushed = FlushFileBuffers(handle) || GetLastError() == ERROR_INVALID_FUNCTION ||
+                          GetLastError() == ERROR_NOT_SUPPORTED;
     CloseHandle(handle);
     return bFlushed;
 }
 
-// ReplaceFileA keeps the file's attributes and access rights, but needs an existing file and more rights than
-// renaming. It first moves the file away and then the copy to its place: a process that ends in between
-// leaves no file but the old one, by the name that is given here.
+// CopyFileA copies the attributes but not the access rights: a new file gets those of its folder. If this
+// fails, it keeps them.
+static void CopyRights(LPCSTR from, LPCSTR to) {
+    alignas(void*) char rights[4096];
+    DWORD size = 0;
+    if (!GetFileSecurityA(from, DACL_SECURITY_INFORMATION, rights, sizeof rights, &size))
+        return;
+    // Else rights that come from the folder would no longer change with those of the folder.
+    SetSecurityDescriptorControl(rights, SE_DACL_AUTO_INHERIT_REQ, SE_DACL_AUTO_INHERIT_REQ);
+    SetFileSecurityA(to, DACL_SECURITY_INFORMATION, rights);
+}
+
+// Not with ReplaceFileA: it renames twice, and a process that ends in between leaves no file by its name.
 static bool ReplaceStored(const Paths& paths) {
-    const bool bReplaced =
-        ReplaceFileA(paths.stored, paths.copy, paths.old, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
-                     nullptr) ||
-        MoveFileExA(paths.copy, paths.stored, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
-    Recover(paths);
-    if (bReplaced)
-        DeleteFileA(paths.old);
-    return bReplaced;
+    CopyRights(paths.stored, paths.copy);
+    return MoveFileExA(paths.copy, paths.stored, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+static bool SaveByCopy(const Paths& paths, void (*save)(LPCSTR file), bool (*isComplete)(LPCSTR file)) {
+    bDiskFull = false;
+    save(paths.copy);
+    return !bDiskFull && FlushToDisk(paths.copy) && isComplete(paths.copy) && ReplaceStored(paths);
 }
 
 void SaveAtomically(LPCSTR file, void (*save)(LPCSTR file), bool (*isComplete)(LPCSTR file)) {
     Paths paths;
     if (!FindPaths(file, &paths) || IsReadOnly(paths.stored))
         return;
-    Recover(paths);
-    if (!MakeCopy(paths)) {
-        if (GetLastError() == ERROR_ACCESS_DENIED)
-            save(file);
-        return; // a full disk, a file that another program holds open: writing could damage what is stored
-    }
-    bDiskFull = false;
-    save(paths.copy);
-    if (bDiskFull || !FlushToDisk(paths.copy) || !isComplete(paths.copy) || !ReplaceStored(paths))
+    const CopyResult result = MakeCopy(paths);
+    if (result == FOLDER_DENIED)
+        return save(file);
+    if (result == COPY_FAILED || !SaveByCopy(paths, save, isComplete))
         DeleteFileA(paths.copy);
 }

@@ -67,7 +67,8 @@ void WriteIniText(LPCSTR file, LPCSTR key, LPCSTR text) {
     if (WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file))
         return;
     const DWORD error = GetLastError();
-    bDiskFull |= error == ERROR_DISK_FULL || error == ERROR_HANDLE_DISK_FULL;
+    bDiskFull |=
+        error == ERROR_DISK_FULL || error == ERROR_HANDLE_DISK_FULL || error == ERROR_NOT_ENOUGH_QUOTA;
 }
 
 int ReadIniLine(LPCSTR file, LPCSTR format, int index, char (&line)[LINE_SIZE]) {

@@ -9,6 +9,8 @@
 #include "settings/regions_file.h"
 #include "settings/settings_path.h"
 
+static bool bMaySave; // false until all hotkeys are registered: others would be saved as unbound
+
 static void ReadSettings(bool (&bStored)[NUM_ACTIONS]) {
     ResetRegions(0); // LoadOptions may repaint the map; do not draw the old regions
     LoadOptions(SettingsFile());
@@ -27,6 +29,7 @@ void LoadSettingsAtStart() {
             RegisterRecordedKey(id);
         else
             RegisterDefaultKey(id);
+    bMaySave = true;
 }
 
 static void SaveTo(LPCSTR file) {
@@ -40,7 +43,8 @@ static bool IsComplete(LPCSTR file) {
 }
 
 void SaveSettings() {
-    SaveAtomically(SettingsFile(), SaveTo, IsComplete);
+    if (bMaySave)
+        SaveAtomically(SettingsFile(), SaveTo, IsComplete);
 }
 
 void SaveSettingsAction(const ActionCall&) {

@@ -7,7 +7,8 @@
 // hotkeys of all actions once everything is read.
 void LoadSettingsAtStart();
 
-// Saves the settings atomically.
+// Saves the settings atomically. Does nothing until LoadSettingsAtStart has returned: a message box at start
+// lets the user save and quit.
 void SaveSettings();
 
 // Handlers.

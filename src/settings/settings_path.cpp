@@ -1,6 +1,5 @@
 #include "settings/settings_path.h"
 
-#include "settings/atomic_save.h"
 #include "settings/ini.h"
 
 #include <cstring>
@@ -43,14 +42,14 @@ static bool FindAnsiPath(char (&ansi)[PATH_SIZE]) {
     return length && length < MAX_PATH && ToAnsiPath(shortPath, ansi);
 }
 
+// INVALID_FILE_ATTRIBUTES, for a file that does not exist, includes the attribute of a folder.
+static bool IsFile(LPCSTR path) {
+    return !(GetFileAttributesA(path) & FILE_ATTRIBUTE_DIRECTORY);
+}
+
 void ChooseSettingsFile() {
-    const bool bFound = FindAnsiPath(PortableFile);
-    if (bFound)
-        RecoverStored(PortableFile);
-    if (!bFound || GetFileAttributesA(PortableFile) == INVALID_FILE_ATTRIBUTES) {
+    if (!FindAnsiPath(PortableFile) || !IsFile(PortableFile))
         PortableFile[0] = 0;
-        RecoverStored(SETTINGS_FILE);
-    }
 }
 
 LPCSTR SettingsFile() {

@@ -1,6 +1,7 @@
 #include "app/quit.h"
 
 #include "app/main.h"
+#include "settings/settings.h"
 #include "support/quorl_test.h"
 
 class Quit : public RunningQuorl {
@@ -33,6 +34,7 @@ TEST_F(QuitAtStart, EndsTheMessageLoopAtOnceAndSavesNothing) {
     Desk.fault = {"RegisterHotKey", 1, 0, ERROR_HOTKEY_ALREADY_REGISTERED, 0};
     Desk.duringBox = [] {
         Desk.duringBox = nullptr;
+        SaveSettings(); // the user can start the action too
         ConfirmQuit(MainWnd);
     };
     AnswerBoxes({IDYES, IDOK});

@@ -24,3 +24,6 @@ void PressMouse(int button, bool down);
 // The whole text of a private profile file, by its bare name.
 void WriteProfile(const char* file, const std::string& text);
 std::string ReadProfile(const char* file);
+
+// Gives a file, by its bare name, access rights that are not those of its folder.
+void GiveOwnRights(const char* file);

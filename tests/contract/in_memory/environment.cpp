@@ -25,3 +25,7 @@ void WriteProfile(const char* file, const std::string& text) {
 std::string ReadProfile(const char* file) {
     return Desk.files[file];
 }
+
+void GiveOwnRights(const char* file) {
+    Desk.ownRights.insert(file);
+}

@@ -46,3 +46,10 @@ std::string ReadProfile(const char* file) {
     std::ifstream text(Flushed(file), std::ios::binary);
     return {std::istreambuf_iterator<char>(text), {}};
 }
+
+void GiveOwnRights(const char* file) {
+    SECURITY_DESCRIPTOR all; // without a list, everybody has all rights
+    EXPECT_TRUE(InitializeSecurityDescriptor(&all, SECURITY_DESCRIPTOR_REVISION) &&
+                SetSecurityDescriptorDacl(&all, TRUE, nullptr, FALSE) &&
+                SetFileSecurityA(Flushed(file).c_str(), DACL_SECURITY_INFORMATION, &all));
+}

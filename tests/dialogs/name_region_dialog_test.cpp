@@ -37,6 +37,10 @@ TEST_F(NameRegion, RenamesTheRegionAtTheCurrentView) {
     const RegionRow& region = RegionTable[1];
     EXPECT_STREQ(region.name, "of a letter of two bytes, half");
     EXPECT_EQ(Rect(region.left, region.top, region.right, region.bottom), Rect(5, 0, 1029, 768));
+    Open(ACTION_MARK_REGION);
+    SendMessageA(dialog, WM_COMMAND, IDC_REGION_DELETE, 0); // the button is disabled
+    EXPECT_EQ(Rect(region.left, region.top, region.right, region.bottom), Rect(-1, -1, 1029, 768));
+    EXPECT_STREQ(region.name, "");
 }
 
 TEST_F(NameRegion, ANewRegionGetsItsColorAndHotkey) {

@@ -53,10 +53,13 @@ TEST_F(SmallDialogs, ResizeKeepsTheCornerAndTheChosenWindow) {
 
 TEST_F(SmallDialogs, HelpTextShrinksWithTheDialog) {
     Open(ACTION_HELP);
+    const LONG height = Height(RectOf(Item(IDOK)));
     SendMessageA(dialog, WM_SIZE, 0, MAKELPARAM(500, 400));
     const RECT text = RectOf(Item(IDC_HELP_TEXT));
     EXPECT_EQ(RectOf(Item(IDOK)).top - text.bottom, 10);
     EXPECT_EQ(Width(text), 480);
+    EXPECT_EQ(RectOf(Item(IDOK)).right, text.right);
+    EXPECT_EQ(Height(RectOf(Item(IDOK))), height);
 }
 
 TEST_F(SmallDialogs, TheMapFollowsTheTransparencySlider) {

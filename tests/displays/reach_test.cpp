@@ -45,6 +45,8 @@ TEST_F(Reach, AMinimizedWindowIsRestoredInReach) {
     ShowWindow(maximized, SW_MAXIMIZE);
     const HWND edge = OpenWindow("only its invisible frame is in reach", {1910, 200, 2310, 500});
     ShowWindow(edge, SW_MINIMIZE);
+    const HWND near = OpenWindow("in reach", {100, 200, 500, 500});
+    ShowWindow(near, SW_MINIMIZE);
     const HWND active = OpenWindow("active", {0, 40, 300, 340});
     Desk.foreground = active;
     Exit();
@@ -54,6 +56,7 @@ TEST_F(Reach, AMinimizedWindowIsRestoredInReach) {
     EXPECT_TRUE(IsZoomed(maximized));
     EXPECT_EQ(WindowOf(maximized).normalRect, Rect(80, 120, 480, 420));
     EXPECT_EQ(WindowOf(edge).normalRect, Rect(-4, 200, 396, 500));
+    EXPECT_EQ(CountCalls("SetWindowPlacement"), 3) << "the other one stays";
     EXPECT_EQ(Desk.foreground, active);
 }
 

@@ -159,6 +159,13 @@ TEST_F(DisplayChange, TheMapComesBackAndTheChosenSizeIsSaved) {
     EXPECT_NE(Desk.files["quorl.ini"].find("Quorl.right=5000\r\nQuorl.bottom=3200"), std::string::npos);
 }
 
+TEST_F(DisplayChange, WithoutATimerScrollingGoesOn) {
+    Desk.fault = {"SetTimer", 1, true};
+    ChangeDisplays({Primary});
+    RunAction(ACTION_SCREEN_RIGHT);
+    EXPECT_EQ(VDesk.left, 4480);
+}
+
 // Nobody moved these windows by hand, so they end where they started.
 TEST_F(DisplayChange, ExitDoesNotWaitForItToSettle) {
     Wait(2000);

@@ -17,6 +17,7 @@ TEST(EdgeStep, MovesTheViewAndTheCursorByTheScrollType) {
     EXPECT_EQ(step({500, 764}, 1), (Step{DIR_DOWN, 2048, 900, 500, 683}));
     EXPECT_EQ(step({500, 4}, 2), (Step{DIR_UP, 2048, 0, 500, 785})) << "lands off the screen";
     EXPECT_EQ(step({1022, 300}, 0), (Step{DIR_RIGHT, 2053, 800, 1034, 300}));
+    EXPECT_EQ(step({1022, 300}, 4), (Step{DIR_RIGHT, 2058, 800, 1029, 300})) << "no such type";
     EXPECT_EQ(step({1019, 763}, 3), (Step{DIR_NONE, 2048, 800, 1019, 763}));
     EXPECT_EQ(step({5, 5}, 3), (Step{DIR_NONE, 2048, 800, 5, 5}));
 }

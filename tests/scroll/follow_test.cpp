@@ -45,6 +45,9 @@ TEST_F(Follow, BringsTheActiveWindowToTheMiddleOfTheView) {
 
 TEST_F(Follow, WaitsForAHungWindowAHeldButtonAndTheSetting) {
     const auto stays = [] { return Wait(100), VDesk.left == 0; };
+    ShowWindow(editor, SW_MINIMIZE);
+    EXPECT_TRUE(stays());
+    ShowWindow(editor, SW_RESTORE);
     WindowOf(editor).response = DeskResponse::Hung;
     EXPECT_TRUE(stays());
     WindowOf(editor).response = DeskResponse::Responds;

@@ -12,6 +12,7 @@ namespace {
 int Steps = 60, Kills = 2;
 constexpr std::size_t MAX_PROGRAMS = 12;
 constexpr int STEPS_BEFORE_KILL = 20;
+constexpr int STEPS_TO_CATCH_UP = 20;
 constexpr ULONGLONG WARM_UP = 60000;      // ms
 constexpr SIZE_T MEMORY_SWING = 4U << 20; // bytes by which the working set varies anyway
 
@@ -111,12 +112,26 @@ void DoSomething() {
     }
 }
 
+// Waits until Quorl has handled all actions posted so far, which hung programs can delay: a message posted
+// behind them changes a state of the map that shows nowhere.
+bool CatchesUp() {
+    static bool bMarked;
+    bMarked = !bMarked;
+    PostMessageA(QuorlWindow(), WM_CHANGEUISTATE, MAKEWPARAM(bMarked ? UIS_SET : UIS_CLEAR, UISF_HIDEACCEL),
+                 0);
+    const auto marked = [] {
+        AnswerModalOnes();
+        return (SendMessageA(QuorlWindow(), WM_QUERYUISTATE, 0, 0) & UISF_HIDEACCEL) != 0;
+    };
+    return Eventually(marked, bMarked, 60000) == bMarked;
+}
+
 // False if Quorl no longer responds.
 bool RunSteps(int steps) {
     for (int step = 0; step < steps; ++step) {
         DoSomething();
         AnswerModalOnes();
-        if (!Responds(QuorlWindow()))
+        if (!Responds(QuorlWindow()) || (step % STEPS_TO_CATCH_UP == 0 && !CatchesUp()))
             return false;
     }
     return true;
@@ -171,12 +186,10 @@ struct Resources {
     SIZE_T memory;                    // bytes in the working set
 };
 
-// Waits for actions that were only posted and may still open a dialog.
 Resources ResourcesAtRest(HANDLE quorl) {
-    Sleep(2000);
+    EXPECT_TRUE(CatchesUp());
     CloseDialogs();
-    EXPECT_TRUE(Responds(QuorlWindow()));
-    Sleep(500);
+    EXPECT_TRUE(CatchesUp());
     std::vector<std::string> windows;
     for (HWND window = nullptr; (window = FindWindowExA(nullptr, window, nullptr, nullptr));)
         if (char name[64] = ""; ProcessOf(window) == GetProcessId(quorl) && GetClassNameA(window, name, 64))

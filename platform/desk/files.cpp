@@ -136,8 +136,10 @@ BOOL FlushFileBuffers(HANDLE) {
     return !CallFails("FlushFileBuffers");
 }
 
+// Closes a valid handle even if it fails.
 BOOL CloseHandle(HANDLE handle) {
-    return !CallFails("CloseHandle") && Desk.openFiles.erase(*static_cast<std::string*>(handle)) == 1;
+    Desk.openFiles.erase(*static_cast<std::string*>(handle));
+    return !CallFails("CloseHandle");
 }
 
 DWORD GetCurrentProcessId() {

@@ -112,18 +112,13 @@ void DoSomething() {
     }
 }
 
-// Waits until Quorl has handled all actions posted so far, which hung programs can delay: a message posted
-// behind them changes a state of the map that shows nowhere.
+// Waits until Quorl has handled all actions posted so far, which hung programs can delay: until it asks
+// whether to quit.
 bool CatchesUp() {
-    static bool bMarked;
-    bMarked = !bMarked;
-    PostMessageA(QuorlWindow(), WM_CHANGEUISTATE, MAKEWPARAM(bMarked ? UIS_SET : UIS_CLEAR, UISF_HIDEACCEL),
-                 0);
-    const auto marked = [] {
-        AnswerModalOnes();
-        return (SendMessageA(QuorlWindow(), WM_QUERYUISTATE, 0, 0) & UISF_HIDEACCEL) != 0;
-    };
-    return Eventually(marked, bMarked, 60000) == bMarked;
+    PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
+    const bool bAsks = Eventually([] { return FindWindowA("#32770", "QUIT?") != nullptr; }, true, 60000);
+    AnswerModalOnes();
+    return bAsks;
 }
 
 // False if Quorl no longer responds.

@@ -115,10 +115,10 @@ void DoSomething() {
 // Waits until Quorl has handled all actions posted so far, which hung programs can delay: until it asks
 // whether to quit.
 bool CatchesUp() {
+    const auto asks = [] { return FindWindowA("#32770", "QUIT?") != nullptr; };
+    const auto isAnswered = [&] { return AnswerModalOnes(), !asks(); };
     PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
-    const bool bAsks = Eventually([] { return FindWindowA("#32770", "QUIT?") != nullptr; }, true, 60000);
-    AnswerModalOnes();
-    return bAsks;
+    return Eventually(asks, true, 60000) && Eventually(isAnswered, true);
 }
 
 // False if Quorl no longer responds.

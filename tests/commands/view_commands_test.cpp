@@ -17,11 +17,15 @@ TEST_F(ViewCommands, MoveTheViewByAStep) {
     EXPECT_EQ(CornerAfter(ACTION_VIEW_DOWN_MAX, 1000, 300), (POINT{1000, 400}));
 }
 
-TEST_F(ViewCommands, CenterAPointOfTheMap) {
+TEST_F(ViewCommands, CenterAPointOfTheMapOrShowItsScreen) {
     VDesk = Rect(1000, 300, 2024, 1068);
     for (int press = 0; press < 2; ++press)
         DoAction(MainWnd, ACTION_VIEW_CENTER_POINT, nullptr, {96, 46}); // of 192 by 92
     EXPECT_EQ(ViewCorner(), (POINT{1536, 384}));
+    DoAction(MainWnd, ACTION_VIEW_TO_CELL, nullptr, {96, 46});
+    EXPECT_EQ(ViewCorner(), (POINT{2048, 768}));
+    DoAction(MainWnd, ACTION_VIEW_TO_CELL, nullptr, {95, 45});
+    EXPECT_EQ(ViewCorner(), (POINT{1024, 0}));
 }
 
 TEST_F(ViewCommands, MoveTheViewByScreensAndToEdges) {

@@ -59,6 +59,7 @@ EQUIVALENT = (
     ("AppendFlags", r"sizeof text", "the buffer is never full"),
     ("DescribePoint AddWindowToList OnInit FocusNeighbour", r"(char|WCHAR) \w+\[", "the buffer is never full"),
     ("ShowCount", "", "the next text replaces this one in the same call"),
+    ("IsOverlay", r"HasBoth", "the order does not matter"),
     ("RunMessageLoop", r"got < 0", "GetMessage returns -1 or more, and 0 has ended the loop"),
     ("ChangeBorder", r"argument > 0", "the argument is 1 or -1"),
     ("CreateRegistered", r"procedure, 0\);", "no dialog reads its parameter"),

@@ -10,4 +10,5 @@ TEST(LockedWindows, ReuseAFreedSlot) {
     LockWindow(windows[2]);
     EXPECT_EQ(LockedWindows[0], windows[2]);
     EXPECT_EQ(LockedWindows[2], nullptr) << "locked twice";
+    EXPECT_TRUE(IsLockedWindow(windows[1]));
 }

@@ -43,7 +43,7 @@ TEST_F(ActionMenu, RunsTheChosenActionOrJumpsToTheRegion) {
     EXPECT_EQ(Choose(FIRST_REGION_ID + 1), "Toggle Tooltip|--|View Region: &0 mail|&1 R&&D|");
     EXPECT_EQ(VDesk.left, 100);
     for (int index = 2; index <= 10; ++index)
-        AddRegion(std::to_string(index).c_str(), 0, 0);
+        AddRegion(std::to_string(index), 0, 0);
     EXPECT_TRUE(Choose(0).ends_with("&9 9|&0 10|")) << "has no key of its own";
 }
 

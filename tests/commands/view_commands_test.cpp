@@ -40,7 +40,9 @@ TEST_F(ViewCommands, MoveTheViewByScreensAndToEdges) {
     EXPECT_EQ(CornerAfter(ACTION_SCREEN_LEFT, 1948, 7), (POINT{1024, 7})) << "near the screen at 2048";
     EXPECT_EQ(CornerAfter(ACTION_SCREEN_UP, 7, 1436), (POINT{7, 768}));
     EXPECT_EQ(CornerAfter(ACTION_SCREEN_RIGHT, 924, 7), (POINT{2048, 7}));
+    EXPECT_EQ(CornerAfter(ACTION_SCREEN_RIGHT, 923, 7), (POINT{1024, 7}));
     EXPECT_EQ(CornerAfter(ACTION_SCREEN_DOWN, 7, 668), (POINT{7, 1536}));
+    EXPECT_EQ(CornerAfter(ACTION_SCREEN_DOWN, 7, 667), (POINT{7, 768}));
     EXPECT_EQ(CornerAfter(ACTION_VIEW_TO_BOTTOM, 300, 400), (POINT{300, 2304}));
     EXPECT_EQ(CornerAfter(ACTION_VIEW_TO_RIGHT, 300, 400), (POINT{3072, 0}));
 }

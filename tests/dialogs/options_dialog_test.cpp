@@ -89,6 +89,9 @@ TEST_F(OptionsDialog, OkKeepsStoredTypesAndDelays) {
         Open(ACTION_OPTIONS);
         EXPECT_EQ(Checked().size(), checked[stored + 1]);
         EXPECT_EQ(IsWindowEnabled(Item(IDC_OPTIONS_DELAY_TIME)), stored == 3);
+        EXPECT_EQ(WindowOf(Item(IDC_OPTIONS_AT_ONCE)).style & WS_TABSTOP,
+                  stored == 1 || stored == 3 ? 0 : WS_TABSTOP)
+            << "unless a visible button is checked";
         Click(IDOK);
         EXPECT_EQ((Numbers{Options.mousescroll_type, Options.mousescroll_delay}), Numbers(2, stored));
     }

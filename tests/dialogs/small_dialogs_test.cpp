@@ -58,6 +58,7 @@ TEST_F(SmallDialogs, HelpTextShrinksWithTheDialog) {
     const RECT text = RectOf(Item(IDC_HELP_TEXT));
     EXPECT_EQ(RectOf(Item(IDOK)).top - text.bottom, 10);
     EXPECT_EQ(Width(text), 480);
+    EXPECT_EQ(Height(text), 400 - height - 30);
     EXPECT_EQ(RectOf(Item(IDOK)).right, text.right);
     EXPECT_EQ(Height(RectOf(Item(IDOK))), height);
 }

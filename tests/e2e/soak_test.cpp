@@ -88,7 +88,7 @@ void DoSomething() {
     static const WORD arrows[] = {VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN};
     static const WORD keys[] = {VK_DOWN, VK_UP, VK_TAB, VK_RETURN, '7', 'Q', VK_ESCAPE};
     static const std::set<int> excluded = {ACTION_SHOW_MENU, ACTION_EXIT, ACTION_LOCK_STATION,
-                                           ACTION_SCREEN_SAVER};
+                                           ACTION_SCREEN_SAVER, ACTION_TRANSPARENCY};
     switch (const int number = Below(NUM_ACTIONS); Below(14)) {
     case 0: PressKeys({VK_CONTROL, VK_MENU, OneOf(arrows)}); break;
     case 1: PressKeys({VK_CONTROL, VK_MENU, VK_SHIFT, static_cast<WORD>('0' + number % 10)}); break;
@@ -112,13 +112,22 @@ void DoSomething() {
     }
 }
 
-// Waits until Quorl has handled all actions posted so far, which hung programs can delay: until it asks
-// whether to quit.
+HWND TransparencyDialog() {
+    const HWND dialog = FindWindowA("#32770", "Toolwin Transparency...");
+    return IsWindowVisible(dialog) ? dialog : nullptr;
+}
+
+// Waits until Quorl has handled all actions posted so far, which hung programs can delay: until it opens a
+// dialog that nothing else opens.
 bool CatchesUp() {
-    const auto asks = [] { return FindWindowA("#32770", "QUIT?") != nullptr; };
-    const auto isAnswered = [&] { return AnswerModalOnes(), !asks(); };
-    PostMessageA(QuorlWindow(), WM_CLOSE, 0, 0);
-    return Eventually(asks, true, 60000) && Eventually(isAnswered, true);
+    const auto isOpen = [] { return AnswerModalOnes(), TransparencyDialog() != nullptr; };
+    const auto isClosed = [&] { return Answer(TransparencyDialog(), {IDOK}), !isOpen(); };
+    for (int tries = 0; tries < 3; ++tries) { // a key typed before may close it at once
+        RunAction(ACTION_TRANSPARENCY);
+        if (Eventually(isOpen, true, 20000))
+            return Eventually(isClosed, true);
+    }
+    return false;
 }
 
 // False if Quorl no longer responds.
@@ -159,6 +168,7 @@ void Prepare() {
     if (const char* const words = getenv("QUORL_SOAK"))
         sscanf(words, "%d %d %u", &Steps, &Kills, &seed);
     Random.seed(seed);
+    StoreSettings("quorl_menu_count=8\0"); // without the last one, Exit, which the next key would confirm
     Others.clear();
     for (const char* const title : {"first", "second", "third"})
         Others.push_back({OpenWindow(title, EDITOR), true});

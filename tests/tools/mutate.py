@@ -36,7 +36,7 @@ BREAKS = (
     # A call or an assignment as a statement of its own, not a declaration.
     (r"(?<=[;{}\n)]\n)( +)(?!return\b|else\b)[\w.\[\]>-]+(\([^;{}]*\)| [-+|&*]?= [^;{}]*);$", lambda found: f"{found[1]};"),
     # Two simple arguments of a call; of these functions they may be swapped.
-    (r"(?<!min\()(?<!max\()(?<!Scale\()(?<=\w\()(\w[\w.]*), (\w[\w.]*)(?=[,)])", lambda found: f"{found[2]}, {found[1]}"),
+    (r"(?<!min\()(?<!max\()(?<!Scale\()(?<!IsSameRect\()(?<!HasBoth\()(?<=\w\()(\w[\w.]*), (\w[\w.]*)(?=[,)])", lambda found: f"{found[2]}, {found[1]}"),
     (r"(?<=, )(\w[\w.]*), (\w[\w.]*)(?=\))", lambda found: f"{found[2]}, {found[1]}"),
 )
 
@@ -59,7 +59,10 @@ EQUIVALENT = (
     ("AppendFlags", r"sizeof text", "the buffer is never full"),
     ("DescribePoint AddWindowToList OnInit FocusNeighbour", r"(char|WCHAR) \w+\[", "the buffer is never full"),
     ("ShowCount", "", "the next text replaces this one in the same call"),
-    ("IsOverlay", r"HasBoth", "the order does not matter"),
+    ("(none)", r"NO_NAME", "the closing row is recognized by its key"),
+    ("(none)", r"NO_CALLER", "the next text replaces this one in the same call"),
+    ("(none)", r"TITLE_LIMIT", "no title is that long"),
+    ("OnColorsChanged", r"GetSysColorBrush", "Windows changes its own brush; there is no other one"),
     ("RunMessageLoop", r"got < 0", "GetMessage returns -1 or more, and 0 has ended the loop"),
     ("ChangeBorder", r"argument > 0", "the argument is 1 or -1"),
     ("CreateRegistered", r"procedure, 0\);", "no dialog reads its parameter"),
@@ -128,12 +131,12 @@ def is_detected():
 
 
 def place(site):
-    """Number, function or table, and text of the line."""
+    """Number, function or table ("(none)" above the first one), and text of the line."""
     file, start, end, _ = site
     text = (ROOT / file).read_text()
     functions = re.findall(r"^\w[^;{}]*?(\w+)(?:\([^;{}]*\)|\[\w+\] =) \{$", text[:start], re.M)  # or tables
     line = text[text.rfind("\n", 0, start) + 1 : text.find("\n", end)].strip()
-    return text.count("\n", 0, start) + 1, functions[-1] if functions else "", line
+    return text.count("\n", 0, start) + 1, functions[-1] if functions else "(none)", line
 
 
 def describe(site):

@@ -95,9 +95,10 @@ TEST_F(Map, HasWhiteLinesOnADarkBackground) {
     for (const auto& [background, pen] :
          {std::pair(0x3f3f3fU, " solid1 16777215"), {0x3f403fU, " solid1 0"}}) {
         Desk.systemColors[COLOR_BACKGROUND] = background;
-        const Drawing drawing = Paint();
-        EXPECT_EQ(drawing.at(1), std::string("Rectangle (0, 0, 200, 75)") + pen);
-        EXPECT_EQ(drawing.at(2), std::string("Rectangle (0, 0, 50, 37)") + pen + " fill 0");
+        Desk.drawCalls.clear();
+        SendMessageA(MainWnd, WM_SYSCOLORCHANGE, 0, 0);
+        EXPECT_EQ(Describe(Desk.drawCalls.at(1)), std::string("Rectangle (0, 0, 200, 75)") + pen);
+        EXPECT_EQ(Describe(Desk.drawCalls.at(2)), std::string("Rectangle (0, 0, 50, 37)") + pen + " fill 0");
     }
 }
 

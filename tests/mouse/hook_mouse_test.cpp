@@ -43,6 +43,7 @@ TEST_F(HookMouse, TheDelayDecidesWhichMessagesScroll) {
         scrolling += " ";
     }
     EXPECT_EQ(scrolling, "07 07 017 017 027 027   ");
+    EXPECT_EQ(SendHookMessage(WM_MBUTTONDOWN, RIGHT_EDGE), 0);
 }
 
 TEST_F(HookMouse, OnlyTheLeftShiftKeyAllowsTheCursorToJump) {

@@ -51,6 +51,7 @@ TEST_F(NameRegion, ANewRegionGetsItsColorAndHotkey) {
     ClickSwatch();
     ClickSwatch(); // cancelled
     EXPECT_EQ(Desk.colorDialogs.at(1).initial, COLOR);
+    EXPECT_EQ(Desk.colorDialogs[1].flags, CC_RGBINIT | CC_FULLOPEN);
     AnswerBoxes({IDOK});
     Click(IDOK);
     EXPECT_EQ(LastBox(), "That's an invalid name, see./Fix name");

@@ -53,8 +53,15 @@ void AnswerModalOnes() {
             Answer(dialog, {IDNO, IDCANCEL});
 }
 
+// A click on the taskbar, at the lower edge, can minimize the map, which hides its dialogs.
+void RestoreMap() {
+    if (IsIconic(QuorlWindow()))
+        ShowWindowAsync(QuorlWindow(), SW_SHOWNOACTIVATE);
+}
+
 void CloseDialogs() {
     const auto close = [] {
+        RestoreMap();
         for (const HWND dialog : DialogsOfQuorl())
             Answer(dialog, {IDNO, IDCANCEL, IDOK, IDC_RESIZE_OK});
         return DialogsOfQuorl().size();
@@ -120,7 +127,7 @@ HWND TransparencyDialog() {
 // Waits until Quorl has handled all actions posted so far, which hung programs can delay: until it opens a
 // dialog that nothing else opens.
 bool CatchesUp() {
-    const auto isOpen = [] { return AnswerModalOnes(), TransparencyDialog() != nullptr; };
+    const auto isOpen = [] { return RestoreMap(), AnswerModalOnes(), TransparencyDialog() != nullptr; };
     const auto isClosed = [&] { return Answer(TransparencyDialog(), {IDOK}), !isOpen(); };
     for (int tries = 0; tries < 3; ++tries) { // a key typed before may close it at once
         RunAction(ACTION_TRANSPARENCY);

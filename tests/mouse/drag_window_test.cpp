@@ -48,9 +48,9 @@ TEST_F(DragOnMap, FindsTheTopmostManagedWindowAtItsCurrentPosition) {
     const HWND below = OpenWindow("below", {100, 100, 500, 500});
     const HWND above = OpenWindow("above", {100, 100, 500, 500});
     EnableWindow(OpenAndList("disabled", {100, 100, 500, 500}), FALSE);
-    VDesk = Offset(VDesk, 100, 100);
-    EXPECT_EQ(WindowAtDesktopPoint(300, 300), above);
+    VDesk = Offset(VDesk, 100, 300);
+    EXPECT_EQ(WindowAtDesktopPoint(300, 500), above);
     MoveWindow(above, 600, 100, 400, 400, TRUE); // after the table was built
-    EXPECT_EQ(WindowAtDesktopPoint(300, 300), below);
-    EXPECT_EQ(WindowAtDesktopPoint(1100, 500), above);
+    EXPECT_EQ(WindowAtDesktopPoint(300, 500), below);
+    EXPECT_EQ(WindowAtDesktopPoint(1100, 700), above);
 }

@@ -2,6 +2,7 @@
 
 #include "support/quorl_test.h"
 #include "windows/locked_windows.h"
+#include "windows/window_table.h"
 
 class Shift : public RunningQuorl {
   protected:
@@ -26,6 +27,10 @@ TEST_F(Shift, ClampsToTheDesktop) {
 TEST_F(Shift, PingsMovesAndShowsWindowsAndScrollsListViews) {
     LockWindow(other);
     EnableWindow(list, FALSE);
+    SetWindowPos(MainWnd, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    BringWindowToTop(editor);
+    RebuildWindowTable();
+    WindowOf(editor).received.clear();
     ShiftWindows(30, -7);
     EXPECT_EQ(RectOf(editor), Rect(130, 93, 530, 393));
     EXPECT_EQ(WindowOf(editor).received.at(0).record, Rect(130, 93, 400, 300)) << "corner and size";

@@ -43,15 +43,16 @@ BREAKS = (
 # functions, line and replacement (a pattern), why no test can notice such a break
 EQUIVALENT = (
     ("FoldOnCrash", "", "a crash needs Windows"),
-    ("OnMapLeftPress OnMapRightPress OnMapMiddlePress OnToolwinMouseMove OnTrayMessage SpinnerWndProc OnHotkey OnPaint", r"return ",
+    ("OnMapLeftPress OnMapRightPress OnMapMiddlePress OnToolwinMouseMove OnTrayMessage SpinnerWndProc OnHotkey OnPaint OnDisplayMessage OnQuitMessage OnSessionEnd OnColorsChanged OnSettingChange OnSizeLimits OnMouseMove OnTray", r"return ",
      "Windows ignores what these messages return"),
-    ("SelectedData AddListRow ApplySlider InsertTabs FillKeyCombo FillMenuListBox FillActionListBox ShowKey IsAlive", r"(LB_GETCURSEL|LB_GETITEMDATA|LB_ADDSTRING|LB_RESETCONTENT|TBM_GETPOS|TCM_DELETEALLITEMS|CB_INSERTSTRING|CB_SETCURSEL|WM_NULL).*-> 1",
+    ("SelectedData AddListRow AddTitleRow ApplySlider InsertTabs FillKeyCombo FillMenuListBox FillActionListBox ShowKey IsAlive", r"(LB_GETCURSEL|LB_GETITEMDATA|LB_ADDSTRING|LB_RESETCONTENT|TBM_GETPOS|TCM_DELETEALLITEMS|CB_INSERTSTRING|CB_SETCURSEL|WM_NULL).*-> 1",
      "the message does not use this argument"),
     ("StartUp", r"pSetLayeredWindowAttributes", "without LWA_COLORKEY the colour is not used"),
     ("FillActionTable", r"NUM_ACTIONS\]", "the closing row has no binding and is offered nowhere"),
     ("MatchMouseAction", r"id < NUM_ACTIONS", "the closing row has no binding"),
     ("IsLockedWindow LockWindow UnlockWindow", r"slot < UsedSlots", "a slot that was never used contains no window"),
     ("WindowAtDesktopPoint CycleView", r"i < num_windows", "the row behind the last one contains no window"),
+    ("WholeLetters", r"length < end", "no letter fits at the end"),
     ("FoldCoordinate", r"folded < 0", "0 becomes the screen's size, which folds to 0 again"),
     ("ClampAxis ClampCoordinate ShiftedCoordinate", r" [<>]=? ", "at the edge both branches agree"),
     ("ShapesOfSpinner DrawSpinnerArrows", "", "only a person can judge the look"),

@@ -7,11 +7,13 @@ TEST_F(SmallDialogs, FindWindowGoesToALivingManagedWindow) {
     const HWND untitled = OpenWindow("", {2000, 300, 2400, 500});
     const HWND hung = OpenWindow("\u0416ung", {3000, 300, 3400, 500});
     OpenWindow("empty", {0, 0, 100, 0});
+    OpenWindow(std::string(300, 'a').c_str(), {100, 100, 500, 400});
     Open(ACTION_FIND_WINDOW);
-    EXPECT_EQ(Control(IDC_FIND_LIST).items.size(), 2U);
-    EXPECT_EQ(Control(IDC_FIND_LIST).items.at(1).text, "\u0416ung");
+    EXPECT_EQ(Control(IDC_FIND_LIST).items.size(), 3U);
+    EXPECT_EQ(Control(IDC_FIND_LIST).items.at(1).text.size(), 255U);
+    EXPECT_EQ(Control(IDC_FIND_LIST).items.at(2).text, "\u0416ung");
     WindowOf(hung).response = DeskResponse::Hung;
-    Choose(IDC_FIND_LIST, 1);
+    Choose(IDC_FIND_LIST, 2);
     EXPECT_EQ(Desk.foreground, dialog);
     EXPECT_EQ(VDesk.left, 0);
     Desk.fault = {"GetForegroundWindow", 1, true, 0, 0}; // it takes the foreground later

@@ -37,4 +37,7 @@ TEST_F(Spinner, AHeldButtonRepeatsUntilItIsReleased) {
     EXPECT_EQ(ValueAfter(250), 2);
     SetCapture(MainWnd);
     EXPECT_EQ(ValueAfter(2000), 2) << "losing the capture releases the button";
+    StateOfSpinner(spinner)->max = 3;
+    Press(UP);
+    EXPECT_EQ(ValueAfter(2000), 3);
 }

@@ -29,6 +29,7 @@ TEST_F(DragOnMap, FocusesALivingWindowAndThenMovesItAtTheMapsScale) {
     EXPECT_EQ(Desk.foreground, editor);
     MoveOnMap(18, 14);
     EXPECT_EQ(RectOf(editor), Rect(192, 144, 512, 304));
+    EXPECT_EQ(LastStatus(), "DRAG: 1  PREV: 18, 14  CUR: 18, 14");
     EXPECT_EQ(VDesk.left, 0) << "Shift and left alone would move the view";
 }
 

@@ -54,6 +54,8 @@ EQUIVALENT = (
     ("WindowAtDesktopPoint CycleView", r"i < num_windows", "the row behind the last one contains no window"),
     ("WholeLetters", r"length < end", "no letter fits at the end"),
     ("InsertColumns", r"LVCFMT_LEFT", "it is 0, as all of the structure before"),
+    ("FillMenuListBox FillActionListBox FillKeyCombo", r"WM_SETREDRAW", "it only prevents flicker"),
+    ("FlashTimer", r"GetVisibleRect", "the in-memory desktop always paints the whole window"),
     ("FoldCoordinate", r"folded < 0", "0 becomes the screen's size, which folds to 0 again"),
     ("ClampAxis ClampCoordinate ShiftedCoordinate", r" [<>]=? ", "at the edge both branches agree"),
     ("ShapesOfSpinner DrawSpinnerArrows", "", "only a person can judge the look"),

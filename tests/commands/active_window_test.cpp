@@ -44,8 +44,10 @@ TEST_F(ActiveWindow, TogglesTopmostUnlessItHangs) {
 }
 
 TEST_F(ActiveWindow, CanBeLockedFromTheMomentItIsOpen) {
+    const DWORD before = Desk.now;
     RunAction(ACTION_LOCK_WINDOW);
     EXPECT_EQ(Desk.tones.back(), 11000U);
+    EXPECT_EQ(Desk.now - before, 10 * Desk.tones.size());
     EXPECT_EQ(LastStatus(), "Locked Window: \u6f22");
     Wait(2000); // it is in the window table now
     EXPECT_EQ(RectAfter(ACTION_SCREEN_RIGHT).left, 300);

@@ -81,6 +81,7 @@ TEST_F(TwoDisplays, ErrorsOfAWindowThatWindowsScalesDoNotAddUp) {
 }
 
 TEST_F(TwoDisplays, TilingUsesTheDisplayOfTheActiveWindow) {
+    SetWindowPos(MainWnd, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     const HWND left = OpenWindow("left", {-2000, 100, -1500, 500});
     const HWND right = OpenAndList("right", {100, 100, 500, 500});
     RunAction(ACTION_TILE_VERTICALLY);
@@ -160,11 +161,13 @@ TEST_F(DisplayChange, WindowsOutOfViewReturnUnlessTheyWereMinimized) {
 TEST_F(DisplayChange, TheMapComesBackAndTheChosenSizeIsSaved) {
     MoveWindow(MainWnd, -1000, 100, 200, 100, TRUE);
     SetDesktopSize(5000, 1500);
+    ScrollView(MainWnd, 300, 0, SV_ABSOLUTE, 0);
     Desk.displays = {Rect(0, 0, 1000, 700)};
     WindowOf(MainWnd).rect = {2500, 100, 2700, 200};            // Windows did not move it
     PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0); // the only sign of the change
     Wait(1500);
     EXPECT_EQ(VisibleRect(MainWnd), Rect(814, 100, 1000, 193));
+    EXPECT_EQ(VDesk.left, 300) << "no display is left of which the distance could be known";
     Desk.displays = {Rect(0, 0, 6000, 1600)};
     PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0);
     Wait(1500);

@@ -57,6 +57,7 @@ EQUIVALENT = (
     ("FillMenuListBox FillActionListBox FillKeyCombo", r"WM_SETREDRAW", "it only prevents flicker"),
     ("FlashTimer", r"GetVisibleRect", "the in-memory desktop always paints the whole window"),
     ("ReadSettings", r"ResetRegions", "only a repaint while the settings are read shows it"),
+    ("ShiftedCorner", r"d[xy], window", "the two are only added"),
     ("FoldCoordinate", r"folded < 0", "0 becomes the screen's size, which folds to 0 again"),
     ("ClampAxis ClampCoordinate ShiftedCoordinate", r" [<>]=? ", "at the edge both branches agree"),
     ("ShapesOfSpinner DrawSpinnerArrows", "", "only a person can judge the look"),

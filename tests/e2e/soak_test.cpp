@@ -33,10 +33,11 @@ struct Program {
 };
 std::vector<Program> Others;
 
+// Hidden ones too: a click on Wine's taskbar can minimize the map, which hides its dialogs.
 std::vector<HWND> DialogsOfQuorl() {
     std::vector<HWND> dialogs;
     for (HWND dialog = nullptr; (dialog = FindWindowExA(nullptr, dialog, "#32770", nullptr));)
-        if (IsWindowVisible(dialog) && ProcessOf(dialog) == ProcessOf(QuorlWindow()))
+        if (ProcessOf(dialog) == ProcessOf(QuorlWindow()))
             dialogs.push_back(dialog);
     return dialogs;
 }
@@ -53,15 +54,8 @@ void AnswerModalOnes() {
             Answer(dialog, {IDNO, IDCANCEL});
 }
 
-// A click on the taskbar, at the lower edge, can minimize the map, which hides its dialogs.
-void RestoreMap() {
-    if (IsIconic(QuorlWindow()))
-        ShowWindowAsync(QuorlWindow(), SW_SHOWNOACTIVATE);
-}
-
 void CloseDialogs() {
     const auto close = [] {
-        RestoreMap();
         for (const HWND dialog : DialogsOfQuorl())
             Answer(dialog, {IDNO, IDCANCEL, IDOK, IDC_RESIZE_OK});
         return DialogsOfQuorl().size();
@@ -120,14 +114,13 @@ void DoSomething() {
 }
 
 HWND TransparencyDialog() {
-    const HWND dialog = FindWindowA("#32770", "Toolwin Transparency...");
-    return IsWindowVisible(dialog) ? dialog : nullptr;
+    return FindWindowA("#32770", "Toolwin Transparency...");
 }
 
 // Waits until Quorl has handled all actions posted so far, which hung programs can delay: until it opens a
 // dialog that nothing else opens.
 bool CatchesUp() {
-    const auto isOpen = [] { return RestoreMap(), AnswerModalOnes(), TransparencyDialog() != nullptr; };
+    const auto isOpen = [] { return AnswerModalOnes(), TransparencyDialog() != nullptr; };
     const auto isClosed = [&] { return Answer(TransparencyDialog(), {IDOK}), !isOpen(); };
     for (int tries = 0; tries < 3; ++tries) { // a key typed before may close it at once
         RunAction(ACTION_TRANSPARENCY);
@@ -194,7 +187,7 @@ void OpenDialogs(std::initializer_list<int> actions) {
 }
 
 struct Resources {
-    std::vector<std::string> windows; // their classes, visible or not
+    std::vector<std::string> windows; // class and title of each, visible or not
     SIZE_T memory;                    // bytes in the working set
 };
 
@@ -205,7 +198,7 @@ Resources ResourcesAtRest(HANDLE quorl) {
     std::vector<std::string> windows;
     for (HWND window = nullptr; (window = FindWindowExA(nullptr, window, nullptr, nullptr));)
         if (char name[64] = ""; ProcessOf(window) == GetProcessId(quorl) && GetClassNameA(window, name, 64))
-            windows.emplace_back(name);
+            windows.push_back(name + (" " + TextOf(window)));
     PROCESS_MEMORY_COUNTERS memory{};
     K32GetProcessMemoryInfo(quorl, &memory, sizeof memory);
     return {windows, memory.WorkingSetSize};

@@ -109,8 +109,9 @@ void OpenMenuByKeys() {
 }
 
 void ChooseFromMenu(std::initializer_list<WORD> keys) {
-    PressInTurn(keys);
-    Require(Eventually(OpenedMenu, HWND{}) == nullptr, "the end of the menu");
+    const auto isClosed = [] { return OpenedMenu() == nullptr; };
+    Retry(isClosed, [&] { PressInTurn(keys); });
+    Require(isClosed(), "the end of the menu");
 }
 
 void UseTheMenu() {

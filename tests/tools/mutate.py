@@ -58,6 +58,8 @@ EQUIVALENT = (
     ("FlashTimer", r"GetVisibleRect", "the in-memory desktop always paints the whole window"),
     ("ReadSettings", r"ResetRegions", "only a repaint while the settings are read shows it"),
     ("ShiftedCorner", r"d[xy], window", "the two are only added"),
+    ("OnSpinnerCaptureLost", r"state->flags", "the check only saves a repaint"),
+    ("FindBesideProgram", r"length >= MAX_PATH", "the next check refuses such a path, too"),
     ("FoldCoordinate", r"folded < 0", "0 becomes the screen's size, which folds to 0 again"),
     ("ClampAxis ClampCoordinate ShiftedCoordinate", r" [<>]=? ", "at the edge both branches agree"),
     ("ShapesOfSpinner DrawSpinnerArrows", "", "only a person can judge the look"),

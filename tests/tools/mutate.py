@@ -80,7 +80,7 @@ EQUIVALENT = (
     ("ActionDefs", r"\d, (Toggle|Save|Load|Unmark|Lock|Start|Display|Quit|Center|Flash|GoToPoint|nullptr).*-> 1",
      "these handlers do not use the argument"),
     ("LoadTrayImage", r"SM_CYSMICON|IMAGE_ICON", "only a real desktop shows it"),
-    ("IsCloaked IsScaledByWindows", r" = 0;", "written by the call before it is read"),
+    ("IsCloaked IsScaledByWindows CopyRights", r" = 0;", "written by the call before it is read"),
     ("OnSpinnerDestroy", r"GWLP_USERDATA", "the window receives nothing afterwards"),
 )
 

@@ -167,7 +167,7 @@ TEST_F(DisplayChange, TheMapComesBackAndTheChosenSizeIsSaved) {
     PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0); // the only sign of the change
     Wait(1500);
     EXPECT_EQ(VisibleRect(MainWnd), Rect(814, 100, 1000, 193));
-    EXPECT_EQ(VDesk.left, 300) << "no display is left of which the distance could be known";
+    EXPECT_EQ(VDesk.left, 300) << "none of the displays was there before";
     Desk.displays = {Rect(0, 0, 6000, 1600)};
     PostMessageA(MainWnd, HOOK_MOUSE_MESSAGE, WM_MOUSEMOVE, 0);
     Wait(1500);

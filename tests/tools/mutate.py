@@ -19,6 +19,9 @@ BUILD = COPY / "build/native"
 SLOW = "*WhicheverCallFails:*EachFailingPlatformCall:FuzzInputs.*"  # they run last
 TIMEOUT = 120  # seconds; a break can make a loop endless
 
+# Excludes calls of functions to which the order of their first two arguments means nothing.
+ORDERED = "".join(rf"(?<!{name}\()" for name in ("min", "max", "Scale", "IsSameRect", "HasBoth"))
+
 # pattern, replacement
 BREAKS = (
     (r"(?<![\w.])\d+(?![\w.])", lambda found: "0" if found[0] == "1" else str(int(found[0]) + 1)),
@@ -35,8 +38,8 @@ BREAKS = (
     (r"(?<=if \()!", lambda _: ""),
     # A call or an assignment as a statement of its own, not a declaration.
     (r"(?<=[;{}\n)]\n)( +)(?!return\b|else\b)[\w.\[\]>-]+(\([^;{}]*\)| [-+|&*]?= [^;{}]*);$", lambda found: f"{found[1]};"),
-    # Two simple arguments of a call; of these functions they may be swapped.
-    (r"(?<!min\()(?<!max\()(?<!Scale\()(?<!IsSameRect\()(?<!HasBoth\()(?<=\w\()(\w[\w.]*), (\w[\w.]*)(?=[,)])", lambda found: f"{found[2]}, {found[1]}"),
+    # Two simple arguments of a call.
+    (ORDERED + r"(?<=\w\()(\w[\w.]*), (\w[\w.]*)(?=[,)])", lambda found: f"{found[2]}, {found[1]}"),
     (r"(?<=, )(\w[\w.]*), (\w[\w.]*)(?=\))", lambda found: f"{found[2]}, {found[1]}"),
 )
 
@@ -53,7 +56,7 @@ EQUIVALENT = (
     ("IsLockedWindow LockWindow UnlockWindow", r"slot < UsedSlots", "a slot that was never used contains no window"),
     ("WindowAtDesktopPoint CycleView", r"i < num_windows", "the row behind the last one contains no window"),
     ("WholeLetters", r"length < end", "no letter fits at the end"),
-    ("InsertColumns", r"LVCFMT_LEFT", "it is 0, as all of the structure before"),
+    ("InsertColumns", r"LVCFMT_LEFT", "it is 0, which the field is already"),
     ("FillMenuListBox FillActionListBox FillKeyCombo", r"WM_SETREDRAW", "it only prevents flicker"),
     ("FlashTimer", r"GetVisibleRect", "the in-memory desktop always paints the whole window"),
     ("ReadSettings", r"ResetRegions", "only a repaint while the settings are read shows it"),
@@ -69,7 +72,7 @@ EQUIVALENT = (
     ("ShowCount", "", "the next text replaces this one in the same call"),
     ("(none)", r"NO_NAME", "the closing row is recognized by its key"),
     ("(none)", r"NO_CALLER", "the next text replaces this one in the same call"),
-    ("(none)", r"TITLE_LIMIT", "no title is that long"),
+    ("(none)", r"TITLE_LIMIT", "the buffer is never full"),
     ("OnColorsChanged", r"GetSysColorBrush", "Windows changes its own brush; there is no other one"),
     ("RunMessageLoop", r"got < 0", "GetMessage returns -1 or more, and 0 has ended the loop"),
     ("ChangeBorder", r"argument > 0", "the argument is 1 or -1"),

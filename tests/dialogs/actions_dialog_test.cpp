@@ -78,7 +78,7 @@ TEST_F(ActionsDialog, StoresAMouseCombinationAsChecked) {
     Choose(IDC_ACTIONS_TABS, 1);
     ChooseAction(MOUSE_ITEM);
     Click(IDC_ACTIONS_SHIFT, IDC_ACTIONS_APPLY);
-    EXPECT_EQ(Binding(MOUSE_ITEM), "S-");
+    EXPECT_EQ(ActionTable[ACTION_SCREEN_RIGHT].mouse_btn, 0);
     Click(IDC_ACTIONS_SHIFT, IDC_ACTIONS_CTRL, IDC_ACTIONS_LEFT, IDC_ACTIONS_MIDDLE, IDC_ACTIONS_APPLY);
     EXPECT_EQ(Binding(MOUSE_ITEM), "C-MB");
     Click(IDC_ACTIONS_CLEAR);

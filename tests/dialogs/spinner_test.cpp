@@ -39,5 +39,6 @@ TEST_F(Spinner, AHeldButtonRepeatsUntilItIsReleased) {
     EXPECT_EQ(ValueAfter(2000), 2) << "losing the capture releases the button";
     StateOfSpinner(spinner)->max = 3;
     Press(UP);
-    EXPECT_EQ(ValueAfter(2000), 3);
+    for (int tick = 0; tick < 3; ++tick)
+        EXPECT_EQ(ValueAfter(250), 3);
 }

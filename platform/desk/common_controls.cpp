@@ -80,7 +80,7 @@ static LRESULT InsertColumn(DeskWindow& list, WPARAM index, LPARAM column) {
 }
 
 // An owner-data list view only increases its count; the returned index is the last one.
-static LRESULT InsertItem(DeskWindow& list, WPARAM, LPARAM) {
+static LRESULT InsertRow(DeskWindow& list, WPARAM, LPARAM) {
     Invalidate(list, nullptr, 1);
     return list.control.itemCount++;
 }
@@ -100,18 +100,18 @@ static void Unselect(DeskWindow& list) {
         SendStateChange(list, item, LVIS_SELECTED | LVIS_FOCUSED, 0);
 }
 
-static LRESULT RemoveItems(DeskWindow& list, WPARAM, LPARAM) {
+static LRESULT RemoveRows(DeskWindow& list, WPARAM, LPARAM) {
     Unselect(list);
     list.control.itemCount = 0;
     return TRUE;
 }
 
-static LRESULT SetItemCount(DeskWindow& list, WPARAM count, LPARAM) {
+static LRESULT SetRowCount(DeskWindow& list, WPARAM count, LPARAM) {
     list.control.itemCount = static_cast<int>(count);
     return TRUE;
 }
 
-static LRESULT ItemCount(DeskWindow& list, WPARAM, LPARAM) {
+static LRESULT RowCount(DeskWindow& list, WPARAM, LPARAM) {
     return list.control.itemCount;
 }
 
@@ -147,10 +147,10 @@ static LRESULT SetExtendedStyle(DeskWindow& list, WPARAM mask, LPARAM style) {
 }
 
 static const ControlMessage ListViewMessages[] = {
-    {LVM_GETITEMCOUNT, ItemCount},
-    {LVM_INSERTITEMA, InsertItem},
-    {LVM_SETITEMCOUNT, SetItemCount},
-    {LVM_DELETEALLITEMS, RemoveItems},
+    {LVM_GETITEMCOUNT, RowCount},
+    {LVM_INSERTITEMA, InsertRow},
+    {LVM_SETITEMCOUNT, SetRowCount},
+    {LVM_DELETEALLITEMS, RemoveRows},
     {LVM_REDRAWITEMS, RedrawItems},
     {LVM_INSERTCOLUMNA, InsertColumn},
     {LVM_SETEXTENDEDLISTVIEWSTYLE, SetExtendedStyle},

@@ -30,7 +30,7 @@ int CountCalls(const char* call) {
 }
 
 // Handles start high, so a small number is never a valid one.
-static HWND HandleFor(std::size_t index) {
+static HWND WindowHandleAt(std::size_t index) {
     return reinterpret_cast<HWND>((index + 0x4000) * 4);
 }
 
@@ -73,7 +73,7 @@ DeskWindow* ResolveForChange(HWND window) {
 
 // Windows owned by a topmost window are topmost too.
 HWND AddWindow(DeskWindow window) {
-    const HWND handle = HandleFor(Desk.windows.size());
+    const HWND handle = WindowHandleAt(Desk.windows.size());
     window.handle = handle;
     window.dpi = DisplayFor(window.rect).dpi;
     const bool isChild = (window.style & WS_CHILD) != 0;

@@ -12,7 +12,7 @@ RECT DesktopBounds() {
     return all;
 }
 
-static HMONITOR HandleFor(std::size_t index) {
+static HMONITOR MonitorHandleAt(std::size_t index) {
     return reinterpret_cast<HMONITOR>(index + 1);
 }
 
@@ -68,11 +68,11 @@ const DeskDisplay& DisplayFor(const RECT& rect) {
 
 static HMONITOR Find(const RECT& rect, DWORD flags) {
     if (flags == MONITOR_DEFAULTTONEAREST)
-        return HandleFor(NearestDisplay(Desk.displays, rect));
+        return MonitorHandleAt(NearestDisplay(Desk.displays, rect));
     const std::size_t showing = DisplayShowing(Desk.displays, rect);
     if (showing < Desk.displays.size())
-        return HandleFor(showing);
-    return flags == MONITOR_DEFAULTTOPRIMARY ? HandleFor(0) : nullptr;
+        return MonitorHandleAt(showing);
+    return flags == MONITOR_DEFAULTTOPRIMARY ? MonitorHandleAt(0) : nullptr;
 }
 
 // An empty rectangle counts as the pixel at its corner.
@@ -100,7 +100,7 @@ BOOL EnumDisplayMonitors(HDC, const RECT*, MONITORENUMPROC callback, LPARAM para
         return FALSE;
     for (std::size_t index = 0; index < Desk.displays.size(); ++index) {
         RECT rect = Desk.displays[index].rect;
-        if (!callback(HandleFor(index), nullptr, &rect, parameter))
+        if (!callback(MonitorHandleAt(index), nullptr, &rect, parameter))
             return FALSE;
     }
     return TRUE;

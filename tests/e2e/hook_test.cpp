@@ -115,8 +115,6 @@ class HookLibrary : public testing::Test {
     }
 };
 
-} // namespace
-
 TEST_F(HookLibrary, QueuesOneMoveAndEveryClickForABusyWindow) {
     constexpr int TIMES = 3; // few enough that a slow machine does not take the window for a responding one
     Pressed = 0;
@@ -233,3 +231,5 @@ TEST_F(HookLibrary, ReplacesAKilledThread) {
     }
     ExpectToUnloadAtOneRelease();
 }
+
+} // namespace

@@ -217,6 +217,11 @@ DWORD GetTickCount() {
     return CallFails("GetTickCount") ? 0 : Desk.now;
 }
 
+void Sleep(DWORD milliseconds) {
+    if (!CallFails("Sleep"))
+        Desk.now += milliseconds;
+}
+
 BOOL TranslateMessage(const MSG*) {
     CallFails("TranslateMessage");
     return FALSE;

@@ -7,6 +7,11 @@
 
 namespace {
 
+// A virus scanner, a backup, or a program that reads the settings holds the file open for a moment, and a
+// file that is open cannot be replaced. One that is open for longer is left alone.
+constexpr int REPLACE_TRIES = 10;
+constexpr DWORD REPLACE_PAUSE = 20; // milliseconds
+
 struct Paths {
     char stored[MAX_PATH];
     char copy[MAX_PATH];
@@ -83,7 +88,13 @@ static void CopyRights(LPCSTR from, LPCSTR to) {
 // Not with ReplaceFileA: it renames twice, and a process that ends in between leaves no file by its name.
 static bool ReplaceStored(const Paths& paths) {
     CopyRights(paths.stored, paths.copy);
-    return MoveFileExA(paths.copy, paths.stored, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    for (int tries = 1;; ++tries) {
+        if (MoveFileExA(paths.copy, paths.stored, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return true;
+        if (tries == REPLACE_TRIES)
+            return false;
+        Sleep(REPLACE_PAUSE);
+    }
 }
 
 static bool SaveByCopy(const Paths& paths, void (*save)(LPCSTR file), bool (*isComplete)(LPCSTR file)) {

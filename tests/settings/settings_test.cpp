@@ -97,8 +97,11 @@ TEST_F(Settings, AFailedSaveLosesNothing) {
     for (const char* call :
          {"CreateFileA", "FlushFileBuffers", "GetPrivateProfileIntA", "GetPrivateProfileStringA"})
         EXPECT_EQ(FilesAfterSaving(before, {call, 1}), before) << call;
+    EXPECT_EQ(FilesAfterSaving(before, {"MoveFileExA", 1}), after) << "open for a moment";
     Desk.openFiles = {SETTINGS_FILE};
+    const DWORD start = Desk.now;
     EXPECT_EQ(FilesAfterSaving(before), before);
+    EXPECT_LT(Desk.now - start, 500u) << "the user waits for it";
     Desk.openFiles = {};
     for (const DeskFault& harmless : {DeskFault{"GetFileSecurityA", 1}, DeskFault{"SetFileSecurityA", 1},
                                       DeskFault{"FlushFileBuffers", 1, false, ERROR_INVALID_FUNCTION}})

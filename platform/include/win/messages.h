@@ -82,6 +82,7 @@ BOOL WINAPI GetMessageA(MSG* message, HWND window, UINT first, UINT last);
 BOOL WINAPI PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT flags);
 LONG WINAPI GetMessageTime();
 DWORD WINAPI GetTickCount();
+void WINAPI Sleep(DWORD milliseconds);
 UINT WINAPI RegisterWindowMessageA(LPCSTR name);
 BOOL WINAPI TranslateMessage(const MSG* message);
 LRESULT WINAPI DispatchMessageA(const MSG* message);

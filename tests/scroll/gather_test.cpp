@@ -28,10 +28,12 @@ TEST_F(Fold, BringsBackEveryManagedWindow) {
 TEST_F(Fold, WaitsASecondForEachWindowWithoutAReport) {
     WindowOf(far).response = WindowOf(left).response = DeskResponse::TimesOut;
     WindowOf(left).error = 0; // as on the oldest systems
-    const DWORD before = Desk.now;
-    GatherWindows(FOLD_AT_EXIT);
-    EXPECT_EQ(Desk.now - before, 2000U);
-    EXPECT_EQ(RectOf(far).left, 2044);
+    for (const FoldReason reason : {FOLD_AT_EXIT, FOLD_TO_SMALLER_DESKTOP}) {
+        const DWORD before = Desk.now;
+        GatherWindows(reason);
+        EXPECT_EQ(Desk.now - before, 2000U);
+        EXPECT_EQ(RectOf(far).left, 2044);
+    }
 }
 
 TEST_F(Fold, ReportsARefusalAndGoesOn) {

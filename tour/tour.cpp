@@ -53,7 +53,9 @@ void SeeView(const char* step, LONG x, LONG y) {
 }
 
 void SeeKeys(const char* step, std::initializer_list<WORD> keys, LONG x, LONG y) {
-    Require(PressKeys(keys), step);
+    const HWND any = Programs[NOTEPAD].window;
+    const RECT before = WindowRect(any);
+    Retry([&] { return WindowRect(any) != before; }, [&] { Require(PressKeys(keys), step); });
     SeeView(step, x, y);
 }
 

@@ -31,6 +31,7 @@ TEST(OptionsRules, KeepTheScreenInsideAndMinscrollBelowMaxscroll) {
     EXPECT_EQ((Numbers{accepted.height, accepted.width, accepted.border, accepted.maxscroll,
                        accepted.minscroll, accepted.mousescroll}),
               (Numbers{768, 1024, 2, 90, 90, 1}));
+    EXPECT_EQ(StepSize(1100, 1024, -1), 1024);
 }
 
 TEST_F(OptionsDialog, SpinnersAndHiddenButtonsStepByWholeScreens) {

@@ -20,7 +20,9 @@ TEST_F(ActionsFile, AStoredBindingReplacesTheDefault) {
     EXPECT_EQ(ActionTable[ACTION_OPTIONS].mouse_btn, LBUTTON);
     EXPECT_TRUE(IsRegistered(ACTION_SCREEN_RIGHT, MOD_CONTROL | MOD_ALT, VK_RIGHT)) << "no line";
 
-    Load("Action28=-1|-1|6|39|0\nAction30=-1|-1|4|112|0\n"); // the two swap their hotkeys
+    Load("Action28=-1|-1|6|39|0\nAction30=-1|-1|4|112|0\nAction0=-1|-1|4|113|0\n"); // the two swap their
+                                                                                    // hotkeys
+    EXPECT_TRUE(IsRegistered(ACTION_SHOW_MENU, MOD_CONTROL, VK_F1 + 1)) << "the first of all";
     EXPECT_TRUE(IsRegistered(ACTION_SCREEN_LEFT, MOD_CONTROL | MOD_ALT, VK_RIGHT));
     EXPECT_TRUE(IsRegistered(ACTION_SCREEN_RIGHT, MOD_CONTROL, VK_F1));
 }

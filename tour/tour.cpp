@@ -53,9 +53,9 @@ void SeeView(const char* step, LONG x, LONG y) {
 }
 
 void SeeKeys(const char* step, std::initializer_list<WORD> keys, LONG x, LONG y) {
-    const HWND any = Programs[NOTEPAD].window;
-    const RECT before = WindowRect(any);
-    Retry([&] { return WindowRect(any) != before; }, [&] { Require(PressKeys(keys), step); });
+    const HWND notepad = Programs[NOTEPAD].window;
+    const RECT before = WindowRect(notepad);
+    Retry([&] { return WindowRect(notepad) != before; }, [&] { Require(PressKeys(keys), step); });
     SeeView(step, x, y);
 }
 

@@ -1,3 +1,4 @@
+#include "dialogs/binding_text.h"
 #include "dialogs/dialog_test.h"
 
 constexpr int KEY_ITEM = 25, MOUSE_ITEM = 21; // of ACTION_SCREEN_RIGHT on the two tabs
@@ -38,6 +39,8 @@ TEST_F(ActionsDialog, EachTabShowsItsActionsAndBindings) {
     ChooseAction(MOUSE_ITEM);
     EXPECT_EQ(Binding(0) + " " + Binding(MOUSE_ITEM) + " " + Binding(1), "RB S-W-LB S-");
     EXPECT_EQ(Checked(), (Numbers{IDC_ACTIONS_SHIFT, IDC_ACTIONS_WIN, IDC_ACTIONS_LEFT}));
+    BindMouse(ACTION_VIEW_TO_POINT, 0, UNBOUND);
+    EXPECT_STREQ(MouseText(ActionTable[ACTION_VIEW_TO_POINT]), "");
 }
 
 TEST_F(ActionsDialog, ApplyReplacesTheHotkeyAtOnceAndClearReleasesIt) {
@@ -58,6 +61,7 @@ TEST_F(ActionsDialog, ApplyReplacesTheHotkeyAtOnceAndClearReleasesIt) {
 }
 
 TEST_F(ActionsDialog, BeepsWithoutAnActionOrAKey) {
+    EXPECT_TRUE(Desk.beeps.empty());
     Click(IDC_ACTIONS_APPLY);
     EXPECT_EQ(Desk.beeps.size(), 1U);
     ActionTable[ACTION_VIEW_RIGHT_MIN].vk = VK_F1 + 12;

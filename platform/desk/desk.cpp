@@ -18,7 +18,7 @@ bool CallFails(const char* call) {
         --fault.callsLeft;
         return false;
     }
-    fault.callsLeft = fault.permanent ? 1 : 0;
+    fault.callsLeft = fault.permanent || fault.repeats-- > 0 ? 1 : 0;
     ++fault.hits;
     Desk.lastError = fault.error;
     return true;

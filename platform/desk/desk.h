@@ -130,7 +130,8 @@ struct DeskFault {
     int callsLeft = 0;      // 0: nothing fails
     bool permanent = false; // later calls fail too
     DWORD error = 0;
-    int hits = 0; // calls that failed
+    int repeats = 0; // later calls that fail too, if not all do
+    int hits = 0;    // calls that failed
 };
 
 enum class DeskObjectKind { Bitmap, Brush, Font, Icon, Pen };

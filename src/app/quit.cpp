@@ -7,12 +7,17 @@
 #include "scroll/gather.h"
 #include "settings/settings.h"
 
-static void Quit(HWND window, FoldReason reason) {
+static void BeginQuit() {
     bQuitting = true;
     UseCurrentDisplays();
-    RemoveTrayIcon(window);
+}
+
+static void SaveAtExit() {
     if (IsOn(ACTION_SAVE_AT_EXIT))
         SaveSettings();
+}
+
+static void EndQuit(FoldReason reason) {
     ClearAllActionKeys();
     GatherWindows(reason);
     PostQuitMessage(0); // last: it would close a box about a window that refuses to move
@@ -21,18 +26,25 @@ static void Quit(HWND window, FoldReason reason) {
 bool ConfirmQuit(HWND window) {
     if (MessageBoxA(window, "QUIT?", "QUIT?", MB_YESNO) != IDYES)
         return false;
-    if (!bQuitting) // if two boxes were open, this is the second: saving again would store cleared bindings
-        Quit(window, FOLD_AT_EXIT);
+    if (bQuitting) // two boxes were open, this is the second: saving again would store cleared bindings
+        return true;
+    BeginQuit();
+    RemoveTrayIcon(window);
+    SaveAtExit();
+    EndQuit(FOLD_AT_EXIT);
     return true;
 }
 
-// May arrive while Quit shows a message box; settings and hotkeys are done by then, so only fold again, and
-// close the box.
+// Saves first: Windows may end the process in a few seconds, and removing the icon waits for Explorer. May
+// arrive while ConfirmQuit shows a message box; settings and hotkeys are done by then, so only fold again,
+// and close the box.
 void EndSession(HWND window) {
-    if (!bQuitting)
-        return Quit(window, FOLD_AT_LOGOFF);
-    GatherWindows(FOLD_AT_LOGOFF);
-    PostQuitMessage(0);
+    if (!bQuitting) {
+        BeginQuit();
+        SaveAtExit();
+        RemoveTrayIcon(window);
+    }
+    EndQuit(FOLD_AT_LOGOFF);
 }
 
 void EndFirstAtLogoff() {

@@ -1,16 +1,11 @@
 #include "settings/atomic_save.h"
 
-#include "settings/ini.h"
+#include "settings/save_attempt.h"
 
 #include <cstdio>
 #include <cstring>
 
 namespace {
-
-// A virus scanner, a backup, or a program that reads the settings holds the file open for a moment, and a
-// file that is open cannot be replaced. One that is open for longer is left alone.
-constexpr int REPLACE_TRIES = 10;
-constexpr DWORD REPLACE_PAUSE = 20; // milliseconds
 
 struct Paths {
     char stored[MAX_PATH];
@@ -51,20 +46,42 @@ static bool IsReadOnly(LPCSTR file) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
 }
 
+// Leaves the reason in GetLastError if it returns false.
+static bool DeleteCopy(const Paths& paths) {
+    while (!DeleteFileA(paths.copy))
+        if (!WaitIfOpen(GetLastError()))
+            return false;
+    return true;
+}
+
 // If the file does not exist yet, neither does the copy. A killed process with the same id may have left one.
 static CopyResult MakeCopy(const Paths& paths) {
-    if (!DeleteFileA(paths.copy) && GetLastError() != ERROR_FILE_NOT_FOUND)
+    if (!DeleteCopy(paths) && GetLastError() != ERROR_FILE_NOT_FOUND)
         return COPY_FAILED;
-    if (CopyFileA(paths.stored, paths.copy, FALSE) || GetLastError() == ERROR_FILE_NOT_FOUND)
-        return COPY_MADE;
-    return GetLastError() == ERROR_ACCESS_DENIED ? FOLDER_DENIED : COPY_FAILED;
+    while (!CopyFileA(paths.stored, paths.copy, FALSE))
+        switch (const DWORD error = GetLastError()) {
+        case ERROR_FILE_NOT_FOUND: return COPY_MADE;
+        case ERROR_ACCESS_DENIED: return FOLDER_DENIED;
+        default:
+            if (!WaitIfOpen(error))
+                return COPY_FAILED;
+        }
+    return COPY_MADE;
+}
+
+static HANDLE OpenToFlush(LPCSTR file) {
+    for (;;) {
+        const HANDLE handle = CreateFileA(file, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                          OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (handle != INVALID_HANDLE_VALUE || !WaitIfOpen(GetLastError()))
+            return handle;
+    }
 }
 
 // Without this, a power failure can leave an empty file: renaming may reach the disk before the contents.
 // Some network folders cannot flush.
 static bool FlushToDisk(LPCSTR file) {
-    const HANDLE handle = CreateFileA(file, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE handle = OpenToFlush(file);
     if (handle == INVALID_HANDLE_VALUE)
         return false;
     const bool bFlushed = FlushFileBuffers(handle) || GetLastError() == ERROR_INVALID_FUNCTION ||
@@ -85,31 +102,34 @@ static void CopyRights(LPCSTR from, LPCSTR to) {
     SetFileSecurityA(to, DACL_SECURITY_INFORMATION, rights);
 }
 
+// Access to a target that is open is denied: the error does not tell it from one without the right to delete.
+static DWORD ReasonNotReplaced() {
+    const DWORD error = GetLastError();
+    return error == ERROR_ACCESS_DENIED ? ERROR_SHARING_VIOLATION : error;
+}
+
 // Not with ReplaceFileA: it renames twice, and a process that ends in between leaves no file by its name.
 static bool ReplaceStored(const Paths& paths) {
     CopyRights(paths.stored, paths.copy);
-    for (int tries = 1;; ++tries) {
-        if (MoveFileExA(paths.copy, paths.stored, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-            return true;
-        if (tries == REPLACE_TRIES)
+    while (!MoveFileExA(paths.copy, paths.stored, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        if (!WaitIfOpen(ReasonNotReplaced()))
             return false;
-        Sleep(REPLACE_PAUSE);
-    }
+    return true;
 }
 
 static bool SaveByCopy(const Paths& paths, void (*save)(LPCSTR file), bool (*isComplete)(LPCSTR file)) {
-    bDiskFull = false;
     save(paths.copy);
-    return !bDiskFull && FlushToDisk(paths.copy) && isComplete(paths.copy) && ReplaceStored(paths);
+    return !bWriteFailed && FlushToDisk(paths.copy) && isComplete(paths.copy) && ReplaceStored(paths);
 }
 
 void SaveAtomically(LPCSTR file, void (*save)(LPCSTR file), bool (*isComplete)(LPCSTR file)) {
     Paths paths;
     if (!FindPaths(file, &paths) || IsReadOnly(paths.stored))
         return;
+    BeginSave();
     const CopyResult result = MakeCopy(paths);
     if (result == FOLDER_DENIED)
         return save(file);
     if (result == COPY_FAILED || !SaveByCopy(paths, save, isComplete))
-        DeleteFileA(paths.copy);
+        DeleteCopy(paths);
 }

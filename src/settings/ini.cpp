@@ -2,6 +2,7 @@
 #include "settings/ini.h"
 
 #include "core/letters.h"
+#include "settings/save_attempt.h"
 
 #include <algorithm>
 #include <climits>
@@ -11,8 +12,6 @@
 
 static const int KEY_SIZE = 32;
 static const char DELIMITERS[] = {DELIMITER, 0};
-
-bool bDiskFull;
 
 const char* FirstField(const char* line) {
     return line + std::strspn(line, DELIMITERS);
@@ -63,12 +62,26 @@ int ReadIniText(LPCSTR file, LPCSTR key, char* text, int size) {
         GetPrivateProfileStringA(SETTINGS_SECTION, key, "", text, static_cast<DWORD>(size), file));
 }
 
+// Errors that the next values would meet too. Any other is about one value, and does not fail the save.
+static bool FailsSave(DWORD error) {
+    switch (error) {
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+    case ERROR_NOT_ENOUGH_QUOTA:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION: return true;
+    default: return false;
+    }
+}
+
 void WriteIniText(LPCSTR file, LPCSTR key, LPCSTR text) {
-    if (WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file))
+    while (!WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file)) {
+        const DWORD error = GetLastError();
+        if (WaitIfOpen(error))
+            continue;
+        bWriteFailed |= FailsSave(error);
         return;
-    const DWORD error = GetLastError();
-    bDiskFull |=
-        error == ERROR_DISK_FULL || error == ERROR_HANDLE_DISK_FULL || error == ERROR_NOT_ENOUGH_QUOTA;
+    }
 }
 
 int ReadIniLine(LPCSTR file, LPCSTR format, int index, char (&line)[LINE_SIZE]) {

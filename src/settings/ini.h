@@ -15,8 +15,6 @@ constexpr char DELIMITER = '|';
 // Bytes of the line of an action or a region, the terminator included. A longer value is cut.
 constexpr int LINE_SIZE = 64;
 
-extern bool bDiskFull; // set by a write that failed for lack of space
-
 // Stores the number in `target`, if that is not null, and returns it. Returns -1 and leaves `target`
 // unchanged if the key is absent or negative. A value that is not a number counts as 0.
 int ReadIniInt(LPCSTR file, LPCSTR key, int* target);

@@ -7,17 +7,13 @@
 #include "scroll/gather.h"
 #include "settings/settings.h"
 
-static void BeginQuit() {
+static void Quit(HWND window, FoldReason reason) {
     bQuitting = true;
     UseCurrentDisplays();
-}
-
-static void SaveAtExit() {
-    if (IsOn(ACTION_SAVE_AT_EXIT))
+    if (IsOn(
+            ACTION_SAVE_AT_EXIT)) // first: removing the icon waits for Explorer, and at log-off time is short
         SaveSettings();
-}
-
-static void EndQuit(FoldReason reason) {
+    RemoveTrayIcon(window);
     ClearAllActionKeys();
     GatherWindows(reason);
     PostQuitMessage(0); // last: it would close a box about a window that refuses to move
@@ -26,25 +22,18 @@ static void EndQuit(FoldReason reason) {
 bool ConfirmQuit(HWND window) {
     if (MessageBoxA(window, "QUIT?", "QUIT?", MB_YESNO) != IDYES)
         return false;
-    if (bQuitting) // two boxes were open, this is the second: saving again would store cleared bindings
-        return true;
-    BeginQuit();
-    RemoveTrayIcon(window);
-    SaveAtExit();
-    EndQuit(FOLD_AT_EXIT);
+    if (!bQuitting) // if two boxes were open, this is the second: saving again would store cleared bindings
+        Quit(window, FOLD_AT_EXIT);
     return true;
 }
 
-// Saves first: Windows may end the process in a few seconds, and removing the icon waits for Explorer. May
-// arrive while ConfirmQuit shows a message box; settings and hotkeys are done by then, so only fold again,
-// and close the box.
+// May arrive while Quit shows a message box; settings and hotkeys are done by then, so only fold again, and
+// close the box.
 void EndSession(HWND window) {
-    if (!bQuitting) {
-        BeginQuit();
-        SaveAtExit();
-        RemoveTrayIcon(window);
-    }
-    EndQuit(FOLD_AT_LOGOFF);
+    if (!bQuitting)
+        return Quit(window, FOLD_AT_LOGOFF);
+    GatherWindows(FOLD_AT_LOGOFF);
+    PostQuitMessage(0);
 }
 
 void EndFirstAtLogoff() {

@@ -19,8 +19,11 @@ static bool IsRefreshDue() {
     return true;
 }
 
-// While the displays change, the table keeps the positions from before the change.
+// While the displays change, the table keeps the positions from before the change. While Quorl is quitting,
+// the table belongs to the fold.
 void CALLBACK RefreshTimer(HWND window, UINT, UINT_PTR, DWORD) {
+    if (bQuitting)
+        return;
     NoteForeground();
     if (bDisplaysChanging)
         return;

@@ -102,8 +102,8 @@ static void CopyRights(LPCSTR from, LPCSTR to) {
     SetFileSecurityA(to, DACL_SECURITY_INFORMATION, rights);
 }
 
-// Access to a target that is open is denied: the error does not tell it from one without the right to delete.
-static DWORD ReasonNotReplaced() {
+// A target that is open is reported as a denied access, as a missing right to delete it is.
+static DWORD ReplaceError() {
     const DWORD error = GetLastError();
     return error == ERROR_ACCESS_DENIED ? ERROR_SHARING_VIOLATION : error;
 }
@@ -112,14 +112,14 @@ static DWORD ReasonNotReplaced() {
 static bool ReplaceStored(const Paths& paths) {
     CopyRights(paths.stored, paths.copy);
     while (!MoveFileExA(paths.copy, paths.stored, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        if (!WaitIfOpen(ReasonNotReplaced()))
+        if (!WaitIfOpen(ReplaceError()))
             return false;
     return true;
 }
 
 static bool SaveByCopy(const Paths& paths, void (*save)(LPCSTR file), bool (*isComplete)(LPCSTR file)) {
     save(paths.copy);
-    return !bWriteFailed && FlushToDisk(paths.copy) && isComplete(paths.copy) && ReplaceStored(paths);
+    return !bSaveFailed && FlushToDisk(paths.copy) && isComplete(paths.copy) && ReplaceStored(paths);
 }
 
 void SaveAtomically(LPCSTR file, void (*save)(LPCSTR file), bool (*isComplete)(LPCSTR file)) {
@@ -130,6 +130,8 @@ void SaveAtomically(LPCSTR file, void (*save)(LPCSTR file), bool (*isComplete)(L
     const CopyResult result = MakeCopy(paths);
     if (result == FOLDER_DENIED)
         return save(file);
-    if (result == COPY_FAILED || !SaveByCopy(paths, save, isComplete))
-        DeleteCopy(paths);
+    if (result == COPY_MADE && SaveByCopy(paths, save, isComplete))
+        return;
+    BeginSave(); // waits anew: what is left behind, nobody would delete
+    DeleteCopy(paths);
 }

@@ -62,25 +62,13 @@ int ReadIniText(LPCSTR file, LPCSTR key, char* text, int size) {
         GetPrivateProfileStringA(SETTINGS_SECTION, key, "", text, static_cast<DWORD>(size), file));
 }
 
-// Errors that the next values would meet too. Any other is about one value, and does not fail the save.
-static bool FailsSave(DWORD error) {
-    switch (error) {
-    case ERROR_DISK_FULL:
-    case ERROR_HANDLE_DISK_FULL:
-    case ERROR_NOT_ENOUGH_QUOTA:
-    case ERROR_SHARING_VIOLATION:
-    case ERROR_LOCK_VIOLATION: return true;
-    default: return false;
-    }
-}
-
 void WriteIniText(LPCSTR file, LPCSTR key, LPCSTR text) {
+    if (bSaveFailed)
+        return;
     while (!WritePrivateProfileStringA(SETTINGS_SECTION, key, text, file)) {
         const DWORD error = GetLastError();
-        if (WaitIfOpen(error))
-            continue;
-        bWriteFailed |= FailsSave(error);
-        return;
+        if (!WaitIfOpen(error))
+            return NoteWriteError(error);
     }
 }
 

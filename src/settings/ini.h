@@ -19,7 +19,7 @@ constexpr int LINE_SIZE = 64;
 // unchanged if the key is absent or negative. A value that is not a number counts as 0.
 int ReadIniInt(LPCSTR file, LPCSTR key, int* target);
 
-// A failed write leaves the stored value unchanged.
+// A failed write leaves the stored value unchanged. Once the save has failed, nothing is written.
 void WriteIniInt(LPCSTR file, LPCSTR key, int number);
 
 // Reads a value into `text`, at most `size` bytes with the terminator. The number of characters; 0 if the key

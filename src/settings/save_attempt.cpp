@@ -1,5 +1,8 @@
 #include "settings/save_attempt.h"
 
+#include <algorithm>
+#include <iterator>
+
 // A virus scanner, a backup, or a program that reads the settings holds a file open for a moment. One that is
 // open for longer is left alone: the user waits for the save.
 static const int MAX_PAUSES = 10;
@@ -7,11 +10,11 @@ static const DWORD PAUSE = 20; // milliseconds
 
 static int pauses;
 
-bool bWriteFailed;
+bool bSaveFailed;
 
 void BeginSave() {
     pauses = 0;
-    bWriteFailed = false;
+    bSaveFailed = false;
 }
 
 bool WaitIfOpen(DWORD error) {
@@ -22,4 +25,15 @@ bool WaitIfOpen(DWORD error) {
     ++pauses;
     Sleep(PAUSE);
     return true;
+}
+
+// The disk is full or gone, or the file is not to be had: other values would be missing too.
+static const DWORD FILE_ERRORS[] = {ERROR_ACCESS_DENIED,     ERROR_NOT_READY,        ERROR_WRITE_FAULT,
+                                    ERROR_SHARING_VIOLATION, ERROR_LOCK_VIOLATION,   ERROR_DISK_FULL,
+                                    ERROR_HANDLE_DISK_FULL,  ERROR_NOT_ENOUGH_QUOTA, ERROR_USER_MAPPED_FILE,
+                                    ERROR_NETNAME_DELETED};
+
+void NoteWriteError(DWORD error) {
+    if (std::find(std::begin(FILE_ERRORS), std::end(FILE_ERRORS), error) != std::end(FILE_ERRORS))
+        bSaveFailed = true;
 }

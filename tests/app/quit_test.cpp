@@ -57,11 +57,12 @@ TEST_F(Quit, AtLogoffFoldsEverythingWithinSecondsAndAsksNothing) {
     Desk.trace.clear();
     LogOff();
     EXPECT_EQ(Desk.now - before, 3000U);
+    EXPECT_EQ(Desk.rememberedRects[far].left, 76) << "its program ended after Quorl";
     const auto lastCall = [](const std::string& call) {
         return std::find(Desk.trace.rbegin(), Desk.trace.rend(), call);
     };
-    EXPECT_LT(lastCall("Shell_NotifyIconA"), lastCall("MoveFileExA"))
-        << "saved before Explorer is waited for";
+    EXPECT_EQ(CountCalls("MoveFileExA"), 1);
+    EXPECT_LT(lastCall("Shell_NotifyIconA"), lastCall("MoveFileExA")) << "saved first";
     EXPECT_TRUE(Desk.tray.empty() && Desk.hotkeys.empty() && Desk.quitPosted && !Desk.files.empty());
     for (const HWND window : hung) {
         WakeWindow(window);

@@ -89,6 +89,7 @@ TEST_F(Profile, CopyReplacesTheFileAndAReadOnlyOneCannotBeDeleted) {
             CreateFileA((value == "1" ? copy : file).c_str(), GENERIC_WRITE,
                         FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
         EXPECT_FALSE(replace()) << "open";
+        EXPECT_EQ(GetLastError(), value == "1" ? ERROR_SHARING_VIOLATION : ERROR_ACCESS_DENIED);
         EXPECT_TRUE(FlushFileBuffers(open) && CloseHandle(open));
         EXPECT_TRUE(replace());
         EXPECT_EQ(GetFileAttributesA(copy.c_str()), INVALID_FILE_ATTRIBUTES);

@@ -29,4 +29,8 @@ TEST_F(Refresh, NoticesAMovedOrClosedWindow) {
     KillWindow(other);
     Wait(100);
     EXPECT_EQ(num_windows, 2);
+    bQuitting = true;
+    KillWindow(editor);
+    Wait(100);
+    EXPECT_EQ(num_windows, 2) << "the table belongs to the fold";
 }

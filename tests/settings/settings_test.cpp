@@ -90,9 +90,12 @@ TEST_F(Settings, AFailedSaveLosesNothing) {
     EXPECT_TRUE(Desk.ownRights.contains(SETTINGS_FILE)) << "replacing keeps the rights";
     const int writes = CountCalls("WritePrivateProfileStringA");
     EXPECT_GT(writes, NUM_ACTIONS);
+    const DWORD errors[] = {ERROR_ACCESS_DENIED,    ERROR_NOT_READY,        ERROR_WRITE_FAULT,
+                            ERROR_DISK_FULL,        ERROR_HANDLE_DISK_FULL, ERROR_NOT_ENOUGH_QUOTA,
+                            ERROR_USER_MAPPED_FILE, ERROR_NETNAME_DELETED};
     for (int nth = 1; nth <= writes; ++nth) {
-        const DWORD full = nth % 2 ? ERROR_DISK_FULL : ERROR_HANDLE_DISK_FULL;
-        EXPECT_EQ(FilesAfterSaving(before, {"WritePrivateProfileStringA", nth, false, full}), before);
+        const DWORD error = errors[static_cast<std::size_t>(nth) % std::size(errors)];
+        EXPECT_EQ(FilesAfterSaving(before, {"WritePrivateProfileStringA", nth, false, error}), before);
     }
     for (const DWORD error : {ERROR_DISK_FULL, ERROR_PATH_NOT_FOUND})
         EXPECT_EQ(FilesAfterSaving(before, {"CopyFileA", 1, false, error}), before) << "no copy: " << error;
@@ -118,6 +121,7 @@ TEST_F(Settings, AFileThatIsOpenIsWaitedForAFifthOfASecond) {
     const std::pair<const char*, DWORD> steps[] = {{"DeleteFileA", ERROR_SHARING_VIOLATION},
                                                    {"CopyFileA", ERROR_LOCK_VIOLATION},
                                                    {"WritePrivateProfileStringA", ERROR_SHARING_VIOLATION},
+                                                   {"WritePrivateProfileStringA", ERROR_LOCK_VIOLATION},
                                                    {"CreateFileA", ERROR_SHARING_VIOLATION},
                                                    {"MoveFileExA", ERROR_SHARING_VIOLATION},
                                                    {"MoveFileExA", ERROR_ACCESS_DENIED}};
@@ -131,7 +135,9 @@ TEST_F(Settings, AFileThatIsOpenIsWaitedForAFifthOfASecond) {
         EXPECT_EQ(Desk.now - start, 400U);
     }
     Desk.openFiles = {SETTINGS_FILE};
-    EXPECT_EQ(FilesAfterSaving(before), before);
+    const DWORD start = Desk.now;
+    EXPECT_EQ(FilesAfterSaving(before, {"CopyFileA", 1, false, ERROR_SHARING_VIOLATION, 4}), before);
+    EXPECT_EQ(Desk.now - start, 200U) << "in all";
 }
 
 TEST(PortableMode, UsesTheFileBesideTheProgram) {

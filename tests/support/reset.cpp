@@ -6,7 +6,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
+#include <vector>
 
 // Where the linker puts the variables of src/.
 extern "C" {
@@ -18,20 +20,15 @@ extern unsigned char __stop_quorl_bss;   // NOLINT(bugprone-reserved-identifier)
 
 constexpr std::size_t PAGE = 4096;
 
-// Byte by byte, because AddressSanitizer's memcpy would report its red zones between the
-// variables. Most of the memory is unused rows of tables: until they are written, all their pages are the
-// same page of zeros, which stays in the cache.
+// Byte by byte, because AddressSanitizer's memcpy would report its red zones between the variables.
 __attribute__((no_sanitize("address", "undefined"))) static void
 CopyChanges(const unsigned char* from, unsigned char* to, std::size_t count) {
-    for (std::size_t start = 0; start < count; start += PAGE) {
-        const std::size_t end = std::min(start + PAGE, count);
-        unsigned char difference = 0;
-        for (std::size_t at = start; at < end; ++at)
-            difference |= static_cast<unsigned char>(from[at] ^ to[at]);
-        for (std::size_t at = start; difference && at < end; ++at)
-            if (to[at] != from[at])
-                to[at] = from[at];
-    }
+    unsigned char difference = 0;
+    for (std::size_t at = 0; at < count; ++at)
+        difference |= static_cast<unsigned char>(from[at] ^ to[at]);
+    for (std::size_t at = 0; difference && at < count; ++at)
+        if (to[at] != from[at])
+            to[at] = from[at];
 }
 
 // Saves the range at the first call, restores it at later ones.
@@ -39,18 +36,33 @@ static void SaveOrRestore(unsigned char** saved, unsigned char* start, const uns
     const auto size = static_cast<std::size_t>(stop - start);
     if (*saved)
         return CopyChanges(*saved, start, size);
-    void* const zeros = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (zeros == MAP_FAILED)
-        std::abort();
-    *saved = static_cast<unsigned char*>(zeros);
+    *saved = new unsigned char[size];
     CopyChanges(start, *saved, size);
 }
 
+// Zeros the range, which may start within a page. Most of it is unused rows of tables: their pages do not
+// exist until they are touched.
+static void Clear(unsigned char* start, unsigned char* stop) {
+    static const unsigned char zeros[PAGE] = {};
+    static std::vector<unsigned char> exists;
+    unsigned char* const first = start - reinterpret_cast<std::uintptr_t>(start) % PAGE;
+    const auto size = static_cast<std::size_t>(stop - first);
+    exists.resize(size / PAGE + 1);
+    if (mincore(first, size, exists.data()))
+        std::abort();
+    for (std::size_t page = 0; page * PAGE < size; ++page) {
+        unsigned char* const from = std::max(start, first + page * PAGE);
+        unsigned char* const to = std::min(stop, first + (page + 1) * PAGE);
+        if (exists[page] & 1)
+            CopyChanges(zeros, from, static_cast<std::size_t>(to - from));
+    }
+}
+
 void ResetProgram() {
-    static unsigned char *data, *bss;
+    static unsigned char* data;
     FreeControls();
     SaveOrRestore(&data, &__start_quorl_data, &__stop_quorl_data);
-    SaveOrRestore(&bss, &__start_quorl_bss, &__stop_quorl_bss);
+    Clear(&__start_quorl_bss, &__stop_quorl_bss);
     const bool recording = Desk.recording;
     Desk = {};
     Desk.recording = recording;

@@ -49,15 +49,17 @@ POINT OnMap(LONG x, LONG y) {
     return at;
 }
 
-// Clicks on the map until the view is there.
+// Clicks on the map until the view is there. Under Wine a slow program sees the keys as they are when it
+// reads the click.
 void GoByMap(const char* step, int key, int button, POINT at, LONG x, LONG y) {
-    Retry([&] { return ViewIsAt(x, y); },
-          [&] {
-              RectAfterMoving(QuorlWindow(), at);
-              HoldKey(key, true);
-              Click(button);
-              HoldKey(key, false);
-          });
+    const auto isThere = [&] { return ViewIsAt(x, y); };
+    Retry(isThere, [&] {
+        RectAfterMoving(QuorlWindow(), at);
+        HoldKey(key, true);
+        Click(button);
+        Eventually(isThere, true, 2000);
+        HoldKey(key, false);
+    });
     SeeView(step, x, y);
 }
 

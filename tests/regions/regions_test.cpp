@@ -12,12 +12,13 @@ TEST_F(Regions, SteppingWrapsAroundInBothDirections) {
     AddRegion("region", 2048, 0);
     AddRegion("region", 100, 700); // contains a corner of the first one too
     std::vector<LONG> lefts;       // first from outside all of them
-    for (const ActionId id : {ACTION_PREVIOUS_REGION, ACTION_PREVIOUS_REGION, ACTION_PREVIOUS_REGION,
-                              ACTION_NEXT_REGION, ACTION_NEXT_REGION, ACTION_NEXT_REGION}) {
+    for (const ActionId id :
+         {ACTION_PREVIOUS_REGION, ACTION_PREVIOUS_REGION, ACTION_PREVIOUS_REGION, ACTION_PREVIOUS_REGION,
+          ACTION_NEXT_REGION, ACTION_NEXT_REGION, ACTION_NEXT_REGION}) {
         RunAction(id);
         lefts.push_back(VDesk.left);
     }
-    EXPECT_EQ(lefts, (std::vector<LONG>{1024, 100, 2048, 100, 1024, 2048}));
+    EXPECT_EQ(lefts, (std::vector<LONG>{1024, 100, 2048, 1024, 2048, 100, 1024}));
 }
 
 TEST_F(Regions, TheFirstTenHaveDigitsThatOutliveThem) {

@@ -101,7 +101,7 @@ void CloseBy(HWND dialog, int id) {
 }
 
 void CloseByKey(HWND dialog, WORD key) {
-    PressKeys({key});
+    Retry([dialog] { return !IsWindow(dialog); }, [key] { PressKeys({key}); });
     Require(WaitForEnd(dialog), "the end of the dialog");
 }
 

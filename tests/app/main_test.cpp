@@ -68,6 +68,8 @@ TEST_F(Process, FoldsWindowsOnceOnACrash) {
     const HWND far = OpenWindow("far", {1100, 200, 1300, 300});
     WindowOf(far).response = DeskResponse::Fails;
     WindowOf(far).error = 87; // would be reported otherwise
+    WindowOf(OpenWindow("hung", {1100, 200, 1300, 300})).response = DeskResponse::TimesOut;
+    OpenWindow("far", {1100, 200, 1300, 300});
     std::vector<LONG> results;
     Desk.script.assign(2, [&] {
         SendMessageA(MainWnd, WM_DISPLAYCHANGE, 0, 0); // nothing moves until the displays have settled
@@ -77,7 +79,7 @@ TEST_F(Process, FoldsWindowsOnceOnACrash) {
     });
     WinMain(nullptr, nullptr, nullptr, 0);
     EXPECT_EQ(results, std::vector<LONG>(2, EXCEPTION_CONTINUE_SEARCH));
-    EXPECT_EQ(CountCalls("SendMessageTimeoutA"), 2);
+    EXPECT_EQ(CountCalls("SendMessageTimeoutA"), 4);
     EXPECT_TRUE(CalledInOrder({"SendMessageTimeoutA", "EnumWindows", "SendMessageTimeoutA"}))
         << "not while a tick of another thread fills the table";
 }

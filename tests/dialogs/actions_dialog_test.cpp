@@ -31,6 +31,7 @@ TEST_F(ActionsDialog, EachTabShowsItsActionsAndBindings) {
     for (const bool bMouse : {true, false}) {
         Choose(IDC_ACTIONS_TABS, bMouse);
         EXPECT_EQ(Control(IDC_ACTIONS_LIST).itemCount, bMouse ? 79 : 103);
+        EXPECT_EQ(WindowOf(Item(IDC_ACTIONS_GROUP)).title, bMouse ? "Mouse" : "Keyboard");
         EXPECT_EQ(IsWindowVisible(Item(IDC_ACTIONS_LEFT)), bMouse);
         for (const int id : {IDC_ACTIONS_KEYS, IDC_ACTIONS_WIN, IDC_ACTIONS_WARNING})
             EXPECT_NE(IsWindowVisible(Item(id)), bMouse);

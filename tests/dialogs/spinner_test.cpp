@@ -41,4 +41,8 @@ TEST_F(Spinner, AHeldButtonRepeatsUntilItIsReleased) {
     Press(UP);
     for (int tick = 0; tick < 3; ++tick)
         EXPECT_EQ(ValueAfter(250), 3);
+    Release();
+    StateOfSpinner(spinner)->value = 0;
+    Press(DOWN);
+    EXPECT_EQ(ValueAfter(0), 0);
 }

@@ -48,6 +48,12 @@ TEST_F(Frames, AMaximizedWindowIsCompletelyInView) {
     RebuildWindowTable();
     RunAction(ACTION_NEXT_IN_VIEW);
     EXPECT_EQ(Desk.foreground, snapped) << "the second, behind that one";
+    WindowFrame frame{};
+    const HWND low = OpenWindow("at the bottom", {500, 400, 900, 1087});
+    WindowOf(low).margins = Rect(7, 0, 7, 6);
+    ReadWindowFrame(low, &frame);
+    EXPECT_EQ(frame.visible.bottom + frame.margins.bottom, 1087) << "both corrected";
+    EXPECT_EQ(frame.visible.bottom, 1080);
 }
 
 TEST_F(Frames, CommandsAndTheMapAlignWhatTheUserSees) {
@@ -60,6 +66,12 @@ TEST_F(Frames, CommandsAndTheMapAlignWhatTheUserSees) {
     EXPECT_EQ(VisibleRect(window).left, 0);
     RunAction(ACTION_ACTIVE_LEFT_MAX);
     EXPECT_EQ(VisibleRect(window).left, 0) << "clamped";
+    for (const auto& [left, stored] : {std::pair(-4, "=1"), std::pair(-50, "=-50")}) {
+        MoveWindow(MainWnd, left, 2, 200, 100, TRUE);
+        RunAction(ACTION_SAVE_SETTINGS);
+        EXPECT_NE(Desk.files["quorl.ini"].find("quorl_pos.left" + std::string(stored) + "\r\n"),
+                  std::string::npos);
+    }
     MoveWindow(MainWnd, 2, 2, 200, 100, TRUE);
     RunAction(ACTION_TOOLWIN_LEFT_MIN);
     EXPECT_EQ(VisibleRect(MainWnd).left, 0) << "snapped";

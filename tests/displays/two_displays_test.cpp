@@ -137,6 +137,7 @@ TEST_F(DisplayChange, TheViewShowsTheSamePartOfTheDesktop) {
     RunAction(ACTION_VIEW_TO_LEFT);
     EXPECT_EQ(RectOf(onRight), Rect(100, 100, 500, 500));
     RunAction(ACTION_SCREEN_RIGHT);
+    RunAction(ACTION_VIEW_DOWN_MAX);
     const RECT view = VDesk;
     ChangeDisplays({{Primary.rect, Primary.work, "another"}, {Left.rect, Left.work, "one more"}});
     Wait(1500);

@@ -121,7 +121,9 @@ TEST_F(HookMouse, FocusFollowsTheMouseToALivingProgram) {
     child.owner = editor;
     for (const DeskResponse response : {DeskResponse::Hung, DeskResponse::Responds}) {
         WindowOf(editor).response = response;
+        Desk.beeps.clear();
         SendHookMessage(WM_MOUSEMOVE, MIDDLE);
+        EXPECT_EQ(Desk.beeps.size(), 1U);
         EXPECT_EQ(GetForegroundWindow() == editor, response == DeskResponse::Responds);
     }
     EXPECT_EQ(LastStatus(), "\u0416");

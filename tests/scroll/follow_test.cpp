@@ -36,6 +36,7 @@ TEST_F(Follow, BringsTheActiveWindowToTheMiddleOfTheView) {
     EXPECT_EQ(CountCalls("EnumWindows"), 3) << "each tick refreshes the map";
 
     ScrollView(MainWnd, 0, 0, SV_ABSOLUTE, 0);
+    EXPECT_EQ(Desk.foreground, MainWnd);
     Wait(100);
     EXPECT_EQ(VDesk.left, 0) << "where the user scrolls the view stays";
     Desk.foreground = editor;

@@ -17,6 +17,7 @@ TEST_F(Refresh, OnlyComparesRectsForElevenQuietTicks) {
         EXPECT_EQ(Desk.trace.size(), 4 * tick);
         RefreshTimer(MainWnd, WM_TIMER, REFRESH_TIMER, Desk.now);
     }
+    EXPECT_EQ(CountCalls("EnumWindows"), 1);
     for (int tick = 0; tick < 11; ++tick)
         RefreshTimer(MainWnd, WM_TIMER, REFRESH_TIMER, Desk.now); // from the first one again
     EXPECT_EQ(CountCalls("EnumWindows"), 1);

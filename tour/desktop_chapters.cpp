@@ -76,18 +76,19 @@ void ClickOnTheMap() {
 // foreground a capture gets no moves outside the window there.
 void DragTheMap() {
     const RECT wanted = Moved(WindowRect(QuorlWindow()), 60, -60);
-    const POINT at = OnMap(2 * SCREEN_W, SCREEN_H);
-    RectAfterMoving(QuorlWindow(), at);
-    PressMouse(VK_LBUTTON, true);
-    MoveMouse(at.x + 30, at.y - 30);
-    const RECT now = Eventually(
-        [&] {
-            return RectAfterMoving(QuorlWindow(), {at.x + 60, at.y - 60});
-        },
-        wanted);
-    PressMouse(VK_LBUTTON, false);
+    const auto isThere = [&] { return WindowRect(QuorlWindow()) == wanted; };
+    Retry(isThere, [&] {
+        const RECT map = WindowRect(QuorlWindow());
+        const POINT at = OnMap(2 * SCREEN_W, SCREEN_H);
+        const LONG right = wanted.left - map.left, down = wanted.top - map.top;
+        RectAfterMoving(QuorlWindow(), at);
+        PressMouse(VK_LBUTTON, true);
+        MoveMouse(at.x + right / 2, at.y + down / 2);
+        Eventually([&] { return RectAfterMoving(QuorlWindow(), {at.x + right, at.y + down}); }, wanted, 2000);
+        PressMouse(VK_LBUTTON, false);
+    });
     SayRect("left button held while the mouse moves", "the map", QuorlWindow());
-    Require(now == wanted, "the map under the mouse");
+    Require(isThere(), "the map under the mouse");
 }
 
 // Under Wine on a busy machine a menu closes again at once now and then, and loses keys at first.
@@ -110,9 +111,22 @@ void OpenMenuByKeys() {
     });
 }
 
+// Under Wine on a busy machine another program now and then takes the foreground back, and with it the keys.
+void ReturnForegroundToTheMenu() {
+    const auto hasForeground = [] { return GetForegroundWindow() == QuorlWindow(); };
+    if (hasForeground())
+        return;
+    Say("  (Quorl gets the foreground back from \"%s\")", TextOf(GetForegroundWindow()).c_str());
+    SetForegroundWindow(QuorlWindow());
+    Eventually(hasForeground, true, 2000);
+}
+
 void ChooseFromMenu(std::initializer_list<WORD> keys) {
     const auto isClosed = [] { return OpenedMenu() == nullptr; };
-    Retry(isClosed, [&] { PressInTurn(keys); });
+    Retry(isClosed, [&] {
+        ReturnForegroundToTheMenu();
+        PressInTurn(keys);
+    });
     Require(isClosed(), "the end of the menu");
 }
 
@@ -177,7 +191,10 @@ int CountMenus() {
 // The last entry. Home makes it the same however many keys were lost before.
 void OpenRegionsMenu() {
     const auto isOpen = [] { return CountMenus() == 2; };
-    Retry(isOpen, [] { PressInTurn({VK_HOME, VK_UP, VK_RIGHT}); });
+    Retry(isOpen, [] {
+        ReturnForegroundToTheMenu();
+        PressInTurn({VK_HOME, VK_UP, VK_RIGHT});
+    });
     Require(isOpen(), "the menu of regions");
 }
 

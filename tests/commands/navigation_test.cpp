@@ -4,8 +4,8 @@ class Navigation : public RunningQuorl {};
 
 TEST_F(Navigation, ActivatesTheNeighbourWithoutScrolling) {
     const HWND left = OpenWindow("\u0416", {0, 100, 200, 300});
-    const HWND right = OpenWindow("right", {1500, 100, 1700, 300}); // off the screen
-    OpenWindow("", {400, 500, 600, 600});                           // below, but without a title
+    const HWND right = OpenWindow("right", {1500, 100, 1700, 300});        // off the screen
+    OpenWindow("", {400, 500, 600, 600});                                  // below, but without a title
     SetWindowPos(left, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE); // above the map
     const HWND middle = OpenAndList("middle", {400, 100, 600, 300});
     const auto reached = [](ActionId id, HWND from) {

@@ -55,7 +55,11 @@ void SeeView(const char* step, LONG x, LONG y) {
 void SeeKeys(const char* step, std::initializer_list<WORD> keys, LONG x, LONG y) {
     const HWND notepad = Programs[NOTEPAD].window;
     const RECT before = WindowRect(notepad);
-    Retry([&] { return WindowRect(notepad) != before; }, [&] { Require(PressKeys(keys), step); });
+    const auto hasMoved = [&] { return WindowRect(notepad) != before; };
+    Retry(hasMoved, [&] {
+        Require(PressKeys(keys), step);
+        Eventually(hasMoved, true); // pressed twice, the view would go twice as far
+    });
     SeeView(step, x, y);
 }
 

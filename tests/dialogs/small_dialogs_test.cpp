@@ -53,6 +53,12 @@ TEST_F(SmallDialogs, ResizeKeepsTheCornerAndTheChosenWindow) {
     EXPECT_EQ(RectOf(mail), Rect(500, 100, 1100, 200));
 }
 
+TEST_F(SmallDialogs, AboutNamesTheProgramAndItsLicense) {
+    Open(ACTION_ABOUT);
+    EXPECT_EQ(Text(IDC_ABOUT_PROGRAM).find("Quorl "), 0U);
+    EXPECT_NE(Text(IDC_ABOUT_PROGRAM).find("MIT License"), std::string::npos);
+}
+
 TEST_F(SmallDialogs, HelpTextShrinksWithTheDialog) {
     Open(ACTION_HELP);
     const LONG height = Height(RectOf(Item(IDOK)));

@@ -115,6 +115,7 @@ EQUIVALENT = (
     ("ReportRefusal", r"sizeof text", "the buffer is never full"),
     ("ResetRegions", r"-> 0, count$", "both take the larger of the two"),
     ("(none)", r"WCHAR text\[TEXT_LIMIT.*-> 5$", "one character more changes nothing"),
+    ("TipPaint", r"SetBkMode", "only a person can judge the look"),
     ("LoadTrayImage", r"SM_CYSMICON|IMAGE_ICON", "only a real desktop shows it"),
     ("IsCloaked IsScaledByWindows CopyRights", r" = 0;", "written by the call before it is read"),
     ("OnSpinnerDestroy", r"GWLP_USERDATA", "the window receives nothing afterwards"),

@@ -9,9 +9,13 @@ UINT GetWindowsDirectoryA(LPSTR folder, UINT size) {
                : static_cast<UINT>(CopyText(FOLDER, folder, static_cast<int>(size)));
 }
 
-std::string FileKey(const std::string& path) {
+const std::string& FileKey(LPCSTR path) {
     static const std::string prefix = LowerCase(FOLDER) + '\\';
-    std::string key = LowerCase(path);
+    static std::string known, key;
+    if (known == path)
+        return key; // a save asks hundreds of times for the same one
+    known = path;
+    key = LowerCase(known);
     if (key.starts_with(prefix))
         key.erase(0, prefix.size());
     return key;
@@ -112,7 +116,7 @@ BOOL SetFileAttributesA(LPCSTR file, DWORD attributes) {
 }
 
 DWORD GetFileAttributesA(LPCSTR file) {
-    const std::string key = FileKey(file);
+    const std::string& key = FileKey(file);
     if (CallFails("GetFileAttributesA") || !Desk.files.contains(key)) {
         SetLastError(ERROR_FILE_NOT_FOUND);
         return INVALID_FILE_ATTRIBUTES;
@@ -122,7 +126,7 @@ DWORD GetFileAttributesA(LPCSTR file) {
 
 // The handle is the address of the open file's name.
 HANDLE CreateFileA(LPCSTR file, DWORD, DWORD, SECURITY_ATTRIBUTES*, DWORD, DWORD, HANDLE) {
-    const std::string key = FileKey(file);
+    const std::string& key = FileKey(file);
     if (CallFails("CreateFileA"))
         return INVALID_HANDLE_VALUE;
     if (!Desk.files.contains(key)) {

@@ -114,8 +114,8 @@ int CopyWide(const std::wstring& from, LPWSTR to, int limit);
 std::string TextFrom(LPARAM text);
 int TextTo(const std::string& utf8, LPARAM buffer, std::size_t limit);
 
-// Key of a file in `Desk.files`.
-std::string FileKey(const std::string& path);
+// Key of a file in `Desk.files`; valid until the next call.
+const std::string& FileKey(LPCSTR path);
 
 std::string LowerCase(std::string text);
 

@@ -183,7 +183,7 @@ static std::string WithoutHalfLetters(std::string text) {
 BOOL WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file) {
     if (CallFails("WritePrivateProfileStringA"))
         return FALSE;
-    const std::string path = FileKey(file);
+    const std::string& path = FileKey(file);
     if (Desk.protectedFiles.contains(path)) {
         SetLastError(ERROR_ACCESS_DENIED);
         return FALSE;
@@ -200,7 +200,10 @@ BOOL WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR 
         content += "[" + std::string(section) + "]\r\n";
     Section& extended = isNew ? SectionOf(content, section) : stored;
     const Line target = isNew ? Line{extended.end, extended.end} : found->second;
-    const std::string line = std::string(key) + "=" + value + (isNew ? "\r\n" : "");
+    std::string line = key;
+    line += '=';
+    line += value;
+    line += isNew ? "\r\n" : "";
     content.replace(target.start, target.end - target.start, line);
     PutLine(&extended, lowerKey, target, line);
     return TRUE;

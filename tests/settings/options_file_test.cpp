@@ -36,6 +36,8 @@ TEST_F(OptionsFile, TheMenuIsReadAsFarAsItIsStored) {
     EXPECT_EQ(Menu(), (Entries{7, 8, 0, 77, 49, -1, 56, 57, -1, 59}));
     Load("quorl_menu=\nquorl_menu_count=3\n");
     EXPECT_EQ(Menu(), (Entries{7, 8, 0}));
+    Load("quorl_menu_count=0\n");
+    EXPECT_EQ(Menu(), Entries{});
     Load("quorl_menu_count=5\nquorl_menu=5000|123|122|-2147483648|-7\n");
     EXPECT_EQ(Menu(), (Entries{-1, -1, 122, INT_MIN, -7})) << "what is no action is a separator";
 }

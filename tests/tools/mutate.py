@@ -113,11 +113,11 @@ EQUIVALENT = (
     ("ToAnsiPath", r"-> WC_NO_BEST_FIT_CHARS, CP_ACP$", "the in-memory desktop has one code page at a time"),
     ("AwaitRefresh", r"WM_NULL.*-> 1$", "the message has no parameters"),
     ("ReportRefusal", r"sizeof text", "the buffer is never full"),
-    ("ResetRegions", r"-> 0, count$", "both take the larger of the two"),
+    ("ResetRegions SetMenuCount", r"-> 0, count$", "both take the larger of the two"),
     ("(none)", r"WCHAR text\[TEXT_LIMIT.*-> 5$", "one character more changes nothing"),
     ("TipPaint", r"SetBkMode", "only a person can judge the look"),
     ("LoadTrayImage", r"SM_CYSMICON|IMAGE_ICON", "only a real desktop shows it"),
-    ("IsCloaked IsScaledByWindows CopyRights", r" = 0;", "written by the call before it is read"),
+    ("IsCloaked IsScaledByWindows CopyRights AwaitRefresh", r" = 0;", "written by the call before it is read"),
     ("OnSpinnerDestroy", r"GWLP_USERDATA", "the window receives nothing afterwards"),
 )
 

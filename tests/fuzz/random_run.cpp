@@ -3,6 +3,7 @@
 #include "actions/dispatch.h"
 #include "app/main.h"
 #include "core/displays.h"
+#include "core/rect.h"
 #include "dialogs/registry.h"
 #include "menus/menu_list.h"
 #include "hook/hook_message.h"
@@ -304,10 +305,16 @@ std::vector<HWND> WindowsToKeepInReach() {
     return windows;
 }
 
+// The invisible frame can be larger than the window.
+RECT VisibleNormalRect(const DeskWindow& window) {
+    return Shrink(window.normalRect, window.style & WS_THICKFRAME ? Desk.frameMargins : RECT{});
+}
+
 // Also after log-off ended its program.
 void ExpectInReach(HWND handle) {
     const DeskWindow& window = WindowOf(handle);
-    const RECT rect = FromSystem(window.style & WS_MINIMIZE ? window.normalRect : VisibleRect(handle));
+    const RECT rect =
+        FromSystem(window.style & WS_MINIMIZE ? VisibleNormalRect(window) : VisibleRect(handle));
     EXPECT_TRUE(rect.right - rect.left < 5 || rect.bottom - rect.top < 5 || IsTitleInReach(rect))
         << testing::PrintToString(rect) << " of " << testing::PrintToString(ScreenRect);
 }

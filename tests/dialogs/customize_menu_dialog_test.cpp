@@ -35,6 +35,9 @@ TEST_F(CustomizeMenuDialog, MovesActionsIntoTheMenuAndBack) {
     Choose(IDC_MENU_ACTIONS, 0);
     SetMenu({57, 54}); // as loading the settings does
     EXPECT_EQ(MenuAfter(IDC_MENU_ADD), "57 54* ") << "each action once";
+    Choose(IDC_MENU_LIST, 0);
+    SetMenu({54, 57});
+    EXPECT_EQ(MenuAfter(IDC_MENU_REMOVE), "54 57 beep") << "shows the new one first";
 }
 
 TEST_F(CustomizeMenuDialog, ARemovalSelectsTheNextEqualEntry) {

@@ -12,9 +12,11 @@ class ActionMenu : public MapTest {};
 // What the user sees: check marks, separators and submenus.
 static std::string TextOf(HMENU menu) {
     std::string text;
-    for (const DeskMenuItem& item : MenuOf(menu).items)
+    for (const DeskMenuItem& item : MenuOf(menu).items) {
+        EXPECT_EQ(item.state & ~MFS_CHECKED, 0U) << item.text;
         text += (item.state & MFS_CHECKED ? "* " : "") + (item.type & MFT_SEPARATOR ? "--" : item.text) +
                 (item.submenu ? ": " + TextOf(item.submenu) : "|");
+    }
     return text;
 }
 

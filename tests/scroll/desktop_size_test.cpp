@@ -21,6 +21,7 @@ TEST_F(RunningQuorl, DesktopShrinksToOneScreen) {
         RunAction(ACTION_REMOVE_RIGHT);
     EXPECT_EQ(ChosenDesktop, Rect(0, 0, 1024, 1536));
     EXPECT_EQ(WindowOf(editor).received.size(), 5U) << "clamped to the desktop";
+    EXPECT_EQ(RectOf(editor), Rect(0, 100, 400, 400));
     RunAction(ACTION_ADD_BOTTOM);
     RunAction(ACTION_REMOVE_BOTTOM);
     RunAction(ACTION_REMOVE_TOP);

@@ -39,14 +39,13 @@ static std::size_t IndexOf(HWND window) {
 }
 
 DeskWindow& WindowOf(HWND window) {
-    return Desk.windows.at(IndexOf(window));
+    return *Desk.windows.at(IndexOf(window));
 }
 
 DeskWindow* LiveWindow(HWND window) {
     const std::size_t index = IndexOf(window);
-    if (index >= Desk.windows.size() || !Desk.windows[index].handle)
-        return nullptr;
-    return &Desk.windows[index];
+    DeskWindow* const row = index < Desk.windows.size() ? Desk.windows[index].get() : nullptr;
+    return row && row->handle ? row : nullptr;
 }
 
 DeskWindow* ResolveHandle(HWND window) {
@@ -80,7 +79,7 @@ HWND AddWindow(DeskWindow window) {
     const DeskWindow* owner = isChild ? nullptr : LiveWindow(window.owner);
     window.exStyle |= owner ? owner->exStyle & WS_EX_TOPMOST : 0;
     std::vector<HWND>& others = isChild ? WindowOf(window.owner).children : Desk.zOrder;
-    Desk.windows.push_back(std::move(window));
+    Desk.windows.push_back(std::make_unique<DeskWindow>(std::move(window)));
     others.push_back(handle);
     if (!isChild)
         Raise(handle);

@@ -8,6 +8,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -253,9 +254,10 @@ struct DeskAffectedWindow {
 };
 
 struct DeskState {
-    std::deque<DeskWindow> windows; // every window ever created; handles are indices into it
-    HWND desktop = nullptr;         // GetDesktopWindow
-    std::vector<HWND> zOrder;       // existing top-level windows, topmost first
+    // Every window ever created; handles are indices into it.
+    std::vector<std::unique_ptr<DeskWindow>> windows;
+    HWND desktop = nullptr;   // GetDesktopWindow
+    std::vector<HWND> zOrder; // existing top-level windows, topmost first
     std::map<std::string, WNDCLASSA> classes;
     HWND foreground = nullptr;
     HWND focus = nullptr;

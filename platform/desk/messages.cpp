@@ -104,31 +104,40 @@ static bool Matches(const Filter& filter, HWND window, UINT message) {
            (any || (message >= filter.first && message <= filter.last));
 }
 
-static bool TakePosted(MSG* message, const Filter& filter) {
-    const auto found = std::find_if(Desk.queue.begin(), Desk.queue.end(), [&filter](const MSG& posted) {
+static auto NextPosted(const Filter& filter) {
+    return std::find_if(Desk.queue.begin(), Desk.queue.end(), [&filter](const MSG& posted) {
         return Matches(filter, posted.hwnd, posted.message);
     });
-    if (found == Desk.queue.end())
-        return false;
-    *message = *found;
-    Desk.queue.erase(found);
-    return true;
 }
 
 // WM_QUIT comes after all posted messages, whatever the filter says.
-static bool TakeQuit(MSG* message) {
-    if (!Desk.quitPosted)
+static bool FindNext(MSG* message, const Filter& filter) {
+    const auto posted = NextPosted(filter);
+    if (posted != Desk.queue.end())
+        *message = *posted;
+    else if (Desk.quitPosted)
+        *message = {nullptr, WM_QUIT, static_cast<WPARAM>(Desk.exitCode), 0, Desk.now, Desk.cursor};
+    else
         return false;
-    Desk.quitPosted = false;
-    *message = {nullptr, WM_QUIT, static_cast<WPARAM>(Desk.exitCode), 0, Desk.now, Desk.cursor};
+    return true;
+}
+
+static bool TakePosted(MSG* message, const Filter& filter) {
+    const auto posted = NextPosted(filter);
+    if (!FindNext(message, filter))
+        return false;
+    if (posted != Desk.queue.end())
+        Desk.queue.erase(posted);
+    else
+        Desk.quitPosted = false;
     return true;
 }
 
 static bool TakePaint(MSG* message, const Filter& filter) {
-    for (const DeskWindow& window : Desk.windows)
-        if (window.handle && window.procedure && window.needsPaint && IsShown(window.handle) &&
-            Matches(filter, window.handle, WM_PAINT)) {
-            *message = {window.handle, WM_PAINT, 0, 0, Desk.now, Desk.cursor};
+    for (const auto& window : Desk.windows)
+        if (window->needsPaint && window->procedure && IsShown(window->handle) &&
+            Matches(filter, window->handle, WM_PAINT)) {
+            *message = {window->handle, WM_PAINT, 0, 0, Desk.now, Desk.cursor};
             return true;
         }
     return false;
@@ -156,8 +165,8 @@ static bool TakeTimer(MSG* message, const Filter& filter) {
 // Mouse input is not filtered by window: no caller needs it.
 static bool TakeNext(MSG* message, const Filter& filter) {
     const bool takesInput = Matches(filter, filter.window, WM_MOUSEMOVE);
-    if (!TakePosted(message, filter) && !TakeQuit(message) && !(takesInput && TakeInput(message)) &&
-        !TakePaint(message, filter) && !TakeTimer(message, filter))
+    if (!TakePosted(message, filter) && !(takesInput && TakeInput(message)) && !TakePaint(message, filter) &&
+        !TakeTimer(message, filter))
         return false;
     Desk.messageTime = message->time;
     return true;
@@ -193,15 +202,6 @@ BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last) {
 }
 
 // With PM_NOREMOVE it finds posted messages and WM_QUIT only.
-static bool FindNext(MSG* message, const Filter& filter) {
-    const std::deque<MSG> queue = Desk.queue;
-    const bool quitPosted = Desk.quitPosted;
-    const bool found = TakePosted(message, filter) || TakeQuit(message);
-    Desk.queue = queue;
-    Desk.quitPosted = quitPosted;
-    return found;
-}
-
 BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT flags) {
     if (CallFails("PeekMessageA"))
         return FALSE;

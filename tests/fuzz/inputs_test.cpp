@@ -43,8 +43,8 @@ static auto OutcomeOf(const std::string& input) {
     ResetProgram();
     TestSession(input);
     std::vector<RECT> rects;
-    for (const DeskWindow& window : Desk.windows)
-        rects.push_back(window.rect);
+    for (const auto& window : Desk.windows)
+        rects.push_back(window->rect);
     return std::tuple(Desk.trace, rects, Desk.files);
 }
 

@@ -49,9 +49,9 @@ void QuorlTest::TearDown() {
 
 void FreeControls() {
     Desk.fault = {};
-    for (const DeskWindow& window : Desk.windows)
-        if (window.handle && window.procedure && window.style & WS_CHILD)
-            DestroyWindow(window.handle);
+    for (const auto& window : Desk.windows)
+        if (window->handle && window->procedure && window->style & WS_CHILD)
+            DestroyWindow(window->handle);
 }
 
 void RunningQuorl::SetUp() {

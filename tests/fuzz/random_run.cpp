@@ -35,7 +35,8 @@ struct Bytes {
     }
 };
 
-constexpr std::size_t MANY = 40; // boxes answered in one step; windows of other programs
+constexpr RECT FRAME{7, 0, 7, 7}; // the usual invisible one
+constexpr std::size_t MANY = 40;  // boxes answered in one step; windows of other programs
 
 int Faults;               // platform calls that were made to fail
 std::vector<HWND> Others; // windows of other programs, destroyed ones included
@@ -305,7 +306,6 @@ std::vector<HWND> WindowsToKeepInReach() {
     return windows;
 }
 
-// The invisible frame can be larger than the window.
 RECT VisibleNormalRect(const DeskWindow& window) {
     return Shrink(window.normalRect, window.style & WS_THICKFRAME ? Desk.frameMargins : RECT{});
 }
@@ -318,12 +318,14 @@ bool IsAboutInReach(const RECT& rect, const DeskWindow& window) {
            IsTitleInReach(Offset(rect, -miss, -miss));
 }
 
-// Also after log-off ended its program.
+// Also after log-off ended its program. The frame, which a minimized window is taken to have, can be larger
+// than the window.
 void ExpectInReach(HWND handle) {
     const DeskWindow& window = WindowOf(handle);
-    const RECT rect =
-        FromSystem(window.style & WS_MINIMIZE ? VisibleNormalRect(window) : VisibleRect(handle));
-    EXPECT_TRUE(Width(rect) < GRAB_SIZE || Height(rect) < GRAB_SIZE || IsAboutInReach(rect, window))
+    const bool minimized = window.style & WS_MINIMIZE;
+    const RECT rect = FromSystem(minimized ? VisibleNormalRect(window) : VisibleRect(handle));
+    const RECT least = minimized ? Shrink(window.normalRect, FRAME) : rect;
+    EXPECT_TRUE(Width(least) < GRAB_SIZE || Height(least) < GRAB_SIZE || IsAboutInReach(rect, window))
         << testing::PrintToString(rect) << " of " << testing::PrintToString(ScreenRect);
 }
 
@@ -366,7 +368,7 @@ void TestSession(std::string_view input) {
     const int setup = bytes.Byte();
     if (setup & COMPOSITOR) {
         InstallCompositor();
-        Desk.frameMargins = setup & FRAMES ? RECT{7, 0, 7, 7} : RECT{};
+        Desk.frameMargins = setup & FRAMES ? FRAME : RECT{};
     }
     if (setup & SCALES)
         InstallDpiFunctions();

@@ -145,12 +145,16 @@ static LONG MoveInside(LONG nearEdge, int size, LONG low, LONG high) {
     return std::max<LONG>(low, std::min<LONG>(nearEdge, Wrap(0LL + high - size)));
 }
 
-// Displays of different size leave corners of the union that no display shows, and the taskbar is topmost.
-RECT KeepInReach(const RECT& visible) {
-    if (Displays.count == 0 || IsTitleInReach(visible))
+RECT MoveIntoWorkArea(const RECT& visible) {
+    if (Displays.count == 0)
         return visible;
     const RECT work = DisplayNear(visible).work;
     return Offset(visible,
                   Wrap(0LL + MoveInside(visible.left, Width(visible), work.left, work.right) - visible.left),
                   Wrap(0LL + MoveInside(visible.top, Height(visible), work.top, work.bottom) - visible.top));
+}
+
+// Displays of different size leave corners of the union that no display shows, and the taskbar is topmost.
+RECT KeepInReach(const RECT& visible) {
+    return IsTitleInReach(visible) ? visible : MoveIntoWorkArea(visible);
 }

@@ -65,6 +65,9 @@ RECT OuterEdges(POINT point);
 // Whether a window can be grabbed: at least 5 by 5 pixels of its title are in a work area.
 bool IsTitleInReach(const RECT& visible);
 
-// The rectangle moved into the nearest work area if its title is out of reach; a larger one starts at the
-// corner. Unchanged without a display.
+// The rectangle moved into the nearest work area; a larger one starts at the corner. Unchanged without a
+// display.
+RECT MoveIntoWorkArea(const RECT& visible);
+
+// The same if its title is out of reach; else unchanged.
 RECT KeepInReach(const RECT& visible);

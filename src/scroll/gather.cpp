@@ -67,10 +67,16 @@ static int ReadFoldRows() {
     return num_windows;
 }
 
+// Windows leaves out the taskbar of the display where it sees the rectangle. Across two displays that may be
+// another one than was expected, and the title may end up above both.
 static void FoldNormalRect(HWND window) {
     RECT normal{};
+    if (!ReadNormalRect(window, &normal) || IsTitleInReach(normal))
+        return;
+    const RECT folded = FoldRect(normal);
+    SetNormalRect(window, folded);
     if (ReadNormalRect(window, &normal) && !IsTitleInReach(normal))
-        SetNormalRect(window, FoldRect(normal));
+        SetNormalRect(window, MoveIntoWorkArea(folded));
 }
 
 static MoveResult FoldWindow(const FoldRow& row, UINT timeout) {

@@ -60,6 +60,20 @@ TEST_F(Reach, AMinimizedWindowIsRestoredInReach) {
     EXPECT_EQ(Desk.foreground, active);
 }
 
+// Folded, it is mostly on the left display. Windows takes the height of that taskbar away, sees it mostly on
+// the primary display then, and does not add the height again.
+TEST_F(Reach, AMinimizedWindowAcrossTwoDisplaysIsRestoredInReach) {
+    const DeskDisplay left{Rect(-1920, 100, 0, 1180), Rect(-1920, 140, 0, 1180),
+                           "left"}; // a taskbar at the top
+    const DeskDisplay above{Rect(1920, -200, 2560, 280), Rect(1920, -200, 2560, 280), "above"};
+    ChangeDisplays({Primary, left, above});
+    Wait(2000);
+    const HWND across = OpenWindow("across", Rect(-625 + 4480, 5 + 1380, 500 + 4480, 505 + 1380));
+    ShowWindow(across, SW_MINIMIZE);
+    Exit();
+    EXPECT_EQ(WindowOf(across).normalRect, Rect(-1118, 140, 7, 640));
+}
+
 TEST_F(Reach, TheEndOfTheSessionDuringAFoldReplacesIt) {
     const HWND next = OpenWindow("next", {100, 100, 500, 400});
     record.response = DeskResponse::Fails; // the session ends while the message box about it is open

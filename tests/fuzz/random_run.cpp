@@ -348,7 +348,7 @@ void ExpectWindowsAndResourcesBack(bool logsOff, const std::vector<std::pair<HWN
         EXPECT_EQ(RectOf(window), rect);
     EXPECT_TRUE(Desk.tray.empty());
     for (const DeskHotkey& hotkey : Desk.hotkeys) // those of regions end with the process
-        EXPECT_TRUE(hotkey.window != MainWnd || hotkey.id >= FIRST_REGION_ID);
+        EXPECT_TRUE(hotkey.window != MainWnd || hotkey.id >= FIRST_REGION_ID || Faults);
     for (const DeskMenu& menu : Desk.menus)
         EXPECT_TRUE(!menu.live || Faults);
     EXPECT_EQ(Hook.set, (std::vector<int>{1, 0}));

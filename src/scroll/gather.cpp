@@ -67,8 +67,9 @@ static int ReadFoldRows() {
     return num_windows;
 }
 
-// Windows leaves out the taskbar of the display where it sees the rectangle. Across two displays that may be
-// another one than was expected, and the title may end up above both.
+// Windows counts a normal rectangle from the work area of the display that it finds for it. For one that lies
+// across two displays this may not be the display that SetNormalRect counted from, and the title may end up
+// above both.
 static void FoldNormalRect(HWND window) {
     RECT normal{};
     if (!ReadNormalRect(window, &normal) || IsTitleInReach(normal))

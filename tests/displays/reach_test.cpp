@@ -60,11 +60,11 @@ TEST_F(Reach, AMinimizedWindowIsRestoredInReach) {
     EXPECT_EQ(Desk.foreground, active);
 }
 
-// Folded, it is mostly on the left display. Windows takes the height of that taskbar away, sees it mostly on
-// the primary display then, and does not add the height again.
+// Folded, it is mostly on the left display. Counted from that display's work area it is 40 pixels higher,
+// which is mostly on the primary display, so Windows does not add these pixels again.
 TEST_F(Reach, AMinimizedWindowAcrossTwoDisplaysIsRestoredInReach) {
-    const DeskDisplay left{Rect(-1920, 100, 0, 1180), Rect(-1920, 140, 0, 1180),
-                           "left"}; // a taskbar at the top
+    const RECT belowItsTaskbar = Rect(-1920, 140, 0, 1180);
+    const DeskDisplay left{Rect(-1920, 100, 0, 1180), belowItsTaskbar, "left"};
     const DeskDisplay above{Rect(1920, -200, 2560, 280), Rect(1920, -200, 2560, 280), "above"};
     ChangeDisplays({Primary, left, above});
     Wait(2000);

@@ -111,7 +111,7 @@ static auto NextPosted(const Filter& filter) {
 }
 
 // WM_QUIT comes after all posted messages, whatever the filter says.
-static bool FindNext(MSG* message, const Filter& filter) {
+static bool FindPostedOrQuit(MSG* message, const Filter& filter) {
     const auto posted = NextPosted(filter);
     if (posted != Desk.queue.end())
         *message = *posted;
@@ -122,9 +122,9 @@ static bool FindNext(MSG* message, const Filter& filter) {
     return true;
 }
 
-static bool TakePosted(MSG* message, const Filter& filter) {
+static bool TakePostedOrQuit(MSG* message, const Filter& filter) {
     const auto posted = NextPosted(filter);
-    if (!FindNext(message, filter))
+    if (!FindPostedOrQuit(message, filter))
         return false;
     if (posted != Desk.queue.end())
         Desk.queue.erase(posted);
@@ -165,8 +165,8 @@ static bool TakeTimer(MSG* message, const Filter& filter) {
 // Mouse input is not filtered by window: no caller needs it.
 static bool TakeNext(MSG* message, const Filter& filter) {
     const bool takesInput = Matches(filter, filter.window, WM_MOUSEMOVE);
-    if (!TakePosted(message, filter) && !(takesInput && TakeInput(message)) && !TakePaint(message, filter) &&
-        !TakeTimer(message, filter))
+    if (!TakePostedOrQuit(message, filter) && !(takesInput && TakeInput(message)) &&
+        !TakePaint(message, filter) && !TakeTimer(message, filter))
         return false;
     Desk.messageTime = message->time;
     return true;
@@ -206,7 +206,7 @@ BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT flags) 
     if (CallFails("PeekMessageA"))
         return FALSE;
     const Filter filter{window, first, last};
-    return flags & PM_REMOVE ? TakeNext(message, filter) : FindNext(message, filter);
+    return flags & PM_REMOVE ? TakeNext(message, filter) : FindPostedOrQuit(message, filter);
 }
 
 LONG GetMessageTime() {

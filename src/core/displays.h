@@ -69,5 +69,5 @@ bool IsTitleInReach(const RECT& visible);
 // display.
 RECT MoveIntoWorkArea(const RECT& visible);
 
-// The same if its title is out of reach; else unchanged.
+// MoveIntoWorkArea if the title is out of reach; else unchanged.
 RECT KeepInReach(const RECT& visible);

@@ -67,15 +67,17 @@ static int ReadFoldRows() {
     return num_windows;
 }
 
-// Windows counts a normal rectangle from the work area of the display that it finds for it. For one that lies
-// across two displays this may not be the display that SetNormalRect counted from, and the title may end up
-// above both.
+// A normal rectangle is stored in workspace coordinates. Windows picks the display from the stored rectangle,
+// SetNormalRect from the one on the screen. Across two displays they can differ, the taskbar's size is not
+// added back, and the title can be out of reach; inside one work area they do not differ.
 static void FoldNormalRect(HWND window) {
     RECT normal{};
     if (!ReadNormalRect(window, &normal) || IsTitleInReach(normal))
         return;
+    const int fold = FoldCount;
     const RECT folded = FoldRect(normal);
-    SetNormalRect(window, folded);
+    if (!SetNormalRect(window, folded) || fold != FoldCount)
+        return; // it does not respond, or another fold, during the ping
     if (ReadNormalRect(window, &normal) && !IsTitleInReach(normal))
         SetNormalRect(window, MoveIntoWorkArea(folded));
 }

@@ -242,16 +242,16 @@ bool ReadNormalRect(HWND window, RECT* rect) {
 }
 
 // SW_SHOWMINIMIZED, which GetWindowPlacement returns, would activate the window.
-void SetNormalRect(HWND window, const RECT& rect) {
+bool SetNormalRect(HWND window, const RECT& rect) {
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     if (!IsAliveToMove(window) || !GetWindowPlacement(window, &placement))
-        return;
+        return false;
     const RECT outer = Grow(rect, NormalMargins(window));
     const POINT offset = WorkspaceOffset(window, outer);
     placement.rcNormalPosition = ToSystem(Offset(outer, -offset.x, -offset.y));
     placement.showCmd = IsIconic(window) ? SW_SHOWMINNOACTIVE : SW_SHOWNA;
-    SetWindowPlacement(window, &placement);
+    return SetWindowPlacement(window, &placement) != 0;
 }
 
 bool MoveOwnWindow(HWND window, const WindowFrame& frame, const RECT& visible) {

@@ -57,8 +57,9 @@ void ResizeIfAlive(HWND window, SIZE size);
 // What the user will see of a minimized or maximized window when it is restored. False if the window is gone.
 bool ReadNormalRect(HWND window, RECT* rect);
 
-// Changes that rectangle without activating the window or restoring it. Nothing happens if it is not alive.
-void SetNormalRect(HWND window, const RECT& rect);
+// Changes that rectangle without activating the window or restoring it. False, and nothing happens, if the
+// window is not alive or Windows refuses.
+bool SetNormalRect(HWND window, const RECT& rect);
 
 // Moves one of Quorl's own windows, and sizes it. False if Windows refuses, or while the displays change.
 bool MoveOwnWindow(HWND window, const WindowFrame& frame, const RECT& visible);

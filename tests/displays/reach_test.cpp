@@ -68,10 +68,16 @@ TEST_F(Reach, AMinimizedWindowAcrossTwoDisplaysIsRestoredInReach) {
     const DeskDisplay above{Rect(1920, -200, 2560, 280), Rect(1920, -200, 2560, 280), "above"};
     ChangeDisplays({Primary, left, above});
     Wait(2000);
-    const HWND across = OpenWindow("across", Rect(-625 + 4480, 5 + 1380, 500 + 4480, 505 + 1380));
-    ShowWindow(across, SW_MINIMIZE);
+    const int x = ScreenW(), y = ScreenH(); // one screen further: out of reach
+    const HWND across = OpenWindow("across", Rect(x - 625, y + 5, x + 500, y + 505));
+    const HWND hung = OpenWindow("hung", Rect(x + 300, y + 200, x + 700, y + 500));
+    for (const HWND minimized : {across, hung})
+        ShowWindow(minimized, SW_MINIMIZE);
+    WindowOf(hung).response = DeskResponse::TimesOut;
+    Desk.trace.clear();
     Exit();
     EXPECT_EQ(WindowOf(across).normalRect, Rect(-1118, 140, 7, 640));
+    EXPECT_EQ(CountCalls("SendMessageTimeoutA"), 4) << "twice for the first one, once for each other";
 }
 
 TEST_F(Reach, TheEndOfTheSessionDuringAFoldReplacesIt) {

@@ -318,8 +318,8 @@ bool IsAboutInReach(const RECT& rect, const DeskWindow& window) {
            IsTitleInReach(Offset(rect, -miss, -miss));
 }
 
-// Also after log-off ended its program. The frame, which a minimized window is taken to have, can be larger
-// than the window.
+// Also after log-off ended its program. Quorl takes the usual frame away from a minimized window, which may
+// leave nothing.
 void ExpectInReach(HWND handle) {
     const DeskWindow& window = WindowOf(handle);
     const bool minimized = window.style & WS_MINIMIZE;
